@@ -1,0 +1,9 @@
+# What every target of ours is compiled with: all warnings, each an error, and the sanitizers when asked for.
+add_library(tvorel_options INTERFACE)
+target_compile_options(tvorel_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual -Werror)
+if(TVOREL_SANITIZE)
+    target_compile_options(tvorel_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(tvorel_options INTERFACE -fsanitize=address,undefined)
+endif()

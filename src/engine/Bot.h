@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "engine/BotState.h"
+#include "engine/UserVariables.h"
+#include "profile/Profile.h"
+
+class Host;
+class Script;
+
+/// Advanced by the script timer. The hours are never advanced, so the clock wraps to 0:00 every hour.
+struct ElapsedClock {
+    std::int16_t hours = 0, minutes = 0, seconds = 0;
+};
+
+/// The walk toward a target square, one diagonal step a tick; (0, 0) after arrival or giving up.
+struct Walk {
+    Square target;
+    std::int16_t direction = 0;  ///< 1, 3, 7 or 9 as on the keypad; 0 for none
+    bool tried1 = false, tried3 = false, tried7 = false, tried9 = false;
+    std::int16_t detourReferenceX = 0;  ///< nothing ever sets it
+};
+
+/// What the menus and the status bar of a window show of the session.
+struct SessionStatus {
+    bool canConnect = true, canDisconnect = false, canStandAlone = false;
+    std::string botName;     ///< "|" shown as blanks
+    std::string connection;  ///< "Connected", "Disconnected", or empty before the first connection
+};
+
+/// Where the program is in a file that it reads or runs, so that a fault can name the place.
+struct Place {
+    std::string file;      ///< UTF-8; empty when nowhere
+    std::size_t line = 0;  ///< counted from 1
+};
+
+/// Everything one bot is. Every operation takes the Bot it works on, so that one process can run many.
+struct Bot {
+    explicit Bot(Host& itsHost) : host(itsHost) {}
+
+    BotState state;
+    UserVariables variables;
+    Profile profile;
+    std::shared_ptr<const Script> script;
+    std::int16_t currentEvent = -1;  ///< the code of the event being handled; -1 while no cause is tested
+    ElapsedClock clock;
+    Walk walk;
+    SessionStatus status;
+    Place place;
+    Host& host;
+};

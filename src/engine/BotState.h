@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// A square of the map. y counts rows downward; only even x values name squares.
+struct Square {
+    std::int16_t x = 0, y = 0;
+    friend bool operator==(const Square&, const Square&) = default;
+};
+
+/// What the game tells of a furre's looks: a ten-character colour code, and one character each for the rest.
+struct Appearance {
+    std::string colors, gender, species, markings;
+
+    /// The four as one text, the way the protocol writes them.
+    std::string Code() const { return colors + gender + species + markings; }
+};
+
+struct Furre {
+    std::string name, desc, badge;
+    Appearance looks;
+};
+
+/// The seven numbers of a DragonSpeak trigger notice.
+struct DragonSpeakNotice {
+    Square from, into;
+    std::int16_t trigger = 0;
+    Square triggerAt;
+};
+
+struct Movement {
+    std::string colors;
+    Square from, into;
+    std::int16_t frame = 0;
+};
+
+struct StandardTime {
+    std::int16_t hour = 0, minute = 0, second = 0;
+    std::string median;  ///< "AM" or "PM", as received
+};
+
+struct Dice {
+    std::int16_t amount = 0, sides = 0, total = 0;
+    std::vector<std::int16_t> values{0};  ///< the single dice; one 0 before the first roll
+};
+
+/// Everything a bot knows of the game. Each field is named after the text variable that reads it; a furre's name has
+/// "|" or blanks as the game sent it.
+struct BotState {
+    std::string message;
+    Movement move;
+
+    Furre vorel;           ///< the bot's own character
+    std::string password;  ///< for the login line only: never shown, logged or recorded
+    Square vorelFrom, vorelInto;
+    std::int16_t vorelFrame = 0;
+
+    Furre player;           ///< who spoke or acted in a speech-type event
+    std::string playerTag;  ///< the badge code of that furre, or the whole "#A" line it came in
+
+    Furre look;
+    Square breath, flame;
+
+    std::string mapFile, map, previousMap;
+    std::string dreamName;
+    Square dream;
+    std::vector<Square> dreams;  ///< the squares that hold dreams; a walk never steps on one
+
+    DragonSpeakNotice dsbot, ds;
+    StandardTime fst;
+    Dice dice;
+
+    std::string visitors, newVisitors;  ///< names joined with ", "
+    std::int16_t visitorCount = 0;
+
+    std::string requester;                   ///< the furre of a request, notice or roll
+    std::string onlineName;                  ///< the furre of an online answer
+    std::string arrived, present, departed;  ///< the visitor of events 21, 22 and 23
+    std::string cookieGiver, cookieName;
+
+    bool shutDown = false;         ///< text lines are no longer shown; cleared by the next login
+    bool requestAccepted = false;  ///< consumed by the next "joins you." or "summons you."
+};

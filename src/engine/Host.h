@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+class Files;
+
+/// A moment of the computer's clock, in local time.
+struct LocalTime {
+    int year = 1970, month = 1, day = 1;
+    int hour = 0, minute = 0, second = 0;  ///< hour 0 to 23
+};
+
+/// All that a bot may ask of the world around it. Texts are Windows-1252. A host translates and decides nothing.
+class Host {
+  public:
+    virtual ~Host() = default;
+
+    virtual bool IsServerConnected() const = 0;
+    virtual bool IsClientConnected() const = 0;
+
+    /// Sends bytes as they stand; called while connected only.
+    virtual void WriteToServer(std::string_view bytes) = 0;
+    virtual void WriteToClient(std::string_view bytes) = 0;
+
+    /// The connect and disconnect routines of the bot's session.
+    virtual void Connect() = 0;
+    virtual void Disconnect() = 0;
+
+    /// Appends a line to the console; ClearConsole empties it.
+    virtual void ShowConsoleLine(std::string_view line) = 0;
+    virtual void ClearConsole() = 0;
+
+    /// Shows a message that the user must acknowledge.
+    virtual void ShowMessage(std::string_view title, std::string_view text) = 0;
+
+    /// Tells that Bot::status (menus, status panels) has changed.
+    virtual void StatusChanged() = 0;
+
+    /// Switches the movement timer, whose every tick is modMovement::Tick, on or off.
+    virtual void SwitchMovementTimer(bool enabled) = 0;
+
+    virtual LocalTime Now() const = 0;
+
+    /// Today's date in the user's short format, and the time in the user's long format.
+    virtual std::string ShortDate(const LocalTime& time) const = 0;
+    virtual std::string LongTime(const LocalTime& time) const = 0;
+
+    /// A uniform draw, at least 0 and below 1.
+    virtual double Random() = 0;
+
+    virtual Files& Disk() = 0;
+
+    /// The program's own folder (UTF-8), where data files live.
+    virtual std::string ProgramFolder() const = 0;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+struct Bot;
+
+/// Replaces every text variable in text by its current value: user variables first, then the furre of the current
+/// event, the words of the message, and the rest of the bot's state, each a plain replacement whose result the next
+/// one sees. Variables are told apart by case; an unknown one stays as written.
+/// @param text  any text, not only a script line
+std::string ExpandVariables(const Bot& bot, std::string_view text);

@@ -1,0 +1,13 @@
+#include "profile/Profile.h"
+
+#include <algorithm>
+
+#include "text/Text.h"
+
+bool IsIgnored(const Profile& profile, std::string_view name) {
+    if (profile.ignores.empty()) return false;
+    const auto folded = [](std::string_view text) { return LowerCase(BarsToBlanks(text)); };
+    const std::string wanted = folded(name);
+    return std::any_of(profile.ignores.begin(), profile.ignores.end(),
+                       [&](const std::string& entry) { return folded(entry) == wanted; });
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// The game server's name, and the port the game has always used.
+inline constexpr char kGameServer[] = "lightbringer.furcadia.com";
+inline constexpr std::int16_t kDefaultPort = 6000;
+
+/// What is saved in a ".tvm" file, Windows-1252 as it stands there, and the choices made beside it.
+struct Profile {
+    std::string path;                       ///< of the ".tvm" file, UTF-8; empty while it has no name yet
+    std::string clientPath, characterPath;  ///< as written in the file
+    std::string owners, maps;               ///< names joined with ", "; the bot may speak on these maps
+    std::int16_t connectClient = 0;         ///< 1: client mode
+    std::int16_t closeClient = 0;           ///< 1: close the client's window when the session ends
+    bool signatureFirst = false;            ///< where the product signature goes in the description
+    std::int16_t port = kDefaultPort;
+    std::string scriptPath;
+    std::vector<std::string> ignores;
+    bool dirty = false;  ///< changed since it was last saved; not stored
+
+    std::string serverAddress = kGameServer;  ///< chosen in the configuration; not stored
+
+    bool IsClientMode() const { return connectClient == 1; }
+};
+
+/// True when the name, "|" read as a blank and letter case apart, stands on the ignore list.
+bool IsIgnored(const Profile& profile, std::string_view name);
