@@ -52,6 +52,7 @@ class Cast {
 /// @return what is wrong with the line; empty when nothing is
 std::string ReadStep(std::string_view rest, TourStep& step, Cast& cast) {
     if (!TakePause(rest, step.after)) return "after \"after\" comes a number of seconds, 0 to 3600";
+    if (rest.empty()) return "something has to happen then, if only \"pause\"";
     const TourPhrase* const phrase = FindTourPhrase(rest, step);
     if (!phrase) return "nobody knows how to do this: " + ToUtf8(rest);
     if (!step.name.empty() && !IsFurreName(step.name)) return "this is no name of a furre: " + ToUtf8(step.name);
