@@ -17,6 +17,7 @@ class PlaceMark {
     PlaceMark& operator=(const PlaceMark&) = delete;
 
     void AtLine(std::size_t line) { bot_.place.line = line; }
+    void NextLine() { ++bot_.place.line; }
 
   private:
     Bot& bot_;

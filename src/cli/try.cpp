@@ -1,0 +1,111 @@
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "cli/Report.h"
+#include "cli/Verbs.h"
+#include "platform/DiskFiles.h"
+#include "profile/ProfileFile.h"
+#include "rehearsal/Rehearsal.h"
+#include "text/Fault.h"
+#include "text/Text.h"
+
+namespace {
+
+constexpr int kExpectationFailed = 1;
+constexpr int kUnreadable = 2;
+constexpr int kFault = 3;
+
+struct TryOptions {
+    std::string profile, session, now, folder = ".";
+    std::optional<std::uint32_t> seed;
+};
+
+/// "YYYY-MM-DD HH:MM:SS"
+std::optional<LocalTime> ReadTime(const std::string& text) {
+    LocalTime time;
+    char end = 0;
+    const int read = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &time.year, &time.month, &time.day,
+                                 &time.hour, &time.minute, &time.second, &end);
+    const bool inRange = time.month >= 1 && time.month <= 12 && time.day >= 1 && time.day <= 31 && time.hour >= 0 &&
+                         time.hour <= 23 && time.minute >= 0 && time.minute <= 59 && time.second >= 0 &&
+                         time.second <= 59;
+    return read == 6 && inRange ? std::optional(time) : std::nullopt;
+}
+
+std::string ReadSession(const DiskFiles& disk, const std::string& path) {
+    if (path != "-") return disk.Read(path);
+    return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
+}
+
+int Unreadable(const std::string& what) {
+    std::cerr << "vorel try: " << what << "\n";
+    return kUnreadable;
+}
+
+/// Each line as 8-bit text, like the session's own; somebody reading along at a terminal gets the terminal's
+/// encoding instead, and no password.
+void PrintLine(const std::string& line) {
+    static const bool terminal = isatty(STDOUT_FILENO) != 0;
+    constexpr std::string_view kSent = "sent ";
+    if (!terminal) {
+        std::cout << line << "\n";
+    } else if (line.starts_with(kSent)) {
+        std::cout << kSent << ToUtf8(WithoutPassword(line.substr(kSent.size()))) << "\n";
+    } else {
+        std::cout << ToUtf8(line) << "\n";
+    }
+}
+
+int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& session) {
+    try {
+        const ProfileLoad load = LoadProfile(rehearsal.bot, options.profile);
+        if (!load.missingScript.empty()) std::cerr << MissingScript(options.profile, load) << "\n";
+        rehearsal.Play(session);
+    } catch (const RuntimeFault& fault) {
+        PrintLine("fault " + std::string(fault.Name()));
+        std::cerr << "vorel try: " << DescribeFault(fault, rehearsal.bot) << "\n";
+        return kFault;
+    }
+    return rehearsal.FailedExpectations() == 0 ? 0 : kExpectationFailed;
+}
+
+int Try(const TryOptions& options) {
+    DiskFiles disk;
+    if (!disk.Find(options.profile)) return Unreadable("there is no profile " + options.profile);
+    WrittenSession session;
+    try {
+        session = ParseSession(ReadSession(disk, options.session));
+    } catch (const RuntimeFault&) {
+        return Unreadable("the session " + options.session + " can't be read");
+    }
+    if (session.error) return Unreadable(options.session + ", " + *session.error);
+
+    Rehearsal rehearsal(disk, options.folder, PrintLine);
+    if (!options.now.empty()) {
+        const std::optional<LocalTime> now = ReadTime(options.now);
+        if (!now) return Unreadable("--now wants \"YYYY-MM-DD HH:MM:SS\", not \"" + options.now + "\"");
+        rehearsal.host.FreezeClock(*now);
+    }
+    if (options.seed) rehearsal.host.SeedRandom(*options.seed);
+    return Play(rehearsal, options, session);
+}
+
+}  // namespace
+
+void AddTryVerb(CLI::App& app, VerbAction& action) {
+    const auto options = std::make_shared<TryOptions>();
+    CLI::App* const verb = app.add_subcommand("try", "Rehearse a bot: play a written session to it, without a network");
+    verb->add_option("PROFILE", options->profile, "the bot's profile (.tvm)")->required();
+    verb->add_option("SESSION", options->session, "the written session; - for standard input")->required();
+    verb->add_option("--now", options->now, "freeze the computer's clock at \"YYYY-MM-DD HH:MM:SS\"");
+    verb->add_option("--seed", options->seed, "fix the random draw");
+    verb->add_option("--folder", options->folder, "where the bot's data files are (default: the current folder)");
+    verb->callback([options, &action] { action = [options] { return Try(*options); }; });
+}

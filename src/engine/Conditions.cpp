@@ -1,0 +1,428 @@
+#include "engine/Conditions.h"
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <optional>
+#include <string_view>
+
+#include "engine/Arguments.h"
+#include "engine/Bot.h"
+#include "engine/Compare.h"
+#include "engine/DataFile.h"
+#include "engine/Events.h"
+#include "engine/Variables.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
+
+namespace {
+
+/// How a condition's arguments are found on its line.
+enum class Form { NoArguments, WholeText, WholeTextFrom6, First, FirstAndLast, ThreeInTurn };
+
+struct Arguments {
+    std::string_view first, second, third;
+};
+
+/// A predicate answers nothing when the current event has nothing to compare; then neither it nor its negation holds.
+using Predicate = std::optional<bool> (*)(const Bot&, const Arguments&);
+
+struct Condition {
+    std::int16_t number;
+    bool wanted;
+    Form form;
+    Predicate holds;
+};
+
+bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
+    return UpperCase(text).find(UpperCase(part)) != std::string::npos;
+}
+
+// --- the furre of the event ------------------------------------------------------------------------------------
+
+bool IsSpeechEvent(GameEvent event) {
+    return event == EventSpeech || event == EventShout || event == EventWhisper || event == EventSelfWhisper;
+}
+
+const Appearance* DescribedLooks(const Bot& bot) {
+    if (IsSpeechEvent(bot.currentEvent)) return &bot.state.player.looks;
+    return bot.currentEvent == EventLookResult ? &bot.state.look.looks : nullptr;
+}
+
+/// Kept on purpose: fewer events have a name here than have one for "[player]".
+const std::string* EventFurreName(const Bot& bot) {
+    if (IsSpeechEvent(bot.currentEvent)) return &bot.state.player.name;
+    switch (bot.currentEvent) {
+        case EventLookResult:
+            return &bot.state.look.name;
+        case EventVisitorArrived:
+            return &bot.state.arrived;
+        case EventVisitorPresent:
+            return &bot.state.present;
+        case EventVisitorLeft:
+            return &bot.state.departed;
+        case EventJoinRequest:
+        case EventJoinInvite:
+        case EventJoined:
+        case EventSummoned:
+        case EventSummonedAfterAccept:
+        case EventJoinedAfterAccept:
+            return &bot.state.requester;
+        case EventPlayerOnline:
+        case EventPlayerOffline:
+            return &bot.state.onlineName;
+        default:
+            return nullptr;
+    }
+}
+
+std::optional<bool> FurreNameEquals(const Bot& bot, const Arguments& arguments) {
+    const std::string* const name = EventFurreName(bot);
+    return name ? std::optional(LooseEquals(*name, arguments.first)) : std::nullopt;
+}
+
+template <std::string Appearance::*Field, char Code>
+std::optional<bool> LooksAre(const Bot& bot, const Arguments&) {
+    const Appearance* const looks = DescribedLooks(bot);
+    return looks ? std::optional(LooseEquals(looks->*Field, std::string(1, Code))) : std::nullopt;
+}
+template <char Code>
+constexpr Predicate SpeciesIs = LooksAre<&Appearance::species, Code>;
+template <char Code>
+constexpr Predicate MarkingsAre = LooksAre<&Appearance::markings, Code>;
+template <char Code>
+constexpr Predicate GenderIs = LooksAre<&Appearance::gender, Code>;
+
+std::optional<bool> ColorsEqual(const Bot& bot, const Arguments& arguments) {
+    const Appearance* const looks = DescribedLooks(bot);
+    return looks ? std::optional(LooseEquals(looks->colors, arguments.first)) : std::nullopt;
+}
+
+std::optional<bool> ColorsOrMoverColorsEqual(const Bot& bot, const Arguments& arguments) {
+    if (bot.currentEvent == EventFurreMoved) return LooseEquals(bot.state.move.colors, arguments.first);
+    return ColorsEqual(bot, arguments);
+}
+
+// --- badges ----------------------------------------------------------------------------------------------------
+
+/// The badge belongs to the furre that speaks, or to the one looked at, which of two events ever tells.
+const std::string* Badge(const Bot& bot, GameEvent lookEvent) {
+    if (IsSpeechEvent(bot.currentEvent)) return &bot.state.playerTag;
+    return bot.currentEvent == lookEvent ? &bot.state.look.badge : nullptr;
+}
+
+std::optional<bool> HasBadge(const Bot& bot, const Arguments&) {
+    const std::string* const badge = Badge(bot, EventLookResult);
+    return badge ? std::optional(!badge->empty()) : std::nullopt;
+}
+
+std::optional<bool> BadgeIsLetterI(const Bot& bot, const Arguments&) {
+    const std::string* const badge = Badge(bot, EventLookResult);
+    return badge ? std::optional(LooseEquals(*badge, "i")) : std::nullopt;
+}
+
+/// The codes that the conditions from (1:40) on look for, in the order of the conditions: ten groups of four
+/// consecutive codes and a lone one, then the codes by their place within the group.
+constexpr std::int16_t kFirstBadgeSet = 40;
+constexpr std::string_view kBadgeSets[] = {
+    "QRST", "EFGH", "j",     "]^_`",       "ABCD",       "IJKL",       "efgh",        "UVWX",
+    "MNOP", "abcd", "YZ[\\", "QE]AIeUMaY", "RF^BJfVNbZ", "SG_CKgWOc[", "TH`DLhXPd\\",
+};
+
+// Kept on purpose: for a look these wait for the description, where the conditions above wait for the look's result.
+template <std::int16_t Number>
+std::optional<bool> BadgeIsIn(const Bot& bot, const Arguments&) {
+    const std::string* const badge = Badge(bot, EventLookDescription);
+    if (!badge) return std::nullopt;
+    return badge->size() == 1 && kBadgeSets[(Number - kFirstBadgeSet) / 2].find((*badge)[0]) != std::string_view::npos;
+}
+
+// --- texts -----------------------------------------------------------------------------------------------------
+
+const std::string& MessageOf(const Bot& bot) { return bot.state.message; }
+const std::string& LookDescOf(const Bot& bot) { return bot.state.look.desc; }
+const std::string& MapOf(const Bot& bot) { return bot.state.map; }
+const std::string& PreviousMapOf(const Bot& bot) { return bot.state.previousMap; }
+const std::string& VisitorsOf(const Bot& bot) { return bot.state.visitors; }
+const std::string& DreamNameOf(const Bot& bot) { return bot.state.dreamName; }
+const std::string& OwnersOf(const Bot& bot) { return bot.profile.owners; }
+const std::string& MapsOf(const Bot& bot) { return bot.profile.maps; }
+
+using TextOf = const std::string& (*)(const Bot&);
+using TextTest = bool (*)(std::string_view text, std::string_view argument);
+
+template <TextOf Field, TextTest Test>
+std::optional<bool> Text(const Bot& bot, const Arguments& arguments) {
+    return Test(Field(bot), arguments.first);
+}
+
+template <TextTest Test>
+std::optional<bool> Both(const Bot&, const Arguments& arguments) {
+    return Test(arguments.first, arguments.second);
+}
+
+bool SameText(std::string_view a, std::string_view b) { return a == b; }
+
+// Kept on purpose: both arguments still end with "}", so a text is found only at the very end of the other.
+bool Contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
+
+// --- numbers and squares ---------------------------------------------------------------------------------------
+
+std::int16_t HourOf(const Bot& bot) { return bot.state.fst.hour; }
+std::int16_t MinuteOf(const Bot& bot) { return bot.state.fst.minute; }
+std::int16_t SecondOf(const Bot& bot) { return bot.state.fst.second; }
+std::int16_t DiceAmountOf(const Bot& bot) { return bot.state.dice.amount; }
+std::int16_t DiceSidesOf(const Bot& bot) { return bot.state.dice.sides; }
+std::int16_t DiceTotalOf(const Bot& bot) { return bot.state.dice.total; }
+
+template <std::int16_t (*Field)(const Bot&), typename Comparison = std::equal_to<>>
+std::optional<bool> Number(const Bot& bot, const Arguments& arguments) {
+    return Comparison{}(double{static_cast<double>(Field(bot))}, LeadingNumber(arguments.first));
+}
+
+template <typename Comparison>
+std::optional<bool> Numbers(const Bot&, const Arguments& arguments) {
+    return Comparison{}(LeadingNumber(arguments.first), LeadingNumber(arguments.second));
+}
+
+bool IsAt(Square square, const Arguments& arguments) {
+    return LeadingNumber(arguments.first) == square.x && LeadingNumber(arguments.second) == square.y;
+}
+
+Square MoveFromOf(const Bot& bot) { return bot.state.move.from; }
+Square MoveIntoOf(const Bot& bot) { return bot.state.move.into; }
+Square DreamOf(const Bot& bot) { return bot.state.dream; }
+
+/// Where the furre stands after its move; both squares are the same when it only turned.
+Square MoveEndOf(const Bot& bot) {
+    return bot.state.move.from == bot.state.move.into ? bot.state.move.from : bot.state.move.into;
+}
+
+template <Square (*Field)(const Bot&)>
+std::optional<bool> SquareIs(const Bot& bot, const Arguments& arguments) {
+    return IsAt(Field(bot), arguments);
+}
+
+const DragonSpeakNotice* NoticeOf(const Bot& bot) {
+    if (bot.currentEvent == EventDsBotTrigger) return &bot.state.dsbot;
+    return bot.currentEvent == EventDsTrigger ? &bot.state.ds : nullptr;
+}
+
+template <Square DragonSpeakNotice::*Field>
+std::optional<bool> NoticeSquareIs(const Bot& bot, const Arguments& arguments) {
+    const DragonSpeakNotice* const notice = NoticeOf(bot);
+    return notice ? std::optional(IsAt(notice->*Field, arguments)) : std::nullopt;
+}
+
+std::optional<bool> NoticeTriggerIs(const Bot& bot, const Arguments& arguments) {
+    const DragonSpeakNotice* const notice = NoticeOf(bot);
+    return notice ? std::optional(LeadingNumber(arguments.first) == notice->trigger) : std::nullopt;
+}
+
+/// The first argument selects the die, counted from 1 like [die1]; the second is what it is compared with.
+template <typename Comparison>
+std::optional<bool> Die(const Bot& bot, const Arguments& arguments) {
+    const std::int16_t die = RoundTo16(LeadingNumber(arguments.first));
+    const auto& values = bot.state.dice.values;
+    if (die < 1 || static_cast<std::size_t>(die) > values.size()) throw RuntimeFault(FaultKind::SubscriptOutOfRange);
+    const double value = values[static_cast<std::size_t>(die) - 1];
+    return Comparison{}(value, LeadingNumber(arguments.second));
+}
+
+// --- the rest --------------------------------------------------------------------------------------------------
+
+std::optional<bool> IsMorning(const Bot& bot, const Arguments&) { return bot.state.fst.median == "AM"; }
+std::optional<bool> IsAfternoon(const Bot& bot, const Arguments&) { return bot.state.fst.median == "PM"; }
+
+template <std::int16_t Flag>
+std::optional<bool> ConnectClientIs(const Bot& bot, const Arguments&) {
+    return bot.profile.connectClient == Flag;
+}
+
+std::optional<bool> FileHoldsEntry(const Bot& bot, const Arguments& arguments) {
+    const std::optional<std::string> bytes = ReadDataFile(bot, arguments.third);
+    return bytes && DataFileHolds(*bytes, arguments.second, arguments.first);
+}
+
+// clang-format off
+constexpr Condition kConditions[] = {
+    {0,   true,  Form::WholeText,      FurreNameEquals},
+    {1,   false, Form::WholeText,      FurreNameEquals},
+    {2,   true,  Form::WholeText,      Text<MessageOf, LooseEquals>},
+    {3,   false, Form::WholeText,      Text<MessageOf, LooseEquals>},
+    {4,   true,  Form::WholeText,      Text<MessageOf, LooseLike>},
+    {5,   false, Form::WholeText,      Text<MessageOf, LooseLike>},
+    {6,   true,  Form::WholeText,      Text<MessageOf, ContainsIgnoringCase>},
+    {7,   false, Form::WholeText,      Text<MessageOf, ContainsIgnoringCase>},
+    {8,   true,  Form::WholeText,      Text<LookDescOf, LooseEquals>},
+    {9,   false, Form::WholeText,      Text<LookDescOf, LooseEquals>},
+    {10,  true,  Form::WholeText,      Text<LookDescOf, LooseLike>},
+    {11,  false, Form::WholeText,      Text<LookDescOf, LooseLike>},
+    {12,  true,  Form::WholeText,      Text<LookDescOf, ContainsIgnoringCase>},
+    {13,  false, Form::WholeText,      Text<LookDescOf, ContainsIgnoringCase>},
+    {14,  true,  Form::NoArguments,    SpeciesIs<'#'>},
+    {15,  false, Form::NoArguments,    SpeciesIs<'#'>},
+    {16,  true,  Form::NoArguments,    MarkingsAre<'5'>},
+    {17,  false, Form::NoArguments,    MarkingsAre<'5'>},
+    {18,  true,  Form::NoArguments,    SpeciesIs<'!'>},
+    {19,  false, Form::NoArguments,    SpeciesIs<'!'>},
+    {20,  true,  Form::NoArguments,    SpeciesIs<']'>},
+    // Kept on purpose: the negations 21 and 29 look at the markings, and scripts in use count on it.
+    {21,  false, Form::NoArguments,    MarkingsAre<']'>},
+    {22,  true,  Form::NoArguments,    SpeciesIs<'"'>},
+    {23,  false, Form::NoArguments,    SpeciesIs<'"'>},
+    {24,  true,  Form::NoArguments,    SpeciesIs<'%'>},
+    {25,  false, Form::NoArguments,    SpeciesIs<'%'>},
+    {26,  true,  Form::NoArguments,    SpeciesIs<'$'>},  // its negation, 27, was never given out
+    {28,  true,  Form::NoArguments,    SpeciesIs<'?'>},
+    {29,  false, Form::NoArguments,    MarkingsAre<'?'>},
+    {30,  true,  Form::NoArguments,    GenderIs<'!'>},
+    {31,  false, Form::NoArguments,    GenderIs<'!'>},
+    {32,  true,  Form::NoArguments,    GenderIs<' '>},
+    {33,  false, Form::NoArguments,    GenderIs<' '>},
+    {34,  true,  Form::NoArguments,    GenderIs<'"'>},
+    {35,  false, Form::NoArguments,    GenderIs<'"'>},
+    {36,  true,  Form::NoArguments,    HasBadge},
+    {37,  false, Form::NoArguments,    HasBadge},
+    {38,  true,  Form::NoArguments,    BadgeIsLetterI},
+    {39,  false, Form::NoArguments,    BadgeIsLetterI},
+    {40,  true,  Form::NoArguments,    BadgeIsIn<40>},
+    {41,  false, Form::NoArguments,    BadgeIsIn<40>},
+    {42,  true,  Form::NoArguments,    BadgeIsIn<42>},
+    {43,  false, Form::NoArguments,    BadgeIsIn<42>},
+    {44,  true,  Form::NoArguments,    BadgeIsIn<44>},
+    {45,  false, Form::NoArguments,    BadgeIsIn<44>},
+    {46,  true,  Form::NoArguments,    BadgeIsIn<46>},
+    {47,  false, Form::NoArguments,    BadgeIsIn<46>},
+    {48,  true,  Form::NoArguments,    BadgeIsIn<48>},
+    {49,  false, Form::NoArguments,    BadgeIsIn<48>},
+    {50,  true,  Form::NoArguments,    BadgeIsIn<50>},
+    {51,  false, Form::NoArguments,    BadgeIsIn<50>},
+    {52,  true,  Form::NoArguments,    BadgeIsIn<52>},
+    {53,  false, Form::NoArguments,    BadgeIsIn<52>},
+    {54,  true,  Form::NoArguments,    BadgeIsIn<54>},
+    {55,  false, Form::NoArguments,    BadgeIsIn<54>},
+    {56,  true,  Form::NoArguments,    BadgeIsIn<56>},
+    {57,  false, Form::NoArguments,    BadgeIsIn<56>},
+    {58,  true,  Form::NoArguments,    BadgeIsIn<58>},
+    {59,  false, Form::NoArguments,    BadgeIsIn<58>},
+    {60,  true,  Form::NoArguments,    BadgeIsIn<60>},
+    {61,  false, Form::NoArguments,    BadgeIsIn<60>},
+    {62,  true,  Form::NoArguments,    BadgeIsIn<62>},
+    {63,  false, Form::NoArguments,    BadgeIsIn<62>},
+    {64,  true,  Form::NoArguments,    BadgeIsIn<64>},
+    {65,  false, Form::NoArguments,    BadgeIsIn<64>},
+    {66,  true,  Form::NoArguments,    BadgeIsIn<66>},
+    {67,  false, Form::NoArguments,    BadgeIsIn<66>},
+    {68,  true,  Form::NoArguments,    BadgeIsIn<68>},
+    {69,  false, Form::NoArguments,    BadgeIsIn<68>},
+    {70,  true,  Form::WholeText,      Text<MapOf, LooseEquals>},
+    {71,  false, Form::WholeText,      Text<MapOf, LooseEquals>},
+    {72,  true,  Form::WholeText,      Text<PreviousMapOf, LooseEquals>},
+    {73,  false, Form::WholeText,      Text<PreviousMapOf, LooseEquals>},
+    {74,  true,  Form::WholeText,      Text<VisitorsOf, InList>},
+    {75,  false, Form::WholeText,      Text<VisitorsOf, InList>},
+    {76,  true,  Form::First,          Number<HourOf>},
+    {77,  false, Form::First,          Number<HourOf>},
+    {78,  true,  Form::First,          Number<MinuteOf>},
+    {79,  false, Form::First,          Number<MinuteOf>},
+    {80,  true,  Form::First,          Number<SecondOf>},
+    {81,  false, Form::First,          Number<SecondOf>},
+    {82,  true,  Form::NoArguments,    IsMorning},
+    {83,  true,  Form::NoArguments,    IsAfternoon},
+    // Kept on purpose: only the positive one of these two knows the furre that moved.
+    {84,  true,  Form::WholeText,      ColorsOrMoverColorsEqual},
+    {85,  false, Form::WholeText,      ColorsEqual},
+    {86,  true,  Form::FirstAndLast,   SquareIs<MoveFromOf>},
+    {87,  false, Form::FirstAndLast,   SquareIs<MoveFromOf>},
+    {88,  true,  Form::FirstAndLast,   SquareIs<MoveIntoOf>},
+    {89,  false, Form::FirstAndLast,   SquareIs<MoveIntoOf>},
+    {90,  true,  Form::FirstAndLast,   SquareIs<MoveEndOf>},
+    {91,  false, Form::FirstAndLast,   SquareIs<MoveEndOf>},
+    {92,  true,  Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::from>},
+    {93,  false, Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::from>},
+    {94,  true,  Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::into>},
+    {95,  false, Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::into>},
+    {96,  true,  Form::First,          NoticeTriggerIs},
+    {97,  false, Form::First,          NoticeTriggerIs},
+    {98,  true,  Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
+    {99,  false, Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
+    {100, true,  Form::First,          Number<DiceAmountOf>},
+    {101, true,  Form::First,          Number<DiceSidesOf>},
+    {102, true,  Form::FirstAndLast,   Die<std::less<>>},
+    {103, true,  Form::FirstAndLast,   Die<std::less_equal<>>},
+    {104, true,  Form::FirstAndLast,   Die<std::equal_to<>>},
+    {105, true,  Form::FirstAndLast,   Die<std::greater_equal<>>},
+    {106, true,  Form::FirstAndLast,   Die<std::greater<>>},
+    {107, true,  Form::First,          Number<DiceTotalOf, std::less<>>},
+    {108, true,  Form::First,          Number<DiceTotalOf, std::less_equal<>>},
+    {109, true,  Form::First,          Number<DiceTotalOf, std::equal_to<>>},
+    {110, true,  Form::First,          Number<DiceTotalOf, std::greater_equal<>>},
+    {111, true,  Form::First,          Number<DiceTotalOf, std::greater<>>},
+    {112, true,  Form::FirstAndLast,   Numbers<std::less<>>},
+    {113, true,  Form::FirstAndLast,   Numbers<std::less_equal<>>},
+    {114, true,  Form::FirstAndLast,   Numbers<std::equal_to<>>},
+    {115, true,  Form::FirstAndLast,   Numbers<std::greater<>>},
+    {116, true,  Form::FirstAndLast,   Numbers<std::greater_equal<>>},
+    {117, true,  Form::FirstAndLast,   Both<SameText>},
+    {118, true,  Form::FirstAndLast,   Both<Like>},
+    {119, true,  Form::FirstAndLast,   Both<Contains>},
+    {120, false, Form::FirstAndLast,   Both<SameText>},
+    {121, false, Form::FirstAndLast,   Both<Like>},
+    {122, false, Form::FirstAndLast,   Both<Contains>},
+    {123, true,  Form::ThreeInTurn,    FileHoldsEntry},
+    {124, false, Form::ThreeInTurn,    FileHoldsEntry},
+    {125, true,  Form::NoArguments,    ConnectClientIs<0>},
+    {126, true,  Form::NoArguments,    ConnectClientIs<1>},
+    {127, true,  Form::WholeText,      Text<OwnersOf, InList>},
+    {128, false, Form::WholeText,      Text<OwnersOf, InList>},
+    {129, true,  Form::WholeText,      Text<MapsOf, InList>},
+    {130, false, Form::WholeText,      Text<MapsOf, InList>},
+    {131, true,  Form::WholeTextFrom6, Text<DreamNameOf, LooseEquals>},
+    {132, false, Form::WholeTextFrom6, Text<DreamNameOf, LooseEquals>},
+    {133, true,  Form::FirstAndLast,   SquareIs<DreamOf>},
+    {134, false, Form::FirstAndLast,   SquareIs<DreamOf>},
+};
+// clang-format on
+
+const Condition* FindCondition(std::int16_t number) {
+    const auto* const row =
+        std::lower_bound(std::begin(kConditions), std::end(kConditions), number,
+                         [](const Condition& condition, std::int16_t wanted) { return condition.number < wanted; });
+    return row != std::end(kConditions) && row->number == number ? row : nullptr;
+}
+
+std::optional<Arguments> FindArguments(std::string_view line, Form form) {
+    const auto single = [](std::optional<std::string_view> text) {
+        return text ? std::optional(Arguments{*text, {}, {}}) : std::nullopt;
+    };
+    switch (form) {
+        case Form::NoArguments:
+            return Arguments{};
+        case Form::WholeText:
+            return single(WholeArgument(line));
+        case Form::WholeTextFrom6:
+            return single(WholeArgument(line, 6));
+        case Form::First:
+            return single(FirstArgument(line));
+        case Form::FirstAndLast: {
+            const auto first = FirstArgument(line), last = LastArgument(line);
+            return first && last ? std::optional(Arguments{*first, *last, {}}) : std::nullopt;
+        }
+        case Form::ThreeInTurn: {
+            const auto three = ArgumentsInTurn(line, 3, 6);
+            return three ? std::optional(Arguments{(*three)[0], (*three)[1], (*three)[2]}) : std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number) {
+    line = ExpandVariables(bot, line);
+    const Condition* const condition = FindCondition(number);
+    if (!condition) return false;
+    const std::optional<Arguments> arguments = FindArguments(line, condition->form);
+    return arguments && condition->holds(bot, *arguments) == condition->wanted;
+}

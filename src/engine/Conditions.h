@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+struct Bot;
+
+/// Does the additional condition (1:n) hold for the current event? A missing brace, an unknown number, or an event
+/// that has nothing to compare make it false, negations too.
+/// @param line    the condition's line; replaced by its expansion
+/// @param number  n
+/// @throws RuntimeFault SubscriptOutOfRange, for a die that was not rolled; PathOrFileAccess, for a data file that
+///         exists and can't be read
+bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number);

@@ -1,0 +1,87 @@
+#include "net/BracketNotices.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "engine/Bot.h"
+#include "engine/Dispatcher.h"
+#include "net/DiceLines.h"
+#include "net/ServerLine.h"
+
+namespace {
+
+constexpr std::size_t kNameAt = 6;
+constexpr std::string_view kYour = "Your";
+
+void AcceptRequest(Bot& bot) { bot.state.requestAccepted = true; }
+
+template <GameEvent Event>
+void Raise(Bot& bot) {
+    RunScript(bot, Event);
+}
+
+/// Raises an event, and another one when a request had been accepted before.
+template <GameEvent Event, GameEvent AfterAccept>
+void RaiseAndConsumeAccept(Bot& bot) {
+    RunScript(bot, Event);
+    if (!bot.state.requestAccepted) return;
+    bot.state.requestAccepted = false;
+    RunScript(bot, AfterAccept);
+}
+
+struct Notice {
+    std::string_view text;
+    void (*handle)(Bot&);
+};
+
+constexpr Notice kNotices[] = {
+    {"has accepted your request.", AcceptRequest},
+    {"joins you.", RaiseAndConsumeAccept<EventJoined, EventJoinedAfterAccept>},
+    {"summons you.", RaiseAndConsumeAccept<EventSummoned, EventSummonedAfterAccept>},
+    {"requests permission to join your company. To accept the request, type `summon and press <enter>. To decline, "
+     "type `decline and press <enter>",
+     Raise<EventJoinRequest>},
+    {"asks you to join his / her company. To accept the request, type `join and press <enter>. To decline, type "
+     "`decline and press <enter>",
+     Raise<EventJoinInvite>},
+};
+
+/// ([*] name notice
+void ReadRequestNotice(Bot& bot, const ServerLine& line) {
+    bot.state.requester = line.WordAt(kNameAt);
+    if (bot.state.requester == kYour) {
+        bot.state.requester = line.LastWord();
+        RunScript(bot, EventYourNotice);
+    } else {
+        const std::string_view text = line.BehindWordAt(kNameAt);
+        const auto* const notice = std::find_if(std::begin(kNotices), std::end(kNotices),
+                                                [text](const Notice& row) { return row.text == text; });
+        if (notice != std::end(kNotices)) notice->handle(bot);
+    }
+    ReadDice(bot, line);
+}
+
+/// ([%] giver has given name a cookie!
+void ReadCookie(Bot& bot, const ServerLine& line) {
+    const std::string_view giver = line.WordAt(kNameAt);
+    if (giver == kYour) return;
+    bot.state.cookieGiver = giver;
+    const auto length = static_cast<std::ptrdiff_t>(line.Length()) - static_cast<std::ptrdiff_t>(giver.size()) - 26;
+    bot.state.cookieName = line.Text(giver.size() + 17, length);
+    const bool fromBot = bot.state.cookieGiver == bot.state.vorel.name;
+    const bool toBot = bot.state.cookieName == bot.state.vorel.name;
+    RunScript(bot, fromBot ? EventCookieGiven : toBot ? EventCookieReceived : EventCookieSeen);
+}
+
+}  // namespace
+
+void ReadBracketNotice(Bot& bot, const ServerLine& line) {
+    if (line.HasAt(3, "#")) {
+        bot.state.message = line.RestAfter(5);
+        RunScript(bot, EventHashNotice);
+    } else if (line.HasAt(3, "*")) {
+        ReadRequestNotice(bot, line);
+    } else if (line.HasAt(3, "%")) {
+        ReadCookie(bot, line);
+    }
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// What a session needs of the machine beyond what its bot needs: sockets, and the local game client. What happens on
+/// the sockets comes back as calls of Session's On… operations. Paths are UTF-8.
+class Link {
+  public:
+    virtual ~Link() = default;
+
+    /// Begins to connect to the game server; an empty address is the game server's own (kGameServer, or the numeric
+    /// address the program was built with).
+    virtual void ConnectServer(const std::string& address, int port) = 0;
+
+    /// Close without a word to the session.
+    virtual void CloseServer() = 0;
+    virtual void CloseClient() = 0;
+
+    /// Listens on this computer for the local client, and for one only.
+    /// @return false when the port is taken
+    virtual bool ListenForClient(std::int16_t port) = 0;
+
+    /// Makes the calling client the linked one, and stops listening.
+    virtual void AcceptClient() = 0;
+
+    /// The folder that programs are started from and looked up in from now on.
+    virtual void EnterFolder(const std::string& folder) = 0;
+
+    /// Writes the small file that tells the client where to connect.
+    /// @throws RuntimeFault PathOrFileAccess
+    virtual void WriteProxyFile(const std::string& path, std::string_view text) = 0;
+
+    /// Starts the client's program with the character file, its window shown as usual.
+    virtual void StartClient(const std::string& program, const std::string& characterFile) = 0;
+
+    /// The handle of the game client's window; 0 when there is none.
+    virtual std::int64_t FindClientWindow() = 0;
+    virtual void CloseClientWindow(std::int64_t window) = 0;
+};

@@ -1,0 +1,255 @@
+#include "net/Session.h"
+
+#include <optional>
+#include <utility>
+
+#include "engine/Bot.h"
+#include "engine/Dispatcher.h"
+#include "engine/Files.h"
+#include "engine/Host.h"
+#include "engine/Place.h"
+#include "net/CharacterFile.h"
+#include "net/ClientLines.h"
+#include "net/Link.h"
+#include "net/ServerLines.h"
+#include "net/modSend.h"
+#include "profile/ProfilePaths.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
+
+namespace {
+
+constexpr std::string_view kInvalidSelection = "Invalid Selection";
+constexpr int kPortDraws = 1000;
+
+/// What to tell the user when a file that connecting needs is not there; empty when all are.
+std::string_view MissingFiles(bool character, bool client) {
+    if (!character && !client) return "Select a valid Furcadia client and character before attempting to connect.";
+    if (!character) return "Select a valid Furcadia character before attempting to connect.";
+    return client ? "" : "Select a valid Furcadia client before attempting to connect.";
+}
+
+/// Listens on a random port from 1000 to 9999; a port that is taken is drawn again.
+/// @return the port; nothing when none could be had
+std::optional<std::int16_t> ListenOnRandomPort(Bot& bot, Link& link) {
+    for (int draw = 0; draw < kPortDraws; ++draw) {
+        const std::int16_t port = RoundTo16(bot.host.Random() * 8999 + 1000);
+        if (link.ListenForClient(port)) return port;
+    }
+    return std::nullopt;
+}
+
+/// Empties what the last session left behind. The positions, the last dice and the counts stay.
+void ResetState(BotState& state) {
+    state.shutDown = false;
+    state.mapFile = state.map = state.previousMap = "";
+    state.visitors = state.newVisitors = "";
+    state.dice.values.assign(1, 0);
+    state.fst = {};
+    state.dsbot = state.ds = {};
+    state.breath = state.flame = {};
+    state.requester = state.onlineName = state.arrived = state.present = state.departed = "";
+    state.cookieGiver = state.cookieName = "";
+    state.dreams.clear();
+    state.dreamName = "";
+    state.message = "";
+    state.move.colors = "";
+    state.move.frame = 0;
+    state.player = state.look = state.vorel = {};
+    state.playerTag = "";
+    state.password = "";
+}
+
+std::string ErrorLine(std::string_view socket, const SocketError& error) {
+    return std::string(socket) + " Socket Error " + std::to_string(error.number) + ": " + error.description + " (" +
+           std::to_string(error.systemCode) + ": " + error.source + ")";
+}
+
+}  // namespace
+
+void Session::Connect() {
+    const bool character = FindProfileFile(bot_, bot_.profile.characterPath).has_value();
+    // Without a client to link nobody needs its program.
+    const bool client = !bot_.profile.IsClientMode() || FindProfileFile(bot_, bot_.profile.clientPath).has_value();
+    if (!character || !client) {
+        bot_.host.ShowMessage(kInvalidSelection, MissingFiles(character, client));
+    } else if (bot_.profile.owners.empty()) {
+        bot_.host.ShowMessage("Bot Owner",
+                              "You must add at least one name to the bot owners list before attempting to connect.");
+    } else if (bot_.profile.IsClientMode()) {
+        ConnectThroughClient();
+    } else {
+        ConnectStandAlone();
+    }
+}
+
+void Session::ConnectStandAlone() {
+    ShowMenus(true, false);
+    link_.CloseServer();
+    link_.CloseClient();
+    ConnectServer(bot_.profile.serverAddress);
+}
+
+void Session::ConnectThroughClient() {
+    ShowMenus(true, true);
+    link_.CloseServer();
+    link_.CloseClient();
+    const std::string program = *FindProfileFile(bot_, bot_.profile.clientPath);
+    const std::string folder = FolderOf(program);
+    link_.EnterFolder(folder);
+    const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
+    if (!port) {
+        bot_.host.ShowConsoleLine("No port on this computer is free for the Furcadia client to connect to.");
+        ShowIdle();
+        return;
+    }
+    link_.WriteProxyFile(JoinPath(folder, "proxy.ini"), "localhost " + std::to_string(*port) + "\r\n");
+    link_.StartClient(program, *FindProfileFile(bot_, bot_.profile.characterPath));
+    clientWindow_ = link_.FindClientWindow();
+}
+
+void Session::ConnectServer(const std::string& address) {
+    serverLines_.Clear();
+    const bool elsewhere = !serverAddress_.empty();
+    link_.ConnectServer(elsewhere ? serverAddress_ : address, elsewhere ? serverPort_ : bot_.profile.port);
+}
+
+void Session::Disconnect() {
+    ShowIdle();
+    link_.CloseClient();
+    if (bot_.host.IsServerConnected()) {
+        link_.CloseServer();
+        RunScript(bot_, EventDisconnected);
+    } else {
+        link_.CloseServer();
+    }
+    ForgetClientWindow();
+}
+
+void Session::StandAlone() {
+    link_.CloseClient();
+    ShowMenus(bot_.status.canDisconnect, false);
+}
+
+void Session::TypeLine(std::string_view text) {
+    const auto sendIfAccepted = [this](std::string_view line) {
+        if (FilterClientLine(bot_, line)) modSend::SendLine(bot_, line);
+    };
+    if (text.starts_with('-') || text.starts_with(':')) {
+        sendIfAccepted(text);
+    } else if (text.starts_with('`')) {
+        sendIfAccepted(text.substr(1));
+    } else if (text.starts_with('/')) {
+        sendIfAccepted("wh " + std::string(text.substr(1)));
+    } else if (FilterClientLine(bot_, text)) {
+        modSend::SendSpeech(bot_, text);
+    }
+}
+
+void Session::OnServerConnected() {
+    ResetState(bot_.state);
+    bot_.clock.seconds = bot_.clock.minutes = 0;
+    bot_.status.connection = "Connected";
+    ShowMenus(true, bot_.host.IsClientConnected());
+    bot_.host.ClearConsole();
+    if (!bot_.profile.IsClientMode()) LogIn();
+    RunScript(bot_, EventConnected);
+}
+
+void Session::LogIn() {
+    const std::optional<std::string> path = FindProfileFile(bot_, bot_.profile.characterPath);
+    if (!path) throw RuntimeFault(FaultKind::FileNotFound, ToUtf8(bot_.profile.characterPath));
+    PlaceMark place(bot_, *path);
+    const Character character = ReadCharacter(bot_.host.Disk().Read(*path), place);
+    bot_.state.password = character.password;
+    bot_.state.vorel.desc = character.desc;
+    bot_.state.vorel.looks = character.looks;
+    SetBotName(bot_, character.name);
+    // The sender ends every text with a line feed of its own, so an empty line follows the two.
+    modSend::SendLine(
+        bot_, "connect " + character.name + " " + character.password + "\ncolor " + character.looks.Code() + "\n");
+    modSend::SendDesc(bot_, bot_.state.vorel.desc);
+}
+
+void Session::OnServerData(std::string_view packet) {
+    if (!bot_.host.IsServerConnected()) return;
+    std::string relayed;
+    for (const std::string& line : serverLines_.Take(packet)) {
+        ParseServerLine(bot_, line);
+        relayed.append(line).append("\n");
+    }
+    // The client sees a packet only after the bot has answered it.
+    if (!relayed.empty() && bot_.host.IsClientConnected()) bot_.host.WriteToClient(relayed);
+}
+
+void Session::OnServerClosed() {
+    ShowIdle();
+    CloseClientWindow();
+    RunScript(bot_, EventDisconnected);
+}
+
+void Session::OnServerError(const SocketError& error) {
+    link_.CloseServer();
+    ShowIdle();
+    bot_.host.ShowConsoleLine(ErrorLine("Server", error));
+}
+
+void Session::OnClientRequest() {
+    link_.AcceptClient();
+    clientLines_.Clear();
+    // Kept on purpose: with a client the bot always goes to the game's own server, whatever was configured.
+    ConnectServer("");
+}
+
+void Session::OnClientConnected() { ShowMenus(bot_.status.canDisconnect, true); }
+
+void Session::OnClientData(std::string_view packet) {
+    if (!bot_.host.IsClientConnected()) return;
+    std::string relayed;
+    for (const std::string& line : clientLines_.Take(packet)) {
+        if (FilterClientLine(bot_, line)) relayed.append(line).append("\n");
+    }
+    if (!relayed.empty() && bot_.host.IsServerConnected()) bot_.host.WriteToServer(relayed);
+}
+
+void Session::OnClientClosed() {
+    ShowMenus(bot_.status.canDisconnect, false);
+    ForgetClientWindow();
+}
+
+void Session::OnClientError(const SocketError& error) {
+    bot_.host.ShowConsoleLine(ErrorLine("Client", error));
+    ForgetClientWindow();
+}
+
+void Session::SetServer(std::string address, int port) {
+    serverAddress_ = std::move(address);
+    serverPort_ = port;
+}
+
+void Session::KeepSplitLines(bool keep) {
+    serverLines_.KeepSplitLines(keep);
+    clientLines_.KeepSplitLines(keep);
+}
+
+void Session::ShowMenus(bool inSession, bool canStandAlone) {
+    bot_.status.canConnect = !inSession;
+    bot_.status.canDisconnect = inSession;
+    bot_.status.canStandAlone = canStandAlone;
+    bot_.host.StatusChanged();
+}
+
+void Session::ShowIdle() {
+    bot_.status.connection = "Disconnected";
+    ShowMenus(false, false);
+}
+
+void Session::CloseClientWindow() {
+    if (clientWindow_ > 0 && bot_.profile.closeClient == 1) link_.CloseClientWindow(clientWindow_);
+}
+
+void Session::ForgetClientWindow() {
+    if (clientWindow_ <= 0 || bot_.profile.closeClient != 1) return;
+    link_.CloseClientWindow(clientWindow_);
+    clientWindow_ = 0;
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "net/PacketLines.h"
+
+struct Bot;
+class Link;
+
+/// What a socket says of its failure.
+struct SocketError {
+    int number = 0;
+    std::string description;
+    int systemCode = 0;
+    std::string source;
+};
+
+/// The connection of one bot: to the game server, and to a local client when one is linked. In stand-alone mode the
+/// bot logs in by itself; in client mode the client calls here, and every line passes through in both directions.
+///
+/// Idle -> Connect -> (client mode: listening -> the client calls) -> connecting -> OnServerConnected -> connected
+///      -> OnServerClosed or Disconnect -> idle
+class Session {
+  public:
+    Session(Bot& bot, Link& link) : bot_(bot), link_(link) {}
+
+    /// Checks the profile and connects, or tells the user what is missing.
+    void Connect();
+
+    /// Ends the session from any state; raises EventDisconnected when the server was connected.
+    void Disconnect();
+
+    /// Lets the linked client go and keeps the bot connected.
+    void StandAlone();
+
+    /// What the user typed on the console: "-" and ":" begin raw commands, "`" precedes one, "/" begins a whisper,
+    /// anything else is said.
+    void TypeLine(std::string_view text);
+
+    // What happens on the sockets.
+
+    void OnServerConnected();
+    void OnServerData(std::string_view packet);
+    void OnServerClosed();
+    void OnServerError(const SocketError& error);
+
+    void OnClientRequest();
+    void OnClientConnected();
+    void OnClientData(std::string_view packet);
+    void OnClientClosed();
+    void OnClientError(const SocketError& error);
+
+    /// Connects elsewhere than the profile says, in both modes.
+    void SetServer(std::string address, int port);
+
+    /// Keeps the unended line at the end of a packet for the next packet, instead of dropping it.
+    void KeepSplitLines(bool keep);
+
+  private:
+    Bot& bot_;
+    Link& link_;
+    std::int64_t clientWindow_ = 0;
+    std::string serverAddress_;  ///< in place of the profile's, when not empty
+    int serverPort_ = 0;
+    PacketLines serverLines_, clientLines_;
+
+    void ConnectStandAlone();
+    void ConnectThroughClient();
+    void ConnectServer(const std::string& address);
+    void LogIn();
+    void ShowMenus(bool inSession, bool canStandAlone);
+    void ShowIdle();
+    void CloseClientWindow();
+    void ForgetClientWindow();
+};

@@ -1,0 +1,45 @@
+#include "platform/DiskFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "text/Fault.h"
+
+namespace {
+QString FromPath(const std::string& path) { return QString::fromStdString(path); }
+}  // namespace
+
+std::string DiskFiles::Read(const std::string& path) const {
+    QFile file(FromPath(path));
+    if (!file.exists()) throw RuntimeFault(FaultKind::FileNotFound, path);
+    if (!file.open(QIODevice::ReadOnly)) throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    return bytes.toStdString();
+}
+
+void DiskFiles::Write(const std::string& path, std::string_view bytes) {
+    QSaveFile file(FromPath(path));
+    const auto size = static_cast<qint64>(bytes.size());
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size || !file.commit()) {
+        throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    }
+}
+
+std::optional<std::string> DiskFiles::Find(const std::string& path) const {
+    const QFileInfo wanted(FromPath(path));
+    if (wanted.isFile()) return path;
+    if (wanted.fileName().isEmpty()) return std::nullopt;
+    const QDir folder = wanted.dir();
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden)) {
+        if (name.compare(wanted.fileName(), Qt::CaseInsensitive) != 0) continue;
+        return JoinPath(FolderOf(path), name.toStdString());
+    }
+    return std::nullopt;
+}
+
+std::string DiskFiles::Absolute(const std::string& path) const {
+    return QFileInfo(FromPath(path)).absoluteFilePath().toStdString();
+}

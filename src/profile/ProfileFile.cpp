@@ -1,0 +1,158 @@
+#include "profile/ProfileFile.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "Version.h"
+#include "engine/Bot.h"
+#include "engine/Dispatcher.h"
+#include "engine/Files.h"
+#include "engine/Host.h"
+#include "engine/Place.h"
+#include "engine/Script.h"
+#include "profile/ProfilePaths.h"
+#include "text/Numbers.h"
+#include "text/Text.h"
+
+namespace {
+
+/// A line "key=value" of a profile, the key lower-cased and with its "=".
+struct Entry {
+    std::string key, value;
+};
+
+Entry ReadEntry(const std::string& line) {
+    const std::size_t keyEnd = line.find('=') + 1;  // 0 when there is no "="
+    return {LowerCase(line.substr(0, keyEnd)), line.substr(keyEnd)};
+}
+
+void SetConnectClient(Profile& profile, const std::string& value) {
+    profile.connectClient = LeadingNumberOrZero(value);
+}
+void SetCloseClient(Profile& profile, const std::string& value) { profile.closeClient = LeadingNumberOrZero(value); }
+void SetPort(Profile& profile, const std::string& value) { profile.port = LeadingNumberOrZero(value); }
+
+template <std::string Profile::*Field>
+void SetText(Profile& profile, const std::string& value) {
+    profile.*Field = value;
+}
+
+struct Key {
+    std::string_view name;
+    void (*set)(Profile&, const std::string& value);
+};
+
+/// The keys that both readers take alike; "logo=" and "script=" are read by each in its own way.
+constexpr Key kKeys[] = {
+    {"furcadiaclient=", SetText<&Profile::clientPath>},
+    {"furcadiacharacter=", SetText<&Profile::characterPath>},
+    {"owners=", SetText<&Profile::owners>},
+    {"maps=", SetText<&Profile::maps>},
+    {"connectclient=", SetConnectClient},
+    {"closeclient=", SetCloseClient},
+    {"port=", SetPort},
+};
+
+void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& load) {
+    if (entry.key == "logo=") {
+        bot.profile.signatureFirst = signatureFirst;
+    } else if (entry.key == "script=") {
+        bot.profile.scriptPath = entry.value;
+        if (const auto path = FindProfileFile(bot, entry.value)) {
+            LoadScript(bot, *path);
+        } else {
+            load.missingScript = entry.value;
+        }
+    } else {
+        const auto* const key =
+            std::find_if(std::begin(kKeys), std::end(kKeys), [&](const Key& row) { return row.name == entry.key; });
+        if (key != std::end(kKeys)) key->set(bot.profile, entry.value);
+    }
+}
+
+bool IsSectionLine(const std::string& line) { return line.starts_with('[') && line.ends_with(']'); }
+
+std::string SectionName(const std::string& line) { return LowerCase(line.substr(1, line.size() - 2)); }
+
+}  // namespace
+
+ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
+    const std::optional<std::string> found = bot.host.Disk().Find(path);
+    if (!found) return {};
+    bot.profile = Profile();
+    bot.profile.path = *found;
+
+    ProfileLoad load{true};
+    std::string section;
+    PlaceMark place(bot, *found);
+    for (const std::string& line : FileLines(bot.host.Disk().Read(*found))) {
+        place.NextLine();
+        if (IsSectionLine(line)) {
+            section = SectionName(line);
+        } else if (section == "general") {
+            const Entry entry = ReadEntry(line);
+            TakeEntry(bot, entry, LowerCase(entry.value) == "true", load);
+        } else if (section == "ignores") {
+            bot.profile.ignores.push_back(line);
+        }
+    }
+    return load;
+}
+
+ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
+    const std::optional<std::string> found = bot.host.Disk().Find(path);
+    if (!found) return {};
+    bot.profile.path = *found;
+
+    ProfileLoad load{true};
+    PlaceMark place(bot, *found);
+    for (const std::string& line : FileLines(bot.host.Disk().Read(*found))) {
+        place.NextLine();
+        const Entry entry = ReadEntry(line);
+        TakeEntry(bot, entry, LowerCase(entry.value) != "end", load);
+    }
+    return load;
+}
+
+void SaveProfile(Bot& bot, const std::string& path) {
+    Profile& profile = bot.profile;
+    std::vector<std::string> lines = {
+        "[General]",
+        "FurcadiaClient=" + profile.clientPath,
+        "FurcadiaCharacter=" + profile.characterPath,
+        "Owners=" + profile.owners,
+        "Maps=" + profile.maps,
+        "ConnectClient=" + std::to_string(profile.connectClient),
+        "CloseClient=" + std::to_string(profile.closeClient),
+        profile.signatureFirst ? "Logo=True" : "Logo=False",
+        "Port=" + std::to_string(profile.port),
+        "Script=" + profile.scriptPath,
+        "",
+        "[Ignores]",
+    };
+    lines.insert(lines.end(), profile.ignores.begin(), profile.ignores.end());
+    const std::string file = WithExtension(path, kProfileExtension);
+    bot.host.Disk().Write(file, JoinFileLines(lines));
+    profile.path = file;
+    profile.dirty = false;
+}
+
+void NewProfile(Bot& bot) {
+    bot.profile = Profile();
+    bot.variables.Clear();
+    bot.script = std::make_shared<Script>(kNewScript);
+}
+
+void LoadScript(Bot& bot, const std::string& path) {
+    bot.script = std::make_shared<Script>(ScriptTextFromFile(bot.host.Disk().Read(path)), path);
+    RunScript(bot, EventScriptLoaded);
+}
+
+std::string WithExtension(const std::string& path, const char* extension) {
+    return LowerCase(path).ends_with(extension) ? path : path + extension;
+}
+
+std::string WindowTitle(const Bot& bot) {
+    const std::string title = std::string(kProductName) + " " + kProductVersion;
+    return bot.profile.path.empty() ? title : title + " - [" + FileNameOf(bot.profile.path) + "]";
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+struct Bot;
+
+inline constexpr char kProfileExtension[] = ".tvm";
+inline constexpr char kScriptExtension[] = ".vs";
+
+/// What came of reading a profile, for the program to tell the user.
+struct ProfileLoad {
+    bool found = false;              ///< is there a profile of that name; if not, nothing was loaded
+    std::string missingScript = "";  ///< the script the profile names, when there is no such file (Windows-1252)
+};
+
+/// Reads a profile in place of the current one, as at start-up: with its ignore list and its script. The script's
+/// EventScriptLoaded is raised where the "Script=" line stands, before the ignores are read.
+/// @param path  UTF-8
+/// @throws RuntimeFault Overflow, for a number beyond 16 bits (Bot::place names the line); what the script raises
+ProfileLoad LoadProfile(Bot& bot, const std::string& path);
+
+/// Reads a profile over the current one, as the Open menu does. Kept on purpose: this reader knows no sections, loads
+/// no ignore list, and takes the signature for first unless "Logo=" says "end".
+ProfileLoad OpenProfile(Bot& bot, const std::string& path);
+
+/// Writes the current profile to a path, over an existing file, and keeps that path as its own; ".tvm" is added to a
+/// name without it. Clears the dirty flag.
+/// @throws RuntimeFault PathOrFileAccess
+void SaveProfile(Bot& bot, const std::string& path);
+
+/// Empties the profile and the user variables, and puts the new-script template in place of the script.
+void NewProfile(Bot& bot);
+
+/// Reads a script file in place of the current script and raises EventScriptLoaded.
+/// @param path  of an existing file, UTF-8
+/// @throws RuntimeFault when it can't be read; what the script raises
+void LoadScript(Bot& bot, const std::string& path);
+
+/// The name with an extension added when it does not end in it, letter case apart.
+std::string WithExtension(const std::string& path, const char* extension);
+
+/// The main window's title: product, version, and the profile's file name when it has one.
+std::string WindowTitle(const Bot& bot);

@@ -1,0 +1,73 @@
+#include "rehearsal/Rehearsal.h"
+
+#include <utility>
+
+#include "engine/Dispatcher.h"
+#include "engine/Variables.h"
+#include "movement/modMovement.h"
+
+Rehearsal::Rehearsal(Files& disk, std::string folder, std::function<void(const std::string&)> tell)
+    : host(disk, std::move(folder), std::move(tell)), bot(host), session(bot, host) {
+    host.SetSession(session);
+}
+
+void Rehearsal::Play(const WrittenSession& written) {
+    for (const SessionStep& step : written.steps) Play(step);
+}
+
+void Rehearsal::Play(const SessionStep& step) {
+    switch (step.kind) {
+        case SessionStep::Kind::Connect:
+            host.SetServerConnected(true);
+            return session.OnServerConnected();
+        case SessionStep::Kind::Close:
+            if (!host.IsServerConnected()) return;
+            host.SetServerConnected(false);
+            return session.OnServerClosed();
+        case SessionStep::Kind::Link:
+            host.SetClientConnected(true);
+            return session.OnClientConnected();
+        case SessionStep::Kind::Unlink:
+            if (!host.IsClientConnected()) return;
+            host.SetClientConnected(false);
+            return session.OnClientClosed();
+        case SessionStep::Kind::Server:
+            return session.OnServerData(step.text + "\n");
+        case SessionStep::Kind::Client:
+            return session.OnClientData(step.text + "\n");
+        case SessionStep::Kind::Type:
+            return session.TypeLine(step.text);
+        case SessionStep::Kind::Event:
+            return RunScript(bot, static_cast<GameEvent>(step.count));
+        case SessionStep::Kind::Tick:
+            for (int i = 0; i < step.count; ++i) ScriptTimerTick(bot);
+            return;
+        case SessionStep::Kind::Step:
+            for (int i = 0; i < step.count && host.IsMovementTimerEnabled(); ++i) modMovement::Tick(bot);
+            return;
+        case SessionStep::Kind::Show:
+            return host.Tell("show", ExpandVariables(bot, step.text));
+        case SessionStep::Kind::Expect:
+            return Expect(step);
+        case SessionStep::Kind::ExpectNothing:
+            return ExpectNothing(step);
+    }
+}
+
+void Rehearsal::Expect(const SessionStep& step) {
+    const std::optional<std::string> sent = host.OldestUnclaimed();
+    // A recorded session never holds the password.
+    if (sent && (*sent == step.text || WithoutPassword(*sent) == step.text)) return host.Claim();
+    Fail(step, "expected \"" + step.text + "\", " +
+                   (sent ? "but \"" + WithoutPassword(*sent) + "\" was sent" : "but nothing was sent"));
+}
+
+void Rehearsal::ExpectNothing(const SessionStep& step) {
+    if (const auto sent = host.OldestUnclaimed())
+        Fail(step, "expected nothing more, but \"" + WithoutPassword(*sent) + "\" was sent");
+}
+
+void Rehearsal::Fail(const SessionStep& step, const std::string& why) {
+    ++failed_;
+    host.Tell("failed", std::to_string(step.line) + ": " + why);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+#include "engine/Bot.h"
+#include "net/Session.h"
+#include "rehearsal/RehearsalHost.h"
+#include "rehearsal/WrittenSession.h"
+
+/// A bot in the stand-in world, to which written sessions are played.
+class Rehearsal {
+  public:
+    Rehearsal(Files& disk, std::string folder, std::function<void(const std::string&)> tell);
+
+    /// Carries out one instruction. Faults of the bot are left to the caller.
+    void Play(const SessionStep& step);
+
+    /// Carries out a whole session.
+    void Play(const WrittenSession& session);
+
+    std::size_t FailedExpectations() const { return failed_; }
+
+    RehearsalHost host;
+    Bot bot;
+    Session session;
+
+  private:
+    std::size_t failed_ = 0;
+
+    void Expect(const SessionStep& step);
+    void ExpectNothing(const SessionStep& step);
+    void Fail(const SessionStep& step, const std::string& why);
+};

@@ -1,0 +1,91 @@
+#include "rehearsal/WrittenSession.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "text/Numbers.h"
+#include "text/Text.h"
+
+namespace {
+
+using Kind = SessionStep::Kind;
+
+enum class Wants { Nothing, Text, Code, Times };
+
+struct Instruction {
+    std::string_view word;
+    Kind kind;
+    Wants wants;
+};
+
+constexpr Instruction kInstructions[] = {
+    {"connect", Kind::Connect, Wants::Nothing},
+    {"close", Kind::Close, Wants::Nothing},
+    {"link", Kind::Link, Wants::Nothing},
+    {"unlink", Kind::Unlink, Wants::Nothing},
+    {"server", Kind::Server, Wants::Text},
+    {"client", Kind::Client, Wants::Text},
+    {"type", Kind::Type, Wants::Text},
+    {"event", Kind::Event, Wants::Code},
+    {"tick", Kind::Tick, Wants::Times},
+    {"step", Kind::Step, Wants::Times},
+    {"show", Kind::Show, Wants::Text},
+    {"expect", Kind::Expect, Wants::Text},
+    {"expect-nothing", Kind::ExpectNothing, Wants::Nothing},
+};
+
+std::optional<int> ReadNumber(std::string_view text) {
+    try {
+        return NumberOrFault(Trim(text));
+    } catch (const RuntimeFault&) {
+        return std::nullopt;
+    }
+}
+
+std::string Problem(std::size_t line, const std::string& what) { return "line " + std::to_string(line) + ": " + what; }
+
+/// Reads one instruction into the session, or its error.
+void ReadStep(WrittenSession& session, std::size_t line, const std::string& text) {
+    const std::string word = text.substr(0, text.find(' '));
+    const auto* const instruction = std::find_if(std::begin(kInstructions), std::end(kInstructions),
+                                                 [&](const Instruction& row) { return row.word == word; });
+    if (instruction == std::end(kInstructions)) {
+        session.error = Problem(line, "there is no instruction \"" + word + "\"");
+        return;
+    }
+    SessionStep step{instruction->kind, line, text.substr(std::min(word.size() + 1, text.size()))};
+    const bool timesLeftOut = instruction->wants == Wants::Times && step.text.empty();
+    if ((instruction->wants == Wants::Code || instruction->wants == Wants::Times) && !timesLeftOut) {
+        const std::optional<int> number = ReadNumber(step.text);
+        const bool usable = number && (instruction->wants == Wants::Code || *number >= 0);
+        if (!usable) {
+            session.error = Problem(line, "\"" + word + "\" wants a whole number, not \"" + step.text + "\"");
+            return;
+        }
+        step.count = *number;
+    }
+    session.steps.push_back(std::move(step));
+}
+
+}  // namespace
+
+WrittenSession ParseSession(std::string_view bytes) {
+    WrittenSession session;
+    std::size_t number = 0;
+    for (const std::string& line : Split(bytes, "\n")) {
+        ++number;
+        const std::string text = line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
+        if (text.empty() || text.starts_with('#')) continue;
+        ReadStep(session, number, text);
+        if (session.error) return {{}, session.error};
+    }
+    return session;
+}
+
+std::string WithoutPassword(std::string_view command) {
+    constexpr std::string_view kConnect = "connect ";
+    if (LowerCase(command.substr(0, kConnect.size())) != kConnect) return std::string(command);
+    const std::size_t nameEnd = command.find(' ', kConnect.size());
+    if (nameEnd == command.npos || nameEnd + 1 == command.size()) return std::string(command);
+    return std::string(command.substr(0, nameEnd)) + " ********";
+}

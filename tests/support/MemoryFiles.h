@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "engine/Files.h"
+#include "text/Fault.h"
+#include "text/Text.h"
+
+/// Files that live in memory. A path marked unwritable can't be written.
+class MemoryFiles final : public Files {
+  public:
+    std::map<std::string, std::string> contents;
+    std::string unwritable;
+
+    std::string Read(const std::string& path) const override {
+        const auto file = contents.find(path);
+        if (file == contents.end()) throw RuntimeFault(FaultKind::FileNotFound, path);
+        return file->second;
+    }
+    void Write(const std::string& path, std::string_view bytes) override {
+        if (path == unwritable) throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+        contents[path] = bytes;
+    }
+    std::optional<std::string> Find(const std::string& path) const override {
+        if (contents.contains(path)) return path;
+        for (const auto& [existing, bytes] : contents) {
+            const bool sameName = LowerCase(FileNameOf(existing)) == LowerCase(FileNameOf(path));
+            if (sameName && FolderOf(existing) == FolderOf(path)) return existing;
+        }
+        return std::nullopt;
+    }
+    std::string Absolute(const std::string& path) const override { return path; }
+};
