@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QTcpServer>
+#include <QTimer>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "practice/Dream.h"
+#include "practice/Tour.h"
+
+class QTcpSocket;
+
+/// The computer's own clock, and a random draw.
+DreamPorts MachinePorts();
+
+/// How the practice dream is to run.
+struct PracticeSettings {
+    Tour tour;  ///< may have no steps
+    DreamPorts ports = MachinePorts();
+    int secondMs = 1000;  ///< how long a second of the tour takes, in milliseconds; 0: only PassSecond passes one
+};
+
+/// The practice dream on a socket of this computer, reachable from nowhere else. Everything happens on the thread
+/// that has made it, and nothing that a client sends makes it throw.
+class PracticeServer : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit PracticeServer(PracticeSettings settings = {}, QObject* parent = nullptr);
+    ~PracticeServer() override;
+
+    struct Listening {
+        quint16 port = 0;  ///< 0 when it failed
+        QString fault;     ///< why, in plain words
+    };
+
+    /// Opens the dream, on 127.0.0.1 only, and starts the tour's clock.
+    /// @param port  0: any that is free
+    Listening Listen(quint16 port);
+
+    /// A person takes part as a furre of this name; what it hears comes in PersonHears.
+    /// @return false when the name is taken or can't be used, or there is such a person already
+    bool AddPerson(std::string_view name);
+
+    /// A line typed by that person, 8-bit text. "/NAME TEXT" whispers; "-" shouts, ":" emotes, "`" sends the rest as
+    /// a raw command, and anything else is said.
+    void TypeAsPerson(std::string_view line);
+
+    /// Passes one second of the tour.
+    void PassSecond();
+
+  signals:
+    /// The last step of the tour has been played. Never emitted when the tour has none.
+    void TourEnded();
+
+    /// A line that the person's furre hears, as clients show it: without the mark of text lines, "|" made blanks.
+    void PersonHears(const QString& line);
+
+  private:
+    struct Client {
+        FurreId furre = 0;
+        QByteArray unfinished;  ///< the begin of a line whose rest is still to come
+    };
+
+    void TakeConnections();
+    void ReadFrom(QTcpSocket* socket);
+    void Forget(QTcpSocket* socket);
+    void HearLines(Client& client, const QByteArray& bytes);
+    void Deliver();
+    void DeliverToPerson(const std::string& line);
+    void Write(QTcpSocket* socket, const QByteArray& bytes, bool last);
+    void Guarded(const std::function<void()>& work);
+
+    Dream dream_;
+    TourPlayer tour_;
+    QTcpServer listener_;
+    QTimer second_;
+    QHash<QTcpSocket*, Client> clients_;
+    std::optional<FurreId> person_;
+};

@@ -1,0 +1,135 @@
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+#include <QTcpSocket>
+#include <QTest>
+
+#include "practice/PracticeServer.h"
+#include "practice/TypedLine.h"
+
+namespace {
+
+constexpr int kPatienceMs = 5000;
+
+/// Nothing of Qt works without an application; another test may have made it.
+void EnsureApplication() {
+    static int count = 1;
+    static char name[] = "tests";
+    static char* arguments[] = {name, nullptr};
+    if (!QCoreApplication::instance()) new QCoreApplication(count, arguments);
+}
+
+class PracticeServerTest : public testing::Test {
+  protected:
+    PracticeServerTest() { EnsureApplication(); }
+
+    void Open(const char* tour = "", int secondMs = 0) {
+        PracticeSettings settings;
+        settings.tour = ReadTour(tour, "tour").tour;
+        settings.secondMs = secondMs;
+        server = std::make_unique<PracticeServer>(std::move(settings));
+        port = server->Listen(0).port;
+        ASSERT_NE(port, 0);
+    }
+
+    std::unique_ptr<PracticeServer> server;
+    quint16 port = 0;
+};
+
+class Player {
+  public:
+    explicit Player(quint16 port) {
+        socket.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
+        QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this] { heard += socket.readAll(); });
+    }
+    void LogIn(const QByteArray& name) {
+        socket.write("connect " + name + " secret\ncolor cccccccccc!!!\n\nvascodagama\n");
+        EXPECT_TRUE(Hears("Nobody outside can see it.\n"));
+        heard.clear();
+    }
+    bool Hears(const QByteArray& text) {
+        return QTest::qWaitFor([&] { return heard.contains(text); }, kPatienceMs);
+    }
+    bool IsLetGo() {
+        return QTest::qWaitFor([&] { return socket.state() == QTcpSocket::UnconnectedState; }, kPatienceMs);
+    }
+    QTcpSocket socket;
+    QByteArray heard;
+};
+
+TEST_F(PracticeServerTest, CarriesTalkBetweenClientsAndThePerson) {
+    Open();
+    ASSERT_TRUE(server->AddPerson("Visitor"));
+    EXPECT_FALSE(server->AddPerson("Second"));
+    QSignalSpy heard(server.get(), &PracticeServer::PersonHears);
+    Player ann(port), bob(port);
+    ann.LogIn("Ann");
+    bob.LogIn("Bob|Fur");
+    ann.socket.write("wh Bob|Fur a\n\"b\n");
+    EXPECT_TRUE(bob.Hears("([ Ann whispers, \"a\" to you. ]\n"));
+    EXPECT_TRUE(bob.Hears("(Ann: b\n"));
+    server->TypeAsPerson("/Ann over here");
+    EXPECT_TRUE(ann.Hears("([ Visitor whispers, \"over here\" to you. ]\n"));
+    ASSERT_GE(heard.count(), 2);
+    EXPECT_EQ(heard[heard.count() - 2][0].toString(), "Ann: b");
+    EXPECT_EQ(heard[heard.count() - 1][0].toString(), "[ You whisper \"over here\" to Ann. ]");
+    bob.socket.write(":na\xEFve\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return heard.last()[0].toString() == QStringLiteral("Bob Fur naïve"); }));
+}
+
+TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
+    Open();
+    Player ann(port), bob(port);
+    ann.LogIn("Ann");
+    bob.LogIn("Bob");
+    ann.socket.write("\"two pie");
+    ann.socket.flush();
+    bob.socket.write("who\n");
+    EXPECT_TRUE(bob.Hears("2 players")) << "by now the first piece has been read";
+    ann.socket.write("ces\n" + QByteArray(200000, 'x') + "\n" + QByteArray(5000, '\n') + QByteArray(300, '\xff') +
+                     "\nl \xff\xff\xff\xff\n\"still here\n");
+    EXPECT_TRUE(bob.Hears("(Ann: two pieces\n"));
+    EXPECT_TRUE(bob.Hears("(Ann: still here\n"));
+}
+
+TEST_F(PracticeServerTest, LetsClientsGo) {
+    Open("wait for Ann\nboot Ann");
+    QSignalSpy ended(server.get(), &PracticeServer::TourEnded);
+    auto ann = std::make_unique<Player>(port);
+    ann->LogIn("Ann");
+    Player again(port);
+    again.socket.write("connect ann x\n");
+    EXPECT_TRUE(again.IsLetGo());
+    EXPECT_TRUE(again.heard.contains("A furre of this name is in the dream already."));
+    server->PassSecond();
+    server->PassSecond();
+    EXPECT_TRUE(ann->IsLetGo());
+    EXPECT_TRUE(ann->heard.endsWith("(You have been booted.\n"));
+    EXPECT_EQ(ended.count(), 1);
+    ann = std::make_unique<Player>(port);
+    ann->LogIn("Ann");
+}
+
+TEST_F(PracticeServerTest, PlaysItsTourByTheClock) {
+    Open("wait for Ann\nafter 2 Bob arrives\nafter 1 Bob says hi", 1);
+    QSignalSpy ended(server.get(), &PracticeServer::TourEnded);
+    Player ann(port);
+    ann.LogIn("Ann");
+    EXPECT_TRUE(ann.Hears("(Bob: hi\n"));
+    EXPECT_TRUE(ended.count() == 1 || ended.wait(kPatienceMs));
+    PracticeServer second;
+    const auto listening = second.Listen(port);
+    EXPECT_EQ(listening.port, 0) << "the port is taken";
+    EXPECT_FALSE(listening.fault.isEmpty());
+}
+
+TEST(TypedLine, BecomesACommand) {
+    const struct {
+        const char *typed, *command;
+    } cases[] = {{"", ""},        {"hi", "\"hi"},     {"-hey", "-hey"}, {":x", ":x"},
+                 {"`who", "who"}, {"/A b", "wh A b"}, {"`", ""}};
+    for (const auto& c : cases) EXPECT_EQ(CommandOfTypedLine(c.typed), c.command);
+}
+
+}  // namespace
