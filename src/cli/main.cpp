@@ -19,7 +19,9 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", std::string(kProductName) + " " + kProductVersion);
     app.require_subcommand(1);
     VerbAction action;
+    AddRunVerb(app, action);
     AddTryVerb(app, action);
+    AddPracticeVerb(app, action);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
