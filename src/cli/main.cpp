@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     VerbAction action;
     AddTryVerb(app, action);
+    AddPracticeVerb(app, action);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

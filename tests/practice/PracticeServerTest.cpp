@@ -87,7 +87,7 @@ TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
     ann.socket.flush();
     bob.socket.write("who\n");
     EXPECT_TRUE(bob.Hears("2 players")) << "by now the first piece has been read";
-    ann.socket.write("ces\n" + QByteArray(200000, 'x') + "\n" + QByteArray(5000, '\n') + QByteArray(300, '\xff') +
+    ann.socket.write("ces\n" + QByteArray(40000, 'x') + "\n" + QByteArray(5000, '\n') + QByteArray(300, '\xff') +
                      "\nl \xff\xff\xff\xff\n\"still here\n");
     EXPECT_TRUE(bob.Hears("(Ann: two pieces\n"));
     EXPECT_TRUE(bob.Hears("(Ann: still here\n"));
