@@ -17,6 +17,8 @@
 #include "text/Numbers.h"
 #include "text/Text.h"
 
+using Happening = SessionObserver::Happening;
+
 namespace {
 
 constexpr std::string_view kInvalidSelection = "Invalid Selection";
@@ -132,6 +134,7 @@ void Session::StandAlone() {
 }
 
 void Session::TypeLine(std::string_view text) {
+    Note(Happening::Typed, text);
     const auto sendIfAccepted = [this](std::string_view line) {
         if (FilterClientLine(bot_, line)) modSend::SendLine(bot_, line);
     };
@@ -147,6 +150,7 @@ void Session::TypeLine(std::string_view text) {
 }
 
 void Session::OnServerConnected() {
+    Note(Happening::Connected);
     ResetState(bot_.state);
     bot_.clock.seconds = bot_.clock.minutes = 0;
     bot_.status.connection = "Connected";
@@ -175,6 +179,7 @@ void Session::OnServerData(std::string_view packet) {
     if (!bot_.host.IsServerConnected()) return;
     std::string relayed;
     for (const std::string& line : serverLines_.Take(packet)) {
+        Note(Happening::ServerLine, line);
         ParseServerLine(bot_, line);
         relayed.append(line).append("\n");
     }
@@ -183,6 +188,7 @@ void Session::OnServerData(std::string_view packet) {
 }
 
 void Session::OnServerClosed() {
+    Note(Happening::Closed);
     ShowIdle();
     CloseClientWindow();
     RunScript(bot_, EventDisconnected);
@@ -196,23 +202,29 @@ void Session::OnServerError(const SocketError& error) {
 
 void Session::OnClientRequest() {
     link_.AcceptClient();
+    Note(Happening::Linked);
     clientLines_.Clear();
     // Kept on purpose: with a client the bot always goes to the game's own server, whatever was configured.
     ConnectServer("");
 }
 
-void Session::OnClientConnected() { ShowMenus(bot_.status.canDisconnect, true); }
+void Session::OnClientConnected() {
+    Note(Happening::Linked);
+    ShowMenus(bot_.status.canDisconnect, true);
+}
 
 void Session::OnClientData(std::string_view packet) {
     if (!bot_.host.IsClientConnected()) return;
     std::string relayed;
     for (const std::string& line : clientLines_.Take(packet)) {
+        Note(Happening::ClientLine, line);
         if (FilterClientLine(bot_, line)) relayed.append(line).append("\n");
     }
     if (!relayed.empty() && bot_.host.IsServerConnected()) bot_.host.WriteToServer(relayed);
 }
 
 void Session::OnClientClosed() {
+    Note(Happening::Unlinked);
     ShowMenus(bot_.status.canDisconnect, false);
     ForgetClientWindow();
 }
@@ -230,6 +242,10 @@ void Session::SetServer(std::string address, int port) {
 void Session::KeepSplitLines(bool keep) {
     serverLines_.KeepSplitLines(keep);
     clientLines_.KeepSplitLines(keep);
+}
+
+void Session::Note(Happening happening, std::string_view text) {
+    if (observer_) observer_->Note(happening, text);
 }
 
 void Session::ShowMenus(bool inSession, bool canStandAlone) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "net/PacketLines.h"
+#include "net/SessionObserver.h"
 
 struct Bot;
 class Link;
@@ -55,6 +56,9 @@ class Session {
     /// Connects elsewhere than the profile says, in both modes.
     void SetServer(std::string address, int port);
 
+    /// Tells an observer of everything that arrives; nullptr for none.
+    void SetObserver(SessionObserver* observer) { observer_ = observer; }
+
     /// Keeps the unended line at the end of a packet for the next packet, instead of dropping it.
     void KeepSplitLines(bool keep);
 
@@ -65,7 +69,9 @@ class Session {
     std::string serverAddress_;  ///< in place of the profile's, when not empty
     int serverPort_ = 0;
     PacketLines serverLines_, clientLines_;
+    SessionObserver* observer_ = nullptr;
 
+    void Note(SessionObserver::Happening happening, std::string_view text = {});
     void ConnectStandAlone();
     void ConnectThroughClient();
     void ConnectServer(const std::string& address);

@@ -1,0 +1,58 @@
+#include "rehearsal/Recording.h"
+
+#include <limits>
+
+#include "rehearsal/WrittenSession.h"
+
+namespace {
+
+/// The instruction that plays a happening.
+std::string_view WordFor(SessionObserver::Happening happening) {
+    using Happening = SessionObserver::Happening;
+    switch (happening) {
+        case Happening::Connected:
+            return "connect";
+        case Happening::Closed:
+            return "close";
+        case Happening::Linked:
+            return "link";
+        case Happening::Unlinked:
+            return "unlink";
+        case Happening::ServerLine:
+            return "server ";
+        case Happening::ClientLine:
+            return "client ";
+        case Happening::Typed:
+            return "type ";
+        case Happening::ScriptTick:
+            return "tick";
+        case Happening::WalkStep:
+            return "step";
+        case Happening::Sent:
+            return "expect ";
+    }
+    return "#";
+}
+
+}  // namespace
+
+void Recording::Note(Happening happening, std::string_view text) {
+    const std::string_view word = WordFor(happening);
+    if (happening == Happening::ScriptTick || happening == Happening::WalkStep) return Repeat(word);
+    WriteRepeated();
+    WriteLine(std::string(word) + WithoutPassword(text));
+}
+
+void Recording::Repeat(std::string_view word) {
+    if (word != repeated_ || times_ == std::numeric_limits<std::int16_t>::max()) WriteRepeated();
+    repeated_ = word;
+    ++times_;
+}
+
+void Recording::WriteRepeated() {
+    if (times_ > 0) WriteLine(times_ == 1 ? repeated_ : repeated_ + " " + std::to_string(times_));
+    times_ = 0;
+}
+
+// The player drops a carriage return before the line feed, so that one the line itself ends with survives.
+void Recording::WriteLine(const std::string& line) { write_(line + "\r\n"); }

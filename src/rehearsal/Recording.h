@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "net/SessionObserver.h"
+
+/// Writes what happens around a bot as a written session that can be played again: what arrived as instructions, what
+/// was sent as expectations, and never a password.
+class Recording final : public SessionObserver {
+  public:
+    /// @param write  takes each piece of the file, whole lines
+    explicit Recording(std::function<void(const std::string&)> write) : write_(std::move(write)) {}
+
+    /// Writes what is still held back.
+    ~Recording() override { WriteRepeated(); }
+
+    Recording(const Recording&) = delete;
+    Recording& operator=(const Recording&) = delete;
+
+    void Note(Happening happening, std::string_view text) override;
+
+  private:
+    std::function<void(const std::string&)> write_;
+    std::string repeated_;  ///< the timer instruction held back until something else happens
+    int times_ = 0;
+
+    void Repeat(std::string_view word);
+    void WriteRepeated();
+    void WriteLine(const std::string& line);
+};
