@@ -77,6 +77,7 @@ void PracticeServer::TakeConnections() {
             continue;
         }
         socket->setReadBufferSize(kHeardAtOnce);
+        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);  // short lines are not to wait for longer ones
         clients_.insert(socket, {*furre, {}});
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] { Guarded([&] { ReadFrom(socket); }); });
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] { Guarded([&] { Forget(socket); }); });

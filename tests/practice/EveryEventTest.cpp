@@ -113,6 +113,7 @@ TEST(ExampleTour, TellsTheBotWhatHappened) {
              "event 44, the sum of dice is thrown: Ann: 3d20 = 32",
              "event 48, a dream opens: Small|Pond at (26,12)",
              "event 49, a dream closes: at (26,12)",
+             "event 4, somebody speaks: Ann: that was all",
          }) {
         EXPECT_THAT(witness.console, testing::Contains(line));
     }

@@ -1,24 +1,16 @@
 #include <gmock/gmock.h>
 
-#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QTcpSocket>
 #include <QTest>
 
+#include "practice/Application.h"
 #include "practice/PracticeServer.h"
 #include "practice/TypedLine.h"
 
 namespace {
 
 constexpr int kPatienceMs = 5000;
-
-/// Nothing of Qt works without an application; another test may have made it.
-void EnsureApplication() {
-    static int count = 1;
-    static char name[] = "tests";
-    static char* arguments[] = {name, nullptr};
-    if (!QCoreApplication::instance()) new QCoreApplication(count, arguments);
-}
 
 class PracticeServerTest : public testing::Test {
   protected:
