@@ -1,5 +1,7 @@
 #include "cli/Report.h"
 
+#include <algorithm>
+
 #include "text/Text.h"
 
 std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
@@ -11,4 +13,11 @@ std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
 
 std::string MissingScript(const std::string& profilePath, const ProfileLoad& load) {
     return profilePath + ": there is no script " + ToUtf8(load.missingScript) + "; the bot runs without one";
+}
+
+std::string Printable(std::string_view text) {
+    std::string printable(text);
+    const auto isControl = [](char c) { return (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7F; };
+    std::replace_if(printable.begin(), printable.end(), isControl, ' ');
+    return ToUtf8(printable);
 }

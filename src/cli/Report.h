@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "engine/Bot.h"
 #include "profile/ProfileFile.h"
@@ -11,3 +12,6 @@ std::string DescribeFault(const RuntimeFault& fault, const Bot& bot);
 
 /// Tells which script a profile names in vain. UTF-8.
 std::string MissingScript(const std::string& profilePath, const ProfileLoad& load);
+
+/// A line of the game for a terminal: UTF-8, control characters put out of action.
+std::string Printable(std::string_view text);

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", std::string(kProductName) + " " + kProductVersion);
     app.require_subcommand(1);
     VerbAction action;
+    AddRunVerb(app, action);
     AddTryVerb(app, action);
     AddPracticeVerb(app, action);
     try {

@@ -1,22 +1,19 @@
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "cli/EndSignals.h"
+#include "cli/Report.h"
+#include "cli/TourFile.h"
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
 #include "practice/PracticeServer.h"
 #include "text/Text.h"
 
 namespace {
-
-/// The port can't be had: EX_UNAVAILABLE of <sysexits.h>.
-constexpr int kPortExit = 69;
 
 /// One of the two ports that the configuration offers.
 constexpr quint16 kUsualPort = 6000;
@@ -31,20 +28,6 @@ int Refuse(int status, const std::string& why) {
     return status;
 }
 
-std::optional<std::string> FileText(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) return std::nullopt;
-    return std::string(std::istreambuf_iterator<char>(file), {});
-}
-
-/// @return no tour for no file; otherwise what stands in it, or why it can't be played
-TourReading TourOf(const std::string& path) {
-    if (path.empty()) return {};
-    const auto text = FileText(path);
-    if (!text) return {{}, path + ": this file can't be read"};
-    return ReadTour(*text, path);
-}
-
 void Print(const std::string& line) { std::cout << line << std::endl; }
 
 int RunDream(const PracticeOptions& options, PracticeServer& server) {
@@ -54,7 +37,7 @@ int RunDream(const PracticeOptions& options, PracticeServer& server) {
     QObject::connect(&server, &PracticeServer::TourEnded, [] { Print("-- The tour has ended."); });
     const auto listening = server.Listen(options.port);
     if (listening.port == 0) {
-        return Refuse(kPortExit, "port " + std::to_string(options.port) + ": " + listening.fault.toStdString());
+        return Refuse(kUnavailableExit, "port " + std::to_string(options.port) + ": " + listening.fault.toStdString());
     }
     Print("-- The practice dream is open at 127.0.0.1, port " + std::to_string(listening.port) + ". Ctrl+C closes it.");
     Print("-- You are " + options.name +
@@ -66,7 +49,7 @@ int RunDream(const PracticeOptions& options, PracticeServer& server) {
 }
 
 int Practice(const PracticeOptions& options) {
-    TourReading reading = TourOf(options.tourFile);
+    TourReading reading = ReadTourFile(options.tourFile);
     if (!reading.fault.empty()) return Refuse(kUsageExit, reading.fault);
     int argumentCount = 1;
     char program[] = "vorel";
@@ -83,10 +66,10 @@ int Practice(const PracticeOptions& options) {
 
 void AddPracticeVerb(CLI::App& app, VerbAction& action) {
     const auto options = std::make_shared<PracticeOptions>();
-    CLI::App* const verb = app.add_subcommand("practice", "Opens the practice dream, a game server of your own");
-    verb->add_option("--port", options->port, "Port to listen on, on this computer only (0: any free one)")
+    CLI::App* const verb = app.add_subcommand("practice", "Open the practice dream, a game server of your own");
+    verb->add_option("--port", options->port, "the port to listen on, on this computer only (0: any free one)")
         ->capture_default_str();
-    verb->add_option("--tour", options->tourFile, "File that says what visitors come and what they do");
-    verb->add_option("--name", options->name, "Your own furre's name")->capture_default_str();
+    verb->add_option("--tour", options->tourFile, "the file that says which visitors come and what they do");
+    verb->add_option("--name", options->name, "your own furre's name")->capture_default_str();
     verb->callback([options, &action] { action = [options] { return Practice(*options); }; });
 }

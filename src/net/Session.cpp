@@ -112,8 +112,8 @@ void Session::ConnectThroughClient() {
 
 void Session::ConnectServer(const std::string& address) {
     serverLines_.Clear();
-    const bool elsewhere = !serverAddress_.empty();
-    link_.ConnectServer(elsewhere ? serverAddress_ : address, elsewhere ? serverPort_ : bot_.profile.port);
+    link_.ConnectServer(serverAddress_.empty() ? address : serverAddress_,
+                        serverPort_ == 0 ? bot_.profile.port : serverPort_);
 }
 
 void Session::Disconnect() {

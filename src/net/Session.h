@@ -54,6 +54,8 @@ class Session {
     void OnClientError(const SocketError& error);
 
     /// Connects elsewhere than the profile says, in both modes.
+    /// @param address  empty: where the profile says
+    /// @param port     0: the profile's
     void SetServer(std::string address, int port);
 
     /// Tells an observer of everything that arrives; nullptr for none.
@@ -66,7 +68,7 @@ class Session {
     Bot& bot_;
     Link& link_;
     std::int64_t clientWindow_ = 0;
-    std::string serverAddress_;  ///< in place of the profile's, when not empty
+    std::string serverAddress_;
     int serverPort_ = 0;
     PacketLines serverLines_, clientLines_;
     SessionObserver* observer_ = nullptr;

@@ -18,13 +18,12 @@
 /// The real world of a bot: Qt's sockets, timers and clock. It owns the bot and its session, and calls them from the
 /// event loop, one handler at a time. It translates and decides nothing.
 class QtHost final : public QObject, public Host, public Link {
-    Q_OBJECT
-
   public:
     /// @param programFolder  where data files live, UTF-8
     QtHost(FrontEnd& frontEnd, std::string programFolder);
 
     Bot& bot() { return bot_; }
+    const Bot& bot() const { return bot_; }
     Session& session() { return session_; }
 
     /// Tells an observer of everything that arrives, is sent, and ticks; nullptr for none.

@@ -1,0 +1,70 @@
+#include "cli/TerminalBot.h"
+
+#include <QTimer>
+#include <iostream>
+
+#include "cli/Report.h"
+#include "profile/ProfileFile.h"
+#include "text/Text.h"
+
+TerminalBot::TerminalBot(std::string profilePath, const std::string& folder, ConsoleOutput& output, Owner owner)
+    : profilePath_(std::move(profilePath)), output_(output), owner_(std::move(owner)), host_(*this, folder) {}
+
+TerminalBot::~TerminalBot() { host_.SetObserver(nullptr); }
+
+bool TerminalBot::Load() {
+    ProfileLoad load;
+    bool faulted = true;
+    host_.RunHandler([&] {
+        load = LoadProfile(host_.bot(), profilePath_);
+        faulted = false;
+    });
+    if (!load.missingScript.empty()) std::cerr << "vorel run: " << MissingScript(profilePath_, load) << std::endl;
+    return load.found || faulted;
+}
+
+bool TerminalBot::RecordTo(const std::string& path) {
+    recordFile_.setFileName(QString::fromStdString(path));
+    if (!recordFile_.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+    recording_ = std::make_unique<Recording>([this](const std::string& lines) {
+        recordFile_.write(lines.data(), static_cast<qint64>(lines.size()));
+        recordFile_.flush();
+    });
+    host_.SetObserver(recording_.get());
+    return true;
+}
+
+std::string TerminalBot::Label() const {
+    const std::string& name = host_.bot().status.botName;
+    return name.empty() ? FileNameOf(profilePath_) : ToUtf8(name);
+}
+
+void TerminalBot::Connect() {
+    host_.RunHandler([this] { host_.Connect(); });
+}
+
+void TerminalBot::Disconnect() {
+    host_.RunHandler([this] { host_.Disconnect(); });
+}
+
+void TerminalBot::TypeLine(const std::string& line) {
+    host_.RunHandler([&] { host_.session().TypeLine(line); });
+}
+
+void TerminalBot::ShowConsoleLine(std::string_view line) { output_.Show(hasLabel_ ? Label() : "", line); }
+
+void TerminalBot::ShowMessage(std::string_view title, std::string_view text) {
+    std::cerr << "vorel run: " << profilePath_ << ": " << Printable(title) << ": " << Printable(text) << std::endl;
+}
+
+void TerminalBot::StatusChanged() {
+    const bool connected = host_.IsServerConnected();
+    if (connected) wasConnected_ = true;
+    failed_ = IsIdle() && !wasConnected_;
+    // Whether this is the end shows only when the script has had its turn: it may connect again.
+    QTimer::singleShot(0, &host_, [this] {
+        if (IsIdle()) owner_.onIdle();
+    });
+}
+
+void TerminalBot::EndWithFault(const RuntimeFault& fault) { owner_.onFault(DescribeFault(fault, host_.bot())); }

@@ -1,0 +1,176 @@
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
+#include <QTimer>
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/ConsoleOutput.h"
+#include "cli/EndSignals.h"
+#include "cli/TerminalBot.h"
+#include "cli/TourFile.h"
+#include "cli/TypedInput.h"
+#include "cli/Verbs.h"
+#include "engine/Compare.h"
+#include "practice/PracticeServer.h"
+#include "text/Text.h"
+
+namespace {
+
+/// How long after the last step of a tour the bots still have for their answers.
+constexpr int kLastAnswersMs = 2000;
+
+struct RunOptions {
+    std::vector<std::string> profiles;
+    bool practice = false, quiet = false, keepSplitLines = false;
+    std::string server, log, record, tour, folder = ".";
+    int port = 0;
+};
+
+int Refuse(int status, const std::string& why) {
+    std::cerr << "vorel run: " << why << std::endl;
+    return status;
+}
+
+/// The bots of one process, from loading to the exit status.
+class TerminalRun {
+  public:
+    explicit TerminalRun(const RunOptions& options) : options_(options), output_(options.quiet) {}
+
+    int Run() {
+        if (const int refusal = Prepare()) return refusal;
+        for (const auto& bot : bots_) bot->Connect();
+        if (exit_) return *exit_;
+        if (std::all_of(bots_.begin(), bots_.end(), [](const auto& bot) { return bot->IsIdle(); })) return kConfigExit;
+
+        const EndSignals endSignals([this] { End(0); });
+        const TypedInput input([this](const std::string& line) { Type(line); });
+        return QCoreApplication::exec();
+    }
+
+  private:
+    const RunOptions& options_;
+    ConsoleOutput output_;
+    std::unique_ptr<PracticeServer> practice_;
+    std::vector<std::unique_ptr<TerminalBot>> bots_;
+    std::optional<int> exit_;
+
+    /// @return 0, or the exit status when the run can't begin
+    int Prepare() {
+        if (options_.profiles.size() > 1 && !options_.record.empty()) {
+            return Refuse(kUsageExit, "--record records one bot, not " + std::to_string(options_.profiles.size()));
+        }
+        if (!options_.log.empty() && !output_.LogTo(options_.log)) {
+            return Refuse(kCantCreateExit, "the log " + options_.log + " can't be written");
+        }
+        if (options_.practice) {
+            if (const int refusal = OpenPractice()) return refusal;
+        }
+        for (const std::string& profile : options_.profiles) {
+            if (const int refusal = AddBot(profile)) return refusal;
+        }
+        return 0;
+    }
+
+    int AddBot(const std::string& profile) {
+        const TerminalBot::Owner owner{[this] { OnIdle(); }, [this](const std::string& why) { OnFault(why); }};
+        auto& bot = *bots_.emplace_back(std::make_unique<TerminalBot>(profile, options_.folder, output_, owner));
+        bot.session().SetServer(options_.server, options_.port);
+        if (practice_) bot.session().SetServer("127.0.0.1", practicePort_);
+        bot.session().KeepSplitLines(options_.keepSplitLines);
+        if (options_.profiles.size() > 1) bot.ShowLabel();
+        if (!options_.record.empty() && !bot.RecordTo(options_.record)) {
+            return Refuse(kCantCreateExit, "the recording " + options_.record + " can't be written");
+        }
+        if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
+        return exit_.value_or(0);
+    }
+
+    int practicePort_ = 0;
+
+    int OpenPractice() {
+        TourReading reading = ReadTourFile(options_.tour);
+        if (!reading.fault.empty()) return Refuse(kUsageExit, reading.fault);
+        PracticeSettings settings;
+        settings.tour = std::move(reading.tour);
+        practice_ = std::make_unique<PracticeServer>(std::move(settings));
+        const auto listening = practice_->Listen(0);
+        if (listening.port == 0)
+            return Refuse(kUnavailableExit, "the practice dream: " + listening.fault.toStdString());
+        practicePort_ = listening.port;
+        if (isatty(STDIN_FILENO) == 0) {
+            QObject::connect(practice_.get(), &PracticeServer::TourEnded, practice_.get(),
+                             [this] { QTimer::singleShot(kLastAnswersMs, practice_.get(), [this] { End(0); }); });
+        }
+        return 0;
+    }
+
+    /// With several bots, "@name text" goes to the bot of that name, anything else to the first one.
+    void Type(const std::string& line) {
+        TerminalBot* chosen = bots_.front().get();
+        std::string text = line;
+        if (bots_.size() > 1 && line.starts_with('@')) {
+            const std::string name = line.substr(1, line.find(' ') - 1);
+            for (const auto& bot : bots_) {
+                if (!LooseEquals(FromUtf8(bot->Label()), name)) continue;
+                chosen = bot.get();
+                text = line.substr(std::min(line.find(' '), line.size() - 1) + 1);
+                break;
+            }
+        }
+        chosen->TypeLine(text);
+    }
+
+    /// Without a window nobody could connect an idle bot again: when the last one has gone idle, the run is over.
+    void OnIdle() {
+        const auto idle = [](const auto& bot) { return bot->IsIdle(); };
+        const auto failed = [](const auto& bot) { return bot->HasFailed(); };
+        if (!std::all_of(bots_.begin(), bots_.end(), idle)) return;
+        End(std::any_of(bots_.begin(), bots_.end(), failed) ? kUnavailableExit : 0);
+    }
+
+    void OnFault(const std::string& why) {
+        std::cerr << "vorel run: " << why << std::endl;
+        End(kFaultExit);
+    }
+
+    /// Disconnects every bot, so that its script hears of it, and leaves.
+    void End(int status) {
+        if (exit_) return;
+        exit_ = status;
+        for (const auto& bot : bots_) bot->Disconnect();
+        QCoreApplication::exit(status);
+    }
+};
+
+int Run(const RunOptions& options) {
+    int argumentCount = 1;
+    char program[] = "vorel";
+    char* arguments[] = {program, nullptr};
+    const QCoreApplication application(argumentCount, arguments);
+    return TerminalRun(options).Run();
+}
+
+}  // namespace
+
+void AddRunVerb(CLI::App& app, VerbAction& action) {
+    const auto options = std::make_shared<RunOptions>();
+    CLI::App* const verb = app.add_subcommand("run", "Run bots without a window");
+    verb->add_option("PROFILE", options->profiles, "the bots' profiles (.tvm)")->required();
+    auto* const practice =
+        verb->add_flag("--practice", options->practice, "open the practice dream in this process and connect there");
+    verb->add_option("--tour", options->tour, "the tour that visitors of the practice dream play")->needs(practice);
+    verb->add_option("--server", options->server, "connect to this host, in both modes")->excludes(practice);
+    verb->add_option("--port", options->port, "connect to this port")->check(CLI::Range(1, 65535))->excludes(practice);
+    verb->add_option("--log", options->log, "append the console to this file, with times");
+    verb->add_option("--record", options->record, "write what comes and goes as a session for `vorel try`");
+    verb->add_flag("--keep-split-lines", options->keepSplitLines, "keep a line that was cut by the end of a packet");
+    verb->add_flag("--quiet", options->quiet, "show no console lines");
+    verb->add_option("--folder", options->folder, "where data files are (default: the current folder)");
+    verb->callback([options, &action] { action = [options] { return Run(*options); }; });
+}
