@@ -132,7 +132,10 @@ double QtHost::Random() { return QRandomGenerator::global()->generateDouble(); }
 void QtHost::ConnectServer(const std::string& address, int port) {
     Release(sckServer_);
     sckServer_ = new QTcpSocket(this);
-    connect(sckServer_, &QTcpSocket::connected, this, [this] { RunHandler([this] { session_.OnServerConnected(); }); });
+    connect(sckServer_, &QTcpSocket::connected, this, [this] {
+        RunHandler([this] { session_.OnServerConnected(); });
+        if (sckClient_) ReadPacket(sckClient_, &Session::OnClientData);
+    });
     Watch(sckServer_, &Session::OnServerData, &Session::OnServerClosed, &Session::OnServerError);
 
     if (port < 1 || port > kLastPort) {
@@ -184,6 +187,8 @@ void QtHost::Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onC
 
 void QtHost::ReadPacket(QTcpSocket* socket, PacketHandler onData) {
     if (!IsOurs(socket) || socket->bytesAvailable() == 0) return;
+    // A client may log in before the server it is to be led to has answered: what it says waits for that.
+    if (socket == sckClient_ && sckServer_ && !IsConnected(sckServer_)) return;
     const QByteArray packet = TakePacket(*socket);
     RunHandler([&] { (session_.*onData)({packet.data(), static_cast<std::size_t>(packet.size())}); });
     // The rest of a flood waits until everything else has had its turn.
