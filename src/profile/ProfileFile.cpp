@@ -87,7 +87,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     const std::optional<std::string> found = bot.host.Disk().Find(path);
     if (!found) return {};
     bot.profile = Profile();
-    bot.profile.path = *found;
+    bot.profile.path = bot.host.Disk().Absolute(*found);
 
     ProfileLoad load{true};
     std::string section;
@@ -109,7 +109,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
 ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
     const std::optional<std::string> found = bot.host.Disk().Find(path);
     if (!found) return {};
-    bot.profile.path = *found;
+    bot.profile.path = bot.host.Disk().Absolute(*found);
 
     ProfileLoad load{true};
     PlaceMark place(bot, *found);
@@ -143,7 +143,7 @@ std::string ProfileBytes(const Profile& profile) {
 void SaveProfile(Bot& bot, const std::string& path) {
     const std::string file = WithExtension(path, kProfileExtension);
     bot.host.Disk().Write(file, ProfileBytes(bot.profile));
-    bot.profile.path = file;
+    bot.profile.path = bot.host.Disk().Absolute(file);
     bot.profile.dirty = false;
 }
 
