@@ -15,9 +15,9 @@ namespace {
 
 /// A client that sends this much without a line feed has its line cut, one that sends a lot is heard bit by bit, and
 /// one that doesn't read what it is sent is let go: none of them may fill the computer's memory.
-constexpr qsizetype kLongestUnfinished = 16 * 1024;
-constexpr qint64 kHeardAtOnce = 4 * 1024;
-constexpr qint64 kMostUnread = 16 * 1024 * 1024;
+constexpr qsizetype kLongestUnfinished = qsizetype{16} * 1024;
+constexpr qint64 kHeardAtOnce = qint64{4} * 1024;
+constexpr qint64 kMostUnread = qint64{16} * 1024 * 1024;
 
 LocalTime ComputerTime() {
     const QDateTime now = QDateTime::currentDateTime();
