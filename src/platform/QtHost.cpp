@@ -18,7 +18,7 @@ using Happening = SessionObserver::Happening;
 namespace {
 
 /// How much of a flood is handled at a time, before the event loop gets its turn.
-constexpr qint64 kPacketLimit = 64 * 1024;
+constexpr qint64 kPacketLimit = qint64{64} * 1024;
 
 constexpr int kLastPort = 65535;
 

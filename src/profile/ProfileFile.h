@@ -11,8 +11,8 @@ inline constexpr char kScriptExtension[] = ".vs";
 
 /// What came of reading a profile, for the program to tell the user.
 struct ProfileLoad {
-    bool found = false;              ///< is there a profile of that name; if not, nothing was loaded
-    std::string missingScript = "";  ///< the script the profile names, when there is no such file (Windows-1252)
+    bool found = false;           ///< is there a profile of that name; if not, nothing was loaded
+    std::string missingScript{};  ///< the script the profile names, when there is no such file (Windows-1252)
 };
 
 /// Reads a profile in place of the current one, as at start-up: with its ignore list and its script. The script's
