@@ -27,7 +27,8 @@ constexpr std::string_view kEffects[] = {
     "(5:68) {every} and store {15}", "(5:89) drop", "(5:80) alone", "(5:81) together", "(5:82) {Bob}", "(5:83) {bob}",
     "(5:1) leave"};
 constexpr std::string_view kPassedOver[] = {
-    "", "  ", "free text", "text (0:0) behind", "(2:0) x", "(9:3) x", "(7:32767) x", "(0:0)", "(0:1)", "(0:45)", "(5:3)",
+    "", "  ", "free text", "text (0:0) behind", "(2:0) x", "(9:3) x", "(7:32767) x", "(0:0)", "(0:1)", "(0:45)",
+    "(5:3)",
     "(3:1)", "\t(0:0) x", "(1:300) x", "*Endtriggers*9999*Endtriggers*", "*Endtriggers* 9999 *Endtriggers*",
     "*ENDTRIGGERS* *endtriggers*", "  *Endtriggers* 9999 *Endtriggers*", "*Endtriggers* 9999 *Endtriggers* ",
     "*Endtriggers* 9999"};
