@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "engine/Dispatcher.h"
@@ -80,29 +81,22 @@ TEST_P(Walk, RunsTheScriptByTheRules) {
 }
 INSTANTIATE_TEST_SUITE_P(Dispatcher, Walk, testing::ValuesIn(kWalkCases), kCaseName);
 
-struct TimerCase {
-    const char* name;
-    std::string cause;
-    int ticksWithin, holds;
-};
-const TimerCase kTimerCases[] = {
-    {"FirstNumberBehindTheBlankIsTheInterval", "(0:7) every {15} of 60", 60, 4},
-    {"IntervalsCountFromTheFullHour", "(0:7) every 1700 seconds", 7200, 6},
-    {"HourIsNotCarried", "(0:7) every 3600", 7200, 2},
-    {"NoNumberNeverHolds", "(0:7) every second", 3600, 0},
-    {"ZeroNeverHolds", "(0:7) every 0 7 seconds", 60, 0},
-    {"MoreThanSixteenBitsNeverHold", "(0:7) every 65537", 3600, 0},
-    {"NumberIsLookedForInTheExpandedText", "(0:7) every [n]", 60, 2},
-};
-class TimerCause : public testing::TestWithParam<TimerCase> {};
-TEST_P(TimerCause, HoldsAtEveryMultipleOfItsInterval) {
-    RehearsalBot rehearsal;
-    rehearsal.bot.variables.Set("[n]", "30");
-    rehearsal.SetScript({GetParam().cause, "(5:2) {tick}"});
-    for (int tick = 0; tick < GetParam().ticksWithin; ++tick) ScriptTimerTick(rehearsal.bot);
-    EXPECT_EQ(static_cast<int>(rehearsal.told.size()), GetParam().holds);
+TEST(TimerCause, HoldsAtEveryMultipleOfTheFirstNumberInItsText) {
+    const std::tuple<std::string, int, std::size_t> rows[] = {{"(0:7) every {15} of 60", 60, 4},
+                                                              {"(0:7) every [n]", 60, 2},
+                                                              {"(0:7) every 1700, from the full hour", 7200, 6},
+                                                              {"(0:7) every 3600, the hour not carried", 7200, 2},
+                                                              {"(0:7) every second", 3600, 0},
+                                                              {"(0:7) every 0 7 seconds", 60, 0},
+                                                              {"(0:7) every 65537, past 16 bits", 3600, 0}};
+    for (const auto& [cause, ticks, holds] : rows) {
+        RehearsalBot rehearsal;
+        rehearsal.bot.variables.Set("[n]", "30");
+        rehearsal.SetScript({cause, "(5:2) {tick}"});
+        for (int tick = 0; tick < ticks; ++tick) ScriptTimerTick(rehearsal.bot);
+        EXPECT_EQ(rehearsal.told.size(), holds) << cause;
+    }
 }
-INSTANTIATE_TEST_SUITE_P(Dispatcher, TimerCause, testing::ValuesIn(kTimerCases), kCaseName);
 
 TEST(ScriptFile, LosesOnlyTheLastLineEnd) {
     EXPECT_EQ(ScriptTextFromFile("a\n\r\nb\r\n"), "a\r\n\r\nb");
