@@ -94,6 +94,7 @@ const ConditionCase kConditionCases[] = {
 
     {"DieIsCountedFromOne", "(1:104) {1} {3}", true}, {"DieStandsOnTheLeft", "(1:102) {2} {6}", true},
     {"DieGreaterOrEqual", "(1:105) {2} {6}", false}, {"TotalStandsOnTheLeft", "(1:107) {9}", true},
+    {"TotalLessOrEqual", "(1:108) {8}", true}, {"DieLessOrEqual", "(1:103) {2} {5}", true},
     {"TotalGreaterOrEqual", "(1:110) {8}", true}, {"Less", "(1:112) {-1} {0}", true},
     {"Greater", "(1:115) {1} {1}", false}, {"GreaterOrEqual", "(1:116) {1} {1}", true},
     {"LastArgumentOfThree", "(1:114) {1} {2} {1}", true}, {"TextsAreComparedExactly", "(1:117) {abc} {ABC}", false},

@@ -115,7 +115,7 @@ const ExpansionCase kExpansionCases[] = {
     {"UserVariableSeesLaterRowsOnly", "[b]", "[a] c", [](Bot& b) {
         b.variables.Set("[a]", "too early"), b.variables.Set("[b]", "[a] [c]"), b.variables.Set("[c]", "c"); }},
     {"UserVariableNeedsNoBrackets", "nine", "9", [](Bot& b) { b.variables.Set("nine", "9"); }},
-    {"WordIsExpandedByLaterSteps", "[word1]", "3:04:05 PM", [](Bot& b) { b.state.message = "[time]"; }},
+    {"WordIsExpandedByLaterSteps", "[word1]", "Vo", [](Bot& b) { b.state.message = "[vorel.name]"; }},
     {"MessageIsNotExpandedByEarlierSteps",
      "[message]", "[word1] [time] Here", [](Bot& b) { b.state.message = "[word1] [time] [map]"; }},
     {"MapMayNameThePreviousMap", "[map]", "There", [](Bot& b) { b.state.map = "[previousmap]"; }},
