@@ -1,6 +1,7 @@
 #include "platform/QtHost.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QHostAddress>
 #include <QLocale>
 #include <QPointer>
@@ -33,6 +34,14 @@ std::string ToBotText(QString text) {
 QString LongTimeFormat(const QLocale& locale) {
     // Without the time zone: the marker of the half day comes last, as scripts expect.
     return locale.timeFormat(QLocale::LongFormat).remove(u't').trimmed();
+}
+
+/// Why a program that is there could not be started.
+std::string StartRefusal(const std::string& program, const QProcess& process) {
+    if (!QFileInfo(FromUtf8Text(program)).isExecutable()) {
+        return FromUtf8(program) + " may not be run as a program. Its file's permissions must allow that.";
+    }
+    return FromUtf8(program) + ": " + ToBotText(process.errorString());
 }
 
 /// One packet: what has arrived, or in a flood as many whole lines as fit the limit.
@@ -169,11 +178,16 @@ void QtHost::AcceptClient() {
     Watch(sckClient_, &Session::OnClientData, &Session::OnClientClosed, &Session::OnClientError);
 }
 
-void QtHost::StartClient(const std::string& program, const std::string& characterFile) {
-    const QString name = FromUtf8Text(program);
-    if (!QProcess::startDetached(name, {FromUtf8Text(characterFile)}, FromUtf8Text(currentFolder_))) {
-        frontEnd_.ShowConsoleLine("The Furcadia client could not be started: " + FromUtf8(program));
-    }
+std::string QtHost::StartClient(const std::string& program, const std::string& characterFile) {
+    QProcess client;
+    client.setProgram(FromUtf8Text(program));
+    client.setArguments({FromUtf8Text(characterFile)});
+    client.setWorkingDirectory(FromUtf8Text(currentFolder_));
+    // What is typed at the terminal is for the bot, and what is printed there is the bot's.
+    client.setStandardInputFile(QProcess::nullDevice());
+    client.setStandardOutputFile(QProcess::nullDevice());
+    if (!client.startDetached()) return StartRefusal(program, client);
+    return {};
 }
 
 void QtHost::Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)(), ErrorHandler onError) {

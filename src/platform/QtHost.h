@@ -64,7 +64,7 @@ class QtHost final : public QObject, public Host, public Link {
     void AcceptClient() override;
     void EnterFolder(const std::string& folder) override { currentFolder_ = folder; }
     void WriteProxyFile(const std::string& path, std::string_view text) override { disk_.Write(path, text); }
-    void StartClient(const std::string& program, const std::string& characterFile) override;
+    std::string StartClient(const std::string& program, const std::string& characterFile) override;
     std::int64_t FindClientWindow() override { return 0; }
     void CloseClientWindow(std::int64_t) override {}
 

@@ -244,6 +244,17 @@ TEST_P(SessionEnd, ClosesAndTells) {
 
 INSTANTIATE_TEST_SUITE_P(Session, SessionEnd, testing::ValuesIn(kEnds), kCaseName);
 
+TEST(Session, AClientsWindowThatOpensLateIsClosedAllTheSame) {
+    ReadyBot bot;
+    bot.SetClientMode();
+    bot.session.Connect();
+    bot.link.window = 7;
+    bot.TakeTold();
+    bot.session.Disconnect();
+    bot.session.Disconnect();
+    EXPECT_EQ(bot.told, Told{"link close window 7"});
+}
+
 TEST(Session, BeforeTheServerAnsweredNothingIsHeardAndTheEndIsNoEvent) {
     ReadyBot bot;
     bot.session.Connect();
