@@ -179,6 +179,7 @@ void QtHost::AcceptClient() {
 }
 
 std::string QtHost::StartClient(const std::string& program, const std::string& characterFile) {
+    clientWindow_->BeforeStart();
     QProcess client;
     client.setProgram(FromUtf8Text(program));
     client.setArguments({FromUtf8Text(characterFile)});
@@ -186,8 +187,20 @@ std::string QtHost::StartClient(const std::string& program, const std::string& c
     // What is typed at the terminal is for the bot, and what is printed there is the bot's.
     client.setStandardInputFile(QProcess::nullDevice());
     client.setStandardOutputFile(QProcess::nullDevice());
-    if (!client.startDetached()) return StartRefusal(program, client);
+    qint64 process = 0;
+    if (!client.startDetached(&process)) return StartRefusal(program, client);
+    clientWindow_->AfterStart(process);
     return {};
+}
+
+std::int64_t QtHost::FindClientWindow() {
+    const std::optional<std::int64_t> window = clientWindow_->Find();
+    // Told once the server is connected, for that is when the console is cleared.
+    if (!window && !toldNoWindows_ && IsServerConnected()) {
+        toldNoWindows_ = true;
+        ShowConsoleLine("On this desktop the Furcadia client's window can't be found, so it can't be closed either.");
+    }
+    return window.value_or(0);
 }
 
 void QtHost::Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)(), ErrorHandler onError) {

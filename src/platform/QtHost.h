@@ -5,6 +5,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "engine/Bot.h"
@@ -12,6 +13,7 @@
 #include "net/Link.h"
 #include "net/Session.h"
 #include "net/SessionObserver.h"
+#include "platform/ClientWindow.h"
 #include "platform/DiskFiles.h"
 #include "platform/FrontEnd.h"
 
@@ -65,8 +67,8 @@ class QtHost final : public QObject, public Host, public Link {
     void EnterFolder(const std::string& folder) override { currentFolder_ = folder; }
     void WriteProxyFile(const std::string& path, std::string_view text) override { disk_.Write(path, text); }
     std::string StartClient(const std::string& program, const std::string& characterFile) override;
-    std::int64_t FindClientWindow() override { return 0; }
-    void CloseClientWindow(std::int64_t) override {}
+    std::int64_t FindClientWindow() override;
+    void CloseClientWindow(std::int64_t window) override { clientWindow_->Close(window); }
 
     /// The folder that programs are started from; empty before a client was started.
     const std::string& CurrentFolder() const { return currentFolder_; }
@@ -84,6 +86,8 @@ class QtHost final : public QObject, public Host, public Link {
     const QTcpSocket* draining_ = nullptr;  ///< closed by the other side, what it sent not read yet
     QTcpServer listener_;
     QTimer tmrScript_, tmrMove_;
+    std::unique_ptr<ClientWindow> clientWindow_ = MachineClientWindow();
+    bool toldNoWindows_ = false;
 
     Bot bot_{*this};
     Session session_{bot_, *this};
