@@ -45,8 +45,8 @@ frmGS::frmGS(QtHost& host, Dialogs& dialogs)
     auto* const splitter = new QSplitter;
     splitter->addWidget(textSide);
     splitter->addWidget(BuildCommands());
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({660, 320});
     setCentralWidget(splitter);
     statusBar();
     BuildMenus();
