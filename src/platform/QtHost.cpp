@@ -129,8 +129,11 @@ std::string QtHost::LongTime(const LocalTime& time) const {
 
 double QtHost::Random() { return QRandomGenerator::global()->generateDouble(); }
 
-void QtHost::ConnectServer(const std::string& address, int port) {
+void QtHost::ConnectServer(const std::string& profileAddress, int profilePort) {
     Release(sckServer_);
+    std::string address = profileAddress;
+    int port = profilePort;
+    if (resolver_) resolver_(address, port);
     sckServer_ = new QTcpSocket(this);
     connect(sckServer_, &QTcpSocket::connected, this, [this] {
         RunHandler([this] { session_.OnServerConnected(); });

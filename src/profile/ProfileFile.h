@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 struct Bot;
+struct Profile;
 
 inline constexpr char kProfileExtension[] = ".tvm";
 inline constexpr char kScriptExtension[] = ".vs";
@@ -27,6 +29,14 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path);
 /// name without it. Clears the dirty flag.
 /// @throws RuntimeFault PathOrFileAccess
 void SaveProfile(Bot& bot, const std::string& path);
+
+/// What SaveProfile writes.
+std::string ProfileBytes(const Profile& profile);
+
+/// Takes back an unsaved profile from its bytes, without loading its script; the profile is dirty then.
+/// @param path  of the file that it is an unsaved change of, UTF-8; may be empty
+/// @throws RuntimeFault Overflow, for a number beyond 16 bits
+void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes);
 
 /// Empties the profile and the user variables, and puts the new-script template in place of the script.
 void NewProfile(Bot& bot);
