@@ -18,9 +18,9 @@ namespace {
 /// The program's own folder: that of the executable when it can be written, so that a copy on a stick keeps its things
 /// together; otherwise the user's data folder for the program.
 QString ProgramFolder() {
-    const QString beside = QCoreApplication::applicationDirPath();
+    QString beside = QCoreApplication::applicationDirPath();
     if (QFileInfo(beside).isWritable() && !beside.startsWith("/usr")) return beside;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(folder);
     return folder;
 }
