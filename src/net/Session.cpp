@@ -96,7 +96,10 @@ void Session::ConnectThroughClient() {
     ShowMenus(true, true);
     link_.CloseServer();
     link_.CloseClient();
-    const std::string program = *FindProfileFile(bot_, bot_.profile.clientPath);
+    // Looked up now: a path of the profile may start from the folder that is about to be left.
+    const Files& disk = bot_.host.Disk();
+    const std::string program = disk.Absolute(*FindProfileFile(bot_, bot_.profile.clientPath));
+    const std::string character = disk.Absolute(*FindProfileFile(bot_, bot_.profile.characterPath));
     const std::string folder = FolderOf(program);
     link_.EnterFolder(folder);
     const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
@@ -106,7 +109,7 @@ void Session::ConnectThroughClient() {
         return;
     }
     link_.WriteProxyFile(JoinPath(folder, "proxy.ini"), "localhost " + std::to_string(*port) + "\r\n");
-    link_.StartClient(program, *FindProfileFile(bot_, bot_.profile.characterPath));
+    link_.StartClient(program, character);
     clientWindow_ = link_.FindClientWindow();
 }
 

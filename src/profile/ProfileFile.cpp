@@ -80,7 +80,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     const std::optional<std::string> found = bot.host.Disk().Find(path);
     if (!found) return {};
     bot.profile = Profile();
-    bot.profile.path = *found;
+    bot.profile.path = bot.host.Disk().Absolute(*found);
 
     ProfileLoad load{true};
     std::string section;
@@ -102,7 +102,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
 ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
     const std::optional<std::string> found = bot.host.Disk().Find(path);
     if (!found) return {};
-    bot.profile.path = *found;
+    bot.profile.path = bot.host.Disk().Absolute(*found);
 
     ProfileLoad load{true};
     PlaceMark place(bot, *found);
@@ -133,7 +133,7 @@ void SaveProfile(Bot& bot, const std::string& path) {
     lines.insert(lines.end(), profile.ignores.begin(), profile.ignores.end());
     const std::string file = WithExtension(path, kProfileExtension);
     bot.host.Disk().Write(file, JoinFileLines(lines));
-    profile.path = file;
+    profile.path = bot.host.Disk().Absolute(file);
     profile.dirty = false;
 }
 
