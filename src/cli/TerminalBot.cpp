@@ -26,12 +26,16 @@ bool TerminalBot::Load() {
 bool TerminalBot::RecordTo(const std::string& path) {
     recordFile_.setFileName(QString::fromStdString(path));
     if (!recordFile_.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-    recording_ = std::make_unique<Recording>([this](const std::string& lines) {
-        recordFile_.write(lines.data(), static_cast<qint64>(lines.size()));
-        recordFile_.flush();
-    });
+    recording_ = std::make_unique<Recording>([this](const std::string& lines) { Record(lines); });
     host_.SetObserver(recording_.get());
     return true;
+}
+
+void TerminalBot::Record(const std::string& lines) {
+    const auto size = static_cast<qint64>(lines.size());
+    const bool written = recordFile_.write(lines.data(), size) == size && recordFile_.flush();
+    if (!written && !recordBroken_) std::cerr << "vorel run: the recording can't be written any more" << std::endl;
+    recordBroken_ = !written;
 }
 
 std::string TerminalBot::Label() const {
