@@ -105,7 +105,7 @@ void Session::ConnectThroughClient() {
     const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
     if (!port) {
         bot_.host.ShowConsoleLine("No port on this computer is free for the Furcadia client to connect to.");
-        ShowIdle();
+        ShowIdle(SessionStatus::End::ByError);
         return;
     }
     link_.WriteProxyFile(JoinPath(folder, "proxy.ini"), "localhost " + std::to_string(*port) + "\r\n");
@@ -120,7 +120,7 @@ void Session::ConnectServer(const std::string& address) {
 }
 
 void Session::Disconnect() {
-    ShowIdle();
+    ShowIdle(SessionStatus::End::Asked);
     link_.CloseClient();
     if (bot_.host.IsServerConnected()) {
         link_.CloseServer();
@@ -192,14 +192,15 @@ void Session::OnServerData(std::string_view packet) {
 
 void Session::OnServerClosed() {
     Note(Happening::Closed);
-    ShowIdle();
+    ShowIdle(SessionStatus::End::ByServer);
     CloseClientWindow();
     RunScript(bot_, EventDisconnected);
 }
 
 void Session::OnServerError(const SocketError& error) {
     link_.CloseServer();
-    ShowIdle();
+    bot_.status.reason = error.description;
+    ShowIdle(SessionStatus::End::ByError);
     bot_.host.ShowConsoleLine(ErrorLine("Server", error));
 }
 
@@ -258,7 +259,8 @@ void Session::ShowMenus(bool inSession, bool canStandAlone) {
     bot_.host.StatusChanged();
 }
 
-void Session::ShowIdle() {
+void Session::ShowIdle(SessionStatus::End end) {
+    bot_.status.end = end;
     bot_.status.connection = "Disconnected";
     ShowMenus(false, false);
 }

@@ -218,8 +218,8 @@ bool BeginsWith(std::string_view line, std::string_view words) {
     return line.starts_with(words) && (line.size() == words.size() || line[words.size()] == ' ');
 }
 
-template <std::size_t count>
-const TourPhrase* FindIn(const TourPhrase (&phrases)[count], std::string_view line, TourStep& step) {
+template <std::size_t Count>
+const TourPhrase* FindIn(const TourPhrase (&phrases)[Count], std::string_view line, TourStep& step) {
     const auto found = std::find_if(std::begin(phrases), std::end(phrases),
                                     [&](const TourPhrase& phrase) { return BeginsWith(line, phrase.words); });
     if (found == std::end(phrases)) return nullptr;

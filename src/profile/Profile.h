@@ -24,6 +24,8 @@ struct Profile {
     std::string serverAddress = kGameServer;  ///< chosen in the configuration; not stored
 
     bool IsClientMode() const { return connectClient == 1; }
+
+    friend bool operator==(const Profile&, const Profile&) = default;
 };
 
 /// True when the name, "|" read as a blank and letter case apart, stands on the ignore list.

@@ -80,6 +80,7 @@ void ProfileEdit::RemoveIgnore(std::size_t index) {
 }
 
 void ProfileEdit::Apply(const Fields& fields) {
+    const Profile before = profile_;
     profile_.clientPath = fields.clientPath;
     profile_.characterPath = fields.characterPath;
     profile_.owners = JoinedEntries(owners_);
@@ -89,5 +90,5 @@ void ProfileEdit::Apply(const Fields& fields) {
     profile_.signatureFirst = fields.signatureFirst;
     profile_.port = UsablePort(fields.port).value_or(profile_.port);
     profile_.serverAddress = fields.serverAddress;
-    MarkChanged();
+    if (profile_ != before) MarkChanged();
 }

@@ -16,9 +16,8 @@ ConsoleView::ConsoleView(QWidget* parent) : QListView(parent) {
     setTabKeyNavigation(false);
 
     // Whether the view is at its end is asked before lines come, and used after.
-    connect(&lines_, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
-        following_ = verticalScrollBar()->value() >= verticalScrollBar()->maximum();
-    });
+    connect(&lines_, &QAbstractItemModel::rowsAboutToBeInserted, this,
+            [this] { following_ = verticalScrollBar()->value() >= verticalScrollBar()->maximum(); });
     connect(&lines_, &QAbstractItemModel::rowsInserted, this, [this] {
         if (following_) scrollToBottom();
     });

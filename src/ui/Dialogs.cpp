@@ -8,9 +8,12 @@ namespace {
 
 QMessageBox::Icon BoxIcon(Dialogs::Icon icon) {
     switch (icon) {
-        case Dialogs::Icon::Information: return QMessageBox::Information;
-        case Dialogs::Icon::Critical: return QMessageBox::Critical;
-        case Dialogs::Icon::None: break;
+        case Dialogs::Icon::Information:
+            return QMessageBox::Information;
+        case Dialogs::Icon::Critical:
+            return QMessageBox::Critical;
+        case Dialogs::Icon::None:
+            break;
     }
     return QMessageBox::NoIcon;
 }
@@ -32,9 +35,12 @@ Dialogs::Answer QtDialogs::Ask(QWidget* parent, const QString& text, const QStri
     if (offersCancel) buttons |= QMessageBox::Cancel;
     QMessageBox box(QMessageBox::Question, title, text, buttons, parent);
     switch (box.exec()) {
-        case QMessageBox::Yes: return Answer::Yes;
-        case QMessageBox::Cancel: return Answer::Cancel;
-        default: return Answer::No;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::No;
     }
 }
 
