@@ -31,6 +31,8 @@ int Refuse(int status, const std::string& why) {
 void Print(const std::string& line) { std::cout << line << std::endl; }
 
 int RunDream(const PracticeOptions& options, PracticeServer& server) {
+    const std::string name = BlanksToBars(FromUtf8(options.name));
+    if (!IsFurreName(name)) return Refuse(kUsageExit, "a furre can't be called \"" + options.name + "\"");
     QObject::connect(&server, &PracticeServer::PersonHears, [](const QString& line) { Print(line.toStdString()); });
     QObject::connect(&server, &PracticeServer::TourEnded, [] { Print("-- The tour has ended."); });
     const auto listening = server.Listen(options.port);
@@ -38,9 +40,9 @@ int RunDream(const PracticeOptions& options, PracticeServer& server) {
         return Refuse(kUnavailableExit, "port " + std::to_string(options.port) + ": " + listening.fault.toStdString());
     }
     Print("-- The practice dream is open at 127.0.0.1, port " + std::to_string(listening.port) + ". Ctrl+C closes it.");
-    if (!server.AddPerson(BlanksToBars(FromUtf8(options.name)))) {
-        return Refuse(kUsageExit, "a furre can't be called \"" + options.name + "\"");
-    }
+    Print("-- You are " + options.name +
+          ": what you type is said. \"/NAME TEXT\" whispers, \":TEXT\" emotes, \"-TEXT\" shouts.");
+    server.AddPerson(name);
     const EndSignals endSignals([] { QCoreApplication::exit(0); });
     const TypedInput input([&](const std::string& line) { server.TypeAsPerson(line); });
     return QCoreApplication::exec();

@@ -29,6 +29,11 @@ struct SessionStatus {
     bool canConnect = true, canDisconnect = false, canStandAlone = false;
     std::string botName;     ///< "|" shown as blanks
     std::string connection;  ///< "Connected", "Disconnected", or empty before the first connection
+
+    /// How the last session ended: not at all yet, by the bot's own doing, by the server, or by an error.
+    enum class End { NotYet, Asked, ByServer, ByError };
+    End end = End::NotYet;
+    std::string reason;  ///< of an error, in words
 };
 
 /// Where the program is in a file that it reads or runs, so that a fault can name the place.

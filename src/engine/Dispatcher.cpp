@@ -128,7 +128,6 @@ class ScriptWalk {
     std::size_t RunEffects(std::size_t first, std::size_t causeLine) {
         std::size_t done = causeLine;
         for (std::size_t k = first; k < last_; ++k) {
-            if (Line(k).isEmpty) continue;
             const ScriptLine& effect = TrimmedLine(k);
             effect.asEffect.RaiseFault();
             if (effect.asEffect.IsCommand(kCauseLine)) return k - 1;

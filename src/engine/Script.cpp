@@ -82,7 +82,6 @@ std::size_t FirstAtOrAfter(const std::vector<std::size_t>& lines, std::size_t fr
 
 ScriptLine::ScriptLine(std::string_view asItStands)
     : text(Trim(asItStands)),
-      isEmpty(asItStands.empty()),
       endsScript(IsTerminator(asItStands)),
       endsScriptWhenTrimmed(IsTerminator(text)),
       asCause(ReadAsCause(text)),

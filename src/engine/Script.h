@@ -41,7 +41,6 @@ struct ScriptLine {
     explicit ScriptLine(std::string_view asItStands);
 
     std::string text;            ///< without blanks at both ends
-    bool isEmpty;                ///< has no characters at all, blanks counted
     bool endsScript;             ///< is the terminator line, "*Endtriggers* … *Endtriggers*", as it stands
     bool endsScriptWhenTrimmed;  ///< is it without the blanks at both ends
     LineReading asCause, asCondition, asEffect;

@@ -19,25 +19,27 @@ void UserVariables::Set(std::string_view name, std::string_view value) {
         row->value = value;
     } else {
         rows_.push_back({std::string(name), std::string(value)});
-        NoteBrackets();
     }
+    NoteChange();
 }
 
 void UserVariables::SetAll(std::string_view value) {
     for (UserVariable& row : rows_) row.value = value;
+    NoteChange();
 }
 
 void UserVariables::Remove(std::string_view name) {
     std::erase_if(rows_, HasName(name));
-    NoteBrackets();
+    NoteChange();
 }
 
 void UserVariables::Clear() {
     rows_.clear();
-    NoteBrackets();
+    NoteChange();
 }
 
-void UserVariables::NoteBrackets() {
+void UserVariables::NoteChange() {
+    ++revision_;
     allBracketed_ = std::all_of(rows_.begin(), rows_.end(),
                                 [](const UserVariable& row) { return row.name.find('[') != std::string::npos; });
 }

@@ -24,14 +24,18 @@ class UserVariables {
     void Remove(std::string_view name);
     void Clear();
 
+    /// Grows with every change, for who shows the variables.
+    std::size_t Revision() const { return revision_; }
+
     /// True when every name holds a "[", so that a text without one can't hold a variable.
     bool AllBracketed() const { return allBracketed_; }
 
   private:
     std::vector<UserVariable> rows_;
     bool allBracketed_ = true;
+    std::size_t revision_ = 0;
 
-    void NoteBrackets();
+    void NoteChange();
 };
 
 /// The name with a "[" in front and a "]" behind, where they are missing.

@@ -220,7 +220,8 @@ void ReplaceEventPlayer(Expansion& text) {
 std::string WordsFrom(const std::vector<std::string>& words, std::size_t first) {
     std::string joined;
     for (std::size_t i = first; i < words.size(); ++i) {
-        joined = joined.empty() ? words[i] : joined + " " + words[i];
+        if (!joined.empty()) joined += ' ';
+        joined += words[i];
     }
     return joined;
 }

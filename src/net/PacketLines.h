@@ -18,7 +18,7 @@ class PacketLines {
 
   private:
     /// No line of the game comes near this; more without a line feed is not worth keeping.
-    static constexpr std::size_t kLongestLine = 64 * 1024;
+    static constexpr std::size_t kLongestLine = std::size_t{64} * 1024;
 
     bool keep_ = false;
     std::string kept_;

@@ -96,17 +96,20 @@ void Session::ConnectThroughClient() {
     ShowMenus(true, true);
     link_.CloseServer();
     link_.CloseClient();
-    const std::string program = *FindProfileFile(bot_, bot_.profile.clientPath);
+    // Looked up now: a path of the profile may start from the folder that is about to be left.
+    const Files& disk = bot_.host.Disk();
+    const std::string program = disk.Absolute(*FindProfileFile(bot_, bot_.profile.clientPath));
+    const std::string character = disk.Absolute(*FindProfileFile(bot_, bot_.profile.characterPath));
     const std::string folder = FolderOf(program);
     link_.EnterFolder(folder);
     const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
     if (!port) {
         bot_.host.ShowConsoleLine("No port on this computer is free for the Furcadia client to connect to.");
-        ShowIdle();
+        ShowIdle(SessionStatus::End::ByError);
         return;
     }
     link_.WriteProxyFile(JoinPath(folder, "proxy.ini"), "localhost " + std::to_string(*port) + "\r\n");
-    link_.StartClient(program, *FindProfileFile(bot_, bot_.profile.characterPath));
+    link_.StartClient(program, character);
     clientWindow_ = link_.FindClientWindow();
 }
 
@@ -117,7 +120,7 @@ void Session::ConnectServer(const std::string& address) {
 }
 
 void Session::Disconnect() {
-    ShowIdle();
+    ShowIdle(SessionStatus::End::Asked);
     link_.CloseClient();
     if (bot_.host.IsServerConnected()) {
         link_.CloseServer();
@@ -189,14 +192,15 @@ void Session::OnServerData(std::string_view packet) {
 
 void Session::OnServerClosed() {
     Note(Happening::Closed);
-    ShowIdle();
+    ShowIdle(SessionStatus::End::ByServer);
     CloseClientWindow();
     RunScript(bot_, EventDisconnected);
 }
 
 void Session::OnServerError(const SocketError& error) {
     link_.CloseServer();
-    ShowIdle();
+    bot_.status.reason = error.description;
+    ShowIdle(SessionStatus::End::ByError);
     bot_.host.ShowConsoleLine(ErrorLine("Server", error));
 }
 
@@ -255,7 +259,8 @@ void Session::ShowMenus(bool inSession, bool canStandAlone) {
     bot_.host.StatusChanged();
 }
 
-void Session::ShowIdle() {
+void Session::ShowIdle(SessionStatus::End end) {
+    bot_.status.end = end;
     bot_.status.connection = "Disconnected";
     ShowMenus(false, false);
 }

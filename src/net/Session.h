@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include "engine/Bot.h"
 #include "net/PacketLines.h"
 #include "net/SessionObserver.h"
 
-struct Bot;
 class Link;
 
 /// What a socket says of its failure.
@@ -79,7 +79,7 @@ class Session {
     void ConnectServer(const std::string& address);
     void LogIn();
     void ShowMenus(bool inSession, bool canStandAlone);
-    void ShowIdle();
+    void ShowIdle(SessionStatus::End end);
     void CloseClientWindow();
     void ForgetClientWindow();
 };

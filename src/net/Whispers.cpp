@@ -18,8 +18,7 @@ constexpr std::string_view kShutDown = "shut down";
 
 constexpr std::string_view kCredits =
     "This bot runs on Tandry Vorel, a free bot-making client for everyone who likes to write scripts; it comes with "
-    "its "
-    "source code, under the GNU General Public License.";
+    "its source code, under the GNU General Public License.";
 
 constexpr std::string_view kHelp =
     "If this bot is causing problems then any Guardian may whisper 'shut down' (without the quotes) to it in order to "

@@ -18,7 +18,7 @@ using Happening = SessionObserver::Happening;
 namespace {
 
 /// How much of a flood is handled at a time, before the event loop gets its turn.
-constexpr qint64 kPacketLimit = 64 * 1024;
+constexpr qint64 kPacketLimit = qint64{64} * 1024;
 
 constexpr int kLastPort = 65535;
 
@@ -129,8 +129,11 @@ std::string QtHost::LongTime(const LocalTime& time) const {
 
 double QtHost::Random() { return QRandomGenerator::global()->generateDouble(); }
 
-void QtHost::ConnectServer(const std::string& address, int port) {
+void QtHost::ConnectServer(const std::string& profileAddress, int profilePort) {
     Release(sckServer_);
+    std::string address = profileAddress;
+    int port = profilePort;
+    if (resolver_) resolver_(address, port);
     sckServer_ = new QTcpSocket(this);
     connect(sckServer_, &QTcpSocket::connected, this, [this] {
         RunHandler([this] { session_.OnServerConnected(); });

@@ -26,6 +26,10 @@ class QtHost final : public QObject, public Host, public Link {
     const Bot& bot() const { return bot_; }
     Session& session() { return session_; }
 
+    /// Lets an address that stands for something else be put right before it is connected to.
+    using AddressResolver = std::function<void(std::string& address, int& port)>;
+    void SetAddressResolver(AddressResolver resolver) { resolver_ = std::move(resolver); }
+
     /// Tells an observer of everything that arrives, is sent, and ticks; nullptr for none.
     void SetObserver(SessionObserver* observer);
 
@@ -53,7 +57,7 @@ class QtHost final : public QObject, public Host, public Link {
     std::string ProgramFolder() const override { return programFolder_; }
 
     // Link
-    void ConnectServer(const std::string& address, int port) override;
+    void ConnectServer(const std::string& profileAddress, int profilePort) override;
     void CloseServer() override { Release(sckServer_); }
     void CloseClient() override;
     bool ListenForClient(std::int16_t port) override;
@@ -72,6 +76,7 @@ class QtHost final : public QObject, public Host, public Link {
     std::string programFolder_, currentFolder_;
     DiskFiles disk_;
     bool ended_ = false;
+    AddressResolver resolver_;
     SessionObserver* observer_ = nullptr;
 
     QTcpSocket* sckServer_ = nullptr;  ///< a new one for every connection; null when there is none

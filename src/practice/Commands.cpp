@@ -33,24 +33,24 @@ void Step(World& world, Guest& guest, std::string_view text) {
     if (text.size() == 1) modTravel::Step(world, guest, text.front());
 }
 
-template <bool right>
+template <bool Right>
 void Turn(World& world, Guest& guest, std::string_view) {
-    modTravel::Turn(world, guest, right);
+    modTravel::Turn(world, guest, Right);
 }
 
-template <std::int16_t posture>
+template <std::int16_t Posture>
 void TakePosture(World& world, Guest& guest, std::string_view) {
-    modTravel::TakePosture(world, guest, posture);
+    modTravel::TakePosture(world, guest, Posture);
 }
 
-template <std::string (*line)(Square)>
+template <std::string (*Line)(Square)>
 void ShowAtOwnSquare(World& world, Guest& guest, std::string_view) {
-    ForEachOnMapOf(world, guest, [&](const Guest& other) { world.Send(other, line(guest.at)); });
+    ForEachOnMapOf(world, guest, [&](const Guest& other) { world.Send(other, Line(guest.at)); });
 }
 
-template <void (*go)(World&, Guest&)>
+template <void (*Travel)(World&, Guest&)>
 void Go(World& world, Guest& guest, std::string_view) {
-    go(world, guest);
+    Travel(world, guest);
 }
 
 void Use(World& world, Guest& guest, std::string_view) { modTravel::SetOffTrigger(world, guest, guest.at); }
@@ -132,8 +132,8 @@ constexpr Command kPrefixes[] = {
 };
 // clang-format on
 
-template <std::size_t count>
-const Command* FindCommand(const Command (&commands)[count], std::string_view word) {
+template <std::size_t Count>
+const Command* FindCommand(const Command (&commands)[Count], std::string_view word) {
     const auto found = std::find_if(std::begin(commands), std::end(commands),
                                     [&](const Command& command) { return command.word == word; });
     return found == std::end(commands) ? nullptr : &*found;

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <utility>
 
+#include "engine/Compare.h"
 #include "practice/Commands.h"
 #include "practice/DreamLines.h"
 #include "practice/Requests.h"
@@ -40,7 +41,7 @@ std::string Cleaned(std::string_view line) {
 }  // namespace
 
 bool IsFurreName(std::string_view name) {
-    const bool isReserved = SameName(name, "You") || SameName(name, "Your");
+    const bool isReserved = LooseEquals(name, "You") || LooseEquals(name, "Your");
     return !name.empty() && name.size() <= kLongestName && !isReserved &&
            std::all_of(name.begin(), name.end(), MayStandInName);
 }

@@ -15,9 +15,9 @@ namespace {
 
 /// A client that sends this much without a line feed has its line cut, one that sends a lot is heard bit by bit, and
 /// one that doesn't read what it is sent is let go: none of them may fill the computer's memory.
-constexpr qsizetype kLongestUnfinished = 16 * 1024;
-constexpr qint64 kHeardAtOnce = 4 * 1024;
-constexpr qint64 kMostUnread = 16 * 1024 * 1024;
+constexpr qsizetype kLongestUnfinished = 16'384;
+constexpr qint64 kHeardAtOnce = 4'096;
+constexpr qint64 kMostUnread = 16'777'216;
 
 LocalTime ComputerTime() {
     const QDateTime now = QDateTime::currentDateTime();
@@ -77,6 +77,7 @@ void PracticeServer::TakeConnections() {
             continue;
         }
         socket->setReadBufferSize(kHeardAtOnce);
+        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);  // short lines are not to wait for longer ones
         clients_.insert(socket, {*furre, {}});
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] { Guarded([&] { ReadFrom(socket); }); });
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] { Guarded([&] { Forget(socket); }); });

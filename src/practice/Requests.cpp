@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "engine/Compare.h"
 #include "practice/DreamLines.h"
 #include "practice/Travel.h"
 
@@ -19,7 +20,8 @@ void DropRequestsFrom(Guest& guest, FurreId from) {
 Guest* TakeRequest(World& world, Guest& guest, std::string_view name, std::optional<bool> wantsToJoin) {
     const auto fits = [&](const Request& request) {
         const Guest& from = world.guests.at(request.from);
-        return (!wantsToJoin || request.wantsToJoin == *wantsToJoin) && (name.empty() || SameName(from.who.name, name));
+        return (!wantsToJoin || request.wantsToJoin == *wantsToJoin) &&
+               (name.empty() || LooseEquals(from.who.name, name));
     };
     const auto found = std::find_if(guest.requests.rbegin(), guest.requests.rend(), fits);
     if (found == guest.requests.rend()) return nullptr;

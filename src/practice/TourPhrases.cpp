@@ -5,6 +5,7 @@
 #include <iterator>
 #include <optional>
 
+#include "engine/Compare.h"
 #include "practice/Games.h"
 #include "text/Text.h"
 
@@ -53,7 +54,7 @@ std::string ReadDirections(TourStep& step) {
 
 std::string ReadMap(TourStep& step) {
     for (const DreamMap& map : AllDreamMaps()) {
-        if (map.way.empty() || !SameName(map.name, step.text)) continue;
+        if (map.way.empty() || !LooseEquals(map.name, step.text)) continue;
         step.text = map.way;
         return {};
     }
@@ -93,7 +94,7 @@ std::string ReadDreamAndSquare(TourStep& step) {
 
 /// "Bot" is whatever bot is there, unless somebody is called so.
 std::string RealName(Dream& dream, std::string_view name) {
-    const Guest* const bot = SameName(name, "Bot") && !dream.Find(name) ? dream.FirstClient() : nullptr;
+    const Guest* const bot = LooseEquals(name, "Bot") && !dream.Find(name) ? dream.FirstClient() : nullptr;
     return bot ? bot->who.name : std::string(name);
 }
 
@@ -217,8 +218,8 @@ bool BeginsWith(std::string_view line, std::string_view words) {
     return line.starts_with(words) && (line.size() == words.size() || line[words.size()] == ' ');
 }
 
-template <std::size_t count>
-const TourPhrase* FindIn(const TourPhrase (&phrases)[count], std::string_view line, TourStep& step) {
+template <std::size_t Count>
+const TourPhrase* FindIn(const TourPhrase (&phrases)[Count], std::string_view line, TourStep& step) {
     const auto found = std::find_if(std::begin(phrases), std::end(phrases),
                                     [&](const TourPhrase& phrase) { return BeginsWith(line, phrase.words); });
     if (found == std::end(phrases)) return nullptr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/Compare.h"
 #include "practice/DreamLines.h"
 
 namespace {
@@ -45,7 +46,7 @@ std::size_t MapOfWay(const World& world, std::string_view way) {
 }
 
 std::size_t MapOfDream(const World& world, std::string_view name) {
-    return MapWhere(world, [&](const DreamMap& map) { return map.playerMade && SameName(map.name, name); });
+    return MapWhere(world, [&](const DreamMap& map) { return map.playerMade && LooseEquals(map.name, name); });
 }
 
 }  // namespace
@@ -150,7 +151,7 @@ bool OpenDream(World& world, std::string_view name, Square at) {
 bool CloseDream(World& world, std::string_view name) {
     std::vector<DreamDoor>& doors = world.maps[kPracticeMap].doors;
     const auto door =
-        std::find_if(doors.begin(), doors.end(), [&](const DreamDoor& d) { return SameName(d.name, name); });
+        std::find_if(doors.begin(), doors.end(), [&](const DreamDoor& d) { return LooseEquals(d.name, name); });
     if (door == doors.end()) return false;
     for (const auto& [id, guest] : world.guests) {
         if (guest.loaded && guest.map == kPracticeMap) world.Send(guest, modDreamLines::DreamVanishes(door->at));

@@ -2,7 +2,7 @@
 
 std::string CommandOfTypedLine(std::string_view typed) {
     if (typed.empty()) return {};
-    const std::string rest(typed.substr(1));
+    std::string rest(typed.substr(1));
     switch (typed.front()) {
         case '-':
         case ':':

@@ -2,16 +2,13 @@
 
 #include <algorithm>
 
+#include "engine/Compare.h"
 #include "practice/DreamLines.h"
 #include "text/Text.h"
 
-bool SameName(std::string_view a, std::string_view b) {
-    return LowerCase(BarsToBlanks(a)) == LowerCase(BarsToBlanks(b));
-}
-
 Guest* FindGuest(World& world, std::string_view name) {
     for (auto& [id, guest] : world.guests) {
-        if (guest.IsIn() && SameName(guest.who.name, name)) return &guest;
+        if (guest.IsIn() && LooseEquals(guest.who.name, name)) return &guest;
     }
     return nullptr;
 }

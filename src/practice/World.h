@@ -67,8 +67,6 @@ Guest* FindGuest(World& world, std::string_view name);
 /// Who has that name, after telling the asking furre when nobody has.
 Guest* FindGuestFor(World& world, const Guest& asking, std::string_view name);
 
-bool SameName(std::string_view a, std::string_view b);
-
 /// Calls visit for every furre that is in on the same map, the given one included.
 void ForEachOnMapOf(World& world, const Guest& guest, const std::function<void(Guest&)>& visit);
 

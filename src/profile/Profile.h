@@ -10,7 +10,7 @@ inline constexpr std::int16_t kDefaultPort = 6000;
 
 /// What is saved in a ".tvm" file, Windows-1252 as it stands there, and the choices made beside it.
 struct Profile {
-    std::string path;                       ///< of the ".tvm" file, UTF-8; empty while it has no name yet
+    std::string path;                       ///< of the ".tvm" file, absolute, UTF-8; empty while it has no name yet
     std::string clientPath, characterPath;  ///< as written in the file
     std::string owners, maps;               ///< names joined with ", "; the bot may speak on these maps
     std::int16_t connectClient = 0;         ///< 1: client mode
@@ -24,6 +24,8 @@ struct Profile {
     std::string serverAddress = kGameServer;  ///< chosen in the configuration; not stored
 
     bool IsClientMode() const { return connectClient == 1; }
+
+    friend bool operator==(const Profile&, const Profile&) = default;
 };
 
 /// True when the name, "|" read as a blank and letter case apart, stands on the ignore list.

@@ -53,20 +53,25 @@ constexpr Key kKeys[] = {
     {"port=", SetPort},
 };
 
-void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& load) {
+void TakeValue(Profile& profile, const Entry& entry, bool signatureFirst) {
     if (entry.key == "logo=") {
-        bot.profile.signatureFirst = signatureFirst;
+        profile.signatureFirst = signatureFirst;
     } else if (entry.key == "script=") {
-        bot.profile.scriptPath = entry.value;
-        if (const auto path = FindProfileFile(bot, entry.value)) {
-            LoadScript(bot, *path);
-        } else {
-            load.missingScript = entry.value;
-        }
+        profile.scriptPath = entry.value;
     } else {
         const auto* const key =
             std::find_if(std::begin(kKeys), std::end(kKeys), [&](const Key& row) { return row.name == entry.key; });
-        if (key != std::end(kKeys)) key->set(bot.profile, entry.value);
+        if (key != std::end(kKeys)) key->set(profile, entry.value);
+    }
+}
+
+void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& load) {
+    TakeValue(bot.profile, entry, signatureFirst);
+    if (entry.key != "script=") return;
+    if (const auto path = FindProfileFile(bot, entry.value)) {
+        LoadScript(bot, *path);
+    } else {
+        load.missingScript = entry.value;
     }
 }
 
@@ -74,13 +79,15 @@ bool IsSectionLine(const std::string& line) { return line.starts_with('[') && li
 
 std::string SectionName(const std::string& line) { return LowerCase(line.substr(1, line.size() - 2)); }
 
+bool SaysTrue(const Entry& entry) { return LowerCase(entry.value) == "true"; }
+
 }  // namespace
 
 ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     const std::optional<std::string> found = bot.host.Disk().Find(path);
     if (!found) return {};
     bot.profile = Profile();
-    bot.profile.path = *found;
+    bot.profile.path = bot.host.Disk().Absolute(*found);
 
     ProfileLoad load{true};
     std::string section;
@@ -91,7 +98,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
             section = SectionName(line);
         } else if (section == "general") {
             const Entry entry = ReadEntry(line);
-            TakeEntry(bot, entry, LowerCase(entry.value) == "true", load);
+            TakeEntry(bot, entry, SaysTrue(entry), load);
         } else if (section == "ignores") {
             bot.profile.ignores.push_back(line);
         }
@@ -102,7 +109,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
 ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
     const std::optional<std::string> found = bot.host.Disk().Find(path);
     if (!found) return {};
-    bot.profile.path = *found;
+    bot.profile.path = bot.host.Disk().Absolute(*found);
 
     ProfileLoad load{true};
     PlaceMark place(bot, *found);
@@ -114,8 +121,7 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
     return load;
 }
 
-void SaveProfile(Bot& bot, const std::string& path) {
-    Profile& profile = bot.profile;
+std::string ProfileBytes(const Profile& profile) {
     std::vector<std::string> lines = {
         "[General]",
         "FurcadiaClient=" + profile.clientPath,
@@ -131,10 +137,29 @@ void SaveProfile(Bot& bot, const std::string& path) {
         "[Ignores]",
     };
     lines.insert(lines.end(), profile.ignores.begin(), profile.ignores.end());
+    return JoinFileLines(lines);
+}
+
+void SaveProfile(Bot& bot, const std::string& path) {
     const std::string file = WithExtension(path, kProfileExtension);
-    bot.host.Disk().Write(file, JoinFileLines(lines));
-    profile.path = file;
-    profile.dirty = false;
+    bot.host.Disk().Write(file, ProfileBytes(bot.profile));
+    bot.profile.path = bot.host.Disk().Absolute(file);
+    bot.profile.dirty = false;
+}
+
+void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes) {
+    Profile profile;
+    profile.path = path;
+    profile.serverAddress = bot.profile.serverAddress;
+    profile.dirty = true;
+    bool inIgnores = false;
+    for (const std::string& line : FileLines(bytes)) {
+        const Entry entry = ReadEntry(line);
+        if (inIgnores) profile.ignores.push_back(line);
+        inIgnores = inIgnores || (IsSectionLine(line) && SectionName(line) == "ignores");
+        if (!inIgnores) TakeValue(profile, entry, SaysTrue(entry));
+    }
+    bot.profile = profile;
 }
 
 void NewProfile(Bot& bot) {

@@ -1,16 +1,18 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 struct Bot;
+struct Profile;
 
 inline constexpr char kProfileExtension[] = ".tvm";
 inline constexpr char kScriptExtension[] = ".vs";
 
 /// What came of reading a profile, for the program to tell the user.
 struct ProfileLoad {
-    bool found = false;              ///< is there a profile of that name; if not, nothing was loaded
-    std::string missingScript = "";  ///< the script the profile names, when there is no such file (Windows-1252)
+    bool found = false;           ///< is there a profile of that name; if not, nothing was loaded
+    std::string missingScript{};  ///< the script the profile names, when there is no such file (Windows-1252)
 };
 
 /// Reads a profile in place of the current one, as at start-up: with its ignore list and its script. The script's
@@ -27,6 +29,14 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path);
 /// name without it. Clears the dirty flag.
 /// @throws RuntimeFault PathOrFileAccess
 void SaveProfile(Bot& bot, const std::string& path);
+
+/// What SaveProfile writes.
+std::string ProfileBytes(const Profile& profile);
+
+/// Takes back an unsaved profile from its bytes, without loading its script; the profile is dirty then.
+/// @param path  of the file that it is an unsaved change of, UTF-8; may be empty
+/// @throws RuntimeFault Overflow, for a number beyond 16 bits
+void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes);
 
 /// Empties the profile and the user variables, and puts the new-script template in place of the script.
 void NewProfile(Bot& bot);

@@ -1,9 +1,10 @@
 #include "rehearsal/WrittenSession.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
 #include <iterator>
 
-#include "text/Numbers.h"
 #include "text/Text.h"
 
 namespace {
@@ -34,12 +35,14 @@ constexpr Instruction kInstructions[] = {
     {"expect-nothing", Kind::ExpectNothing, Wants::Nothing},
 };
 
-std::optional<int> ReadNumber(std::string_view text) {
-    try {
-        return NumberOrFault(Trim(text));
-    } catch (const RuntimeFault&) {
-        return std::nullopt;
-    }
+/// An event code is a 16-bit number; a count of ticks may be more: a day has 86400.
+std::optional<int> ReadNumber(std::string_view text, Wants wants) {
+    int number = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number);
+    if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
+    const bool usable = wants == Wants::Code ? number == static_cast<std::int16_t>(number) : number >= 0;
+    return usable ? std::optional(number) : std::nullopt;
 }
 
 std::string Problem(std::size_t line, const std::string& what) { return "line " + std::to_string(line) + ": " + what; }
@@ -56,9 +59,8 @@ void ReadStep(WrittenSession& session, std::size_t line, const std::string& text
     SessionStep step{instruction->kind, line, text.substr(std::min(word.size() + 1, text.size()))};
     const bool timesLeftOut = instruction->wants == Wants::Times && step.text.empty();
     if ((instruction->wants == Wants::Code || instruction->wants == Wants::Times) && !timesLeftOut) {
-        const std::optional<int> number = ReadNumber(step.text);
-        const bool usable = number && (instruction->wants == Wants::Code || *number >= 0);
-        if (!usable) {
+        const std::optional<int> number = ReadNumber(Trim(step.text), instruction->wants);
+        if (!number) {
             session.error = Problem(line, "\"" + word + "\" wants a whole number, not \"" + step.text + "\"");
             return;
         }

@@ -1,9 +1,9 @@
 #include "text/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -64,8 +64,9 @@ double LeadingNumber(std::string_view text) {
 std::int16_t LeadingNumberOrZero(std::string_view text) { return RoundTo16(LeadingNumber(text)); }
 
 std::string FormatNumber(double number) {
-    std::array<char, 40> scientific{};  // "-d.dddddddddddddde-ddd"
-    std::snprintf(scientific.data(), scientific.size(), "%.*e", kSignificantDigits - 1, std::fabs(number));
+    std::array<char, 40> scientific{};  // "d.dddddddddddddde-ddd", whatever the user's locale has for a point
+    std::to_chars(scientific.data(), scientific.data() + scientific.size() - 1, std::fabs(number),
+                  std::chars_format::scientific, kSignificantDigits - 1);
     std::string digits(1, scientific[0]);
     digits.append(scientific.data() + 2, kSignificantDigits - 1);
     const int exponent = std::atoi(scientific.data() + 2 + kSignificantDigits);

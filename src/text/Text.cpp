@@ -61,8 +61,7 @@ char32_t ToUnicode(unsigned char code) {
 
 char FromUnicode(char32_t point) {
     if (point < 0x80 || (point > 0x9F && point <= 0xFF)) return static_cast<char>(point);
-    const auto* const found =
-        point == 0 ? kHighControls.end() : std::find(kHighControls.begin(), kHighControls.end(), point);
+    const auto* const found = std::find(kHighControls.begin(), kHighControls.end(), point);
     return found == kHighControls.end() ? '?' : static_cast<char>(0x80 + (found - kHighControls.begin()));
 }
 
@@ -80,6 +79,10 @@ void AppendUtf8(std::string& utf8, char32_t point) {
     }
 }
 
+/// The smallest character that takes so many tail bytes: a longer form than needed is no UTF-8, and would let a slash
+/// pass for something else.
+constexpr std::array<char32_t, 4> kSmallestWithTails = {0, 0x80, 0x800, 0x10000};
+
 /// Reads one character at position and moves position behind it; a byte that begins no UTF-8 character is U+FFFD.
 char32_t NextUtf8(std::string_view utf8, std::size_t& position) {
     const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(utf8[at]); };
@@ -92,7 +95,7 @@ char32_t NextUtf8(std::string_view utf8, std::size_t& position) {
         if (position == utf8.size() || (byte(position) & 0xC0) != 0x80) return 0xFFFD;
         point = (point << 6) | (byte(position++) & 0x3FU);
     }
-    return point;
+    return point < kSmallestWithTails[tails] ? 0xFFFD : point;
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 namespace {
 
-const std::string kExamples = TVOREL_EXAMPLES;
+const std::string kExamples = std::string(TVOREL_SOURCE_DIR) + "/examples";
 
 /// A whole bot in the practice dream, with lines handed over in memory where otherwise sockets are.
 class BotInDream {
@@ -34,7 +34,8 @@ class BotInDream {
         for (bool quiet = false; !quiet;) {
             for (; !sent_.empty(); sent_.pop_front()) bench.dream.Hear(id, sent_.front());
             std::string packet;
-            for (const std::string& line : bench.Listen()[id]) packet += line + "\n";
+            const Lines heard = bench.Listen()[id];
+            for (const std::string& line : heard) packet += line + "\n";
             if (!packet.empty()) rehearsal.session.OnServerData(packet);
             quiet = packet.empty() && sent_.empty();
         }
@@ -109,9 +110,10 @@ TEST(ExampleTour, TellsTheBotWhatHappened) {
              "event 42, the bot is given a cookie: by Ann",
              "event 43, the game tells its time: 7:5:9 PM",
              "event 45, dice are thrown: Ann: 2d6 = 3, the first 1",
-             "event 44, the sum of dice is thrown: Ann: 3d20 = 31",
+             "event 44, the sum of dice is thrown: Ann: 3d20 = 32",
              "event 48, a dream opens: Small|Pond at (26,12)",
              "event 49, a dream closes: at (26,12)",
+             "event 4, somebody speaks: Ann: that was all",
          }) {
         EXPECT_THAT(witness.console, testing::Contains(line));
     }

@@ -7,11 +7,13 @@
 #include "text/Fault.h"
 #include "text/Text.h"
 
-/// Files that live in memory. A path marked unwritable can't be written.
+/// Files that live in memory. A path marked unwritable can't be written; the current folder counts for
+/// Absolute only.
 class MemoryFiles final : public Files {
   public:
     std::map<std::string, std::string> contents;
     std::string unwritable;
+    std::string currentFolder;
 
     std::string Read(const std::string& path) const override {
         const auto file = contents.find(path);
@@ -30,5 +32,5 @@ class MemoryFiles final : public Files {
         }
         return std::nullopt;
     }
-    std::string Absolute(const std::string& path) const override { return path; }
+    std::string Absolute(const std::string& path) const override { return JoinPath(currentFolder, path); }
 };

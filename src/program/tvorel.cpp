@@ -1,0 +1,55 @@
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTranslator>
+
+#include "Version.h"
+#include "ui/CommandList.h"
+#include "ui/Dialogs.h"
+#include "ui/Options.h"
+#include "ui/ShownText.h"
+#include "ui/frmVorel.h"
+
+namespace {
+
+/// The program's own folder: that of the executable when it can be written, so that a copy on a stick keeps its things
+/// together; otherwise the user's data folder for the program.
+QString ProgramFolder() {
+    const QString beside = QCoreApplication::applicationDirPath();
+    if (QFileInfo(beside).isWritable() && !beside.startsWith("/usr")) return beside;
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+/// The command list is looked for in the program's folder; where it is missing, the installed one is put there.
+void ProvideCommandList(const QString& folder) {
+    const QString list = QDir(folder).filePath(kCommandList);
+    if (QFileInfo::exists(list)) return;
+    const QDir beside(QCoreApplication::applicationDirPath());
+    for (const QString& place : {beside.filePath("../share/tvorel"), beside.filePath("../../share")}) {
+        if (QFile::copy(QDir(place).filePath(kCommandList), list)) return;
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("tvorel");
+    QApplication::setApplicationDisplayName(kProductName);
+    QApplication::setApplicationVersion(kProductVersion);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const QString folder = ProgramFolder();
+    ProvideCommandList(folder);
+    QtDialogs dialogs;
+    frmVorel window(dialogs, folder);
+    window.Start();
+    window.show();
+    for (const QString& document : QApplication::arguments().mid(1)) window.OpenDocument(TypedPath(document));
+    return QApplication::exec();
+}

@@ -1,0 +1,49 @@
+#include "ui/ConsoleView.h"
+
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QScrollBar>
+#include <algorithm>
+
+ConsoleView::ConsoleView(QWidget* parent) : QListView(parent) {
+    setModel(&lines_);
+    setUniformItemSizes(true);
+    setLayoutMode(QListView::SinglePass);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+
+    // Whether the view is at its end is asked before lines come, and used after.
+    connect(&lines_, &QAbstractItemModel::rowsAboutToBeInserted, this,
+            [this] { following_ = verticalScrollBar()->value() >= verticalScrollBar()->maximum(); });
+    connect(&lines_, &QAbstractItemModel::rowsInserted, this, [this] {
+        if (following_) scrollToBottom();
+    });
+}
+
+bool ConsoleView::FindNext(const QString& text) {
+    const int count = lines_.rowCount();
+    const int from = currentIndex().isValid() ? currentIndex().row() : count - 1;
+    for (int i = 1; i <= count && !text.isEmpty(); ++i) {
+        const int row = (from + i) % count;
+        if (!lines_.LineAt(row).contains(text, Qt::CaseInsensitive)) continue;
+        setCurrentIndex(lines_.index(row));
+        scrollTo(lines_.index(row));
+        return true;
+    }
+    return false;
+}
+
+void ConsoleView::CopySelection() const {
+    QModelIndexList rows = selectionModel()->selectedIndexes();
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    for (const QModelIndex& row : rows) lines << row.data().toString();
+    if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join('\n'));
+}
+
+void ConsoleView::SetMonospaced(bool monospaced) {
+    setFont(monospaced ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : QFont());
+}

@@ -1,0 +1,61 @@
+#include "ui/Dialogs.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon BoxIcon(Dialogs::Icon icon) {
+    switch (icon) {
+        case Dialogs::Icon::Information:
+            return QMessageBox::Information;
+        case Dialogs::Icon::Critical:
+            return QMessageBox::Critical;
+        case Dialogs::Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// Qt's own form of a filter has the patterns in parentheses, where the description has them already.
+QString QtFilter(const QString& filter) { return filter.section('|', 0, 0).trimmed(); }
+
+std::optional<QString> Chosen(const QString& path) { return path.isEmpty() ? std::nullopt : std::optional(path); }
+
+}  // namespace
+
+void QtDialogs::ShowMessage(QWidget* parent, const QString& text, const QString& title, Icon icon) {
+    QMessageBox box(BoxIcon(icon), title, text, QMessageBox::Ok, parent);
+    box.exec();
+}
+
+Dialogs::Answer QtDialogs::Ask(QWidget* parent, const QString& text, const QString& title, bool offersCancel) {
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    if (offersCancel) buttons |= QMessageBox::Cancel;
+    QMessageBox box(QMessageBox::Question, title, text, buttons, parent);
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::No;
+    }
+}
+
+std::optional<QString> QtDialogs::AskText(QWidget* parent, const QString& prompt, const QString& title) {
+    bool accepted = false;
+    const QString text = QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, {}, &accepted);
+    return accepted ? std::optional(text) : std::nullopt;
+}
+
+std::optional<QString> QtDialogs::AskOpenFile(QWidget* parent, const QString& title, const QString& filter,
+                                              const QString& folder) {
+    return Chosen(QFileDialog::getOpenFileName(parent, title, folder, QtFilter(filter)));
+}
+
+std::optional<QString> QtDialogs::AskSaveFile(QWidget* parent, const QString& title, const QString& filter,
+                                              const QString& folder) {
+    return Chosen(QFileDialog::getSaveFileName(parent, title, folder, QtFilter(filter)));
+}

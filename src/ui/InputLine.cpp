@@ -1,0 +1,31 @@
+#include "ui/InputLine.h"
+
+#include <QKeyEvent>
+
+QString InputLine::Take() {
+    constexpr qsizetype kHistoryLength = 500;
+    const QString text = this->text();
+    if (!text.isEmpty() && (history_.isEmpty() || history_.last() != text)) history_ << text;
+    if (history_.size() > kHistoryLength) history_.removeFirst();
+    at_ = history_.size();
+    typed_.clear();
+    clear();
+    return text;
+}
+
+void InputLine::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Up) {
+        ShowHistory(at_ - 1);
+    } else if (event->key() == Qt::Key_Down) {
+        ShowHistory(at_ + 1);
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void InputLine::ShowHistory(qsizetype at) {
+    if (at < 0 || at > history_.size()) return;
+    if (at_ == history_.size()) typed_ = text();
+    at_ = at;
+    setText(at == history_.size() ? typed_ : history_[at]);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTimer>
+#include <functional>
+
+/// Calls for another try after a lost or refused connection, with growing pauses that vary a little, so that many
+/// bots don't come back at the same moment.
+class Reconnector final : public QObject {
+    Q_OBJECT
+
+  public:
+    /// @param draw  a uniform draw, at least 0 and below 1
+    explicit Reconnector(std::function<double()> draw, QObject* parent = nullptr);
+
+    /// Begins the next pause.
+    /// @return its length in milliseconds
+    int Schedule();
+
+    /// No more tries; the next pause is a short one again.
+    void Stop();
+
+    /// The pause before try n, counted from 0: 5 seconds, doubled each time up to 5 minutes, and up to a quarter more.
+    static int PauseMs(int attempt, double draw);
+
+  signals:
+    void TryNow();
+
+  private:
+    std::function<double()> draw_;
+    QTimer timer_;
+    int attempt_ = 0;
+};

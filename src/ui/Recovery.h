@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "engine/Files.h"
+
+/// Unsaved work put aside in the program's folder, to be offered back at the next start after a crash.
+class Recovery {
+  public:
+    struct Copy {
+        std::string path;   ///< the file it is an unsaved change of, UTF-8; empty for a new one
+        std::string bytes;  ///< the file as it would have been written
+    };
+
+    /// @param folder  the program's, UTF-8
+    Recovery(Files& disk, const std::string& folder);
+
+    /// Puts the unsaved script or profile aside, or clears the copy when there is nothing unsaved. Writes only when
+    /// something has changed since the last time.
+    /// @return where the copy lies; empty when there is none, or when it could not be written
+    std::string KeepScript(const std::optional<Copy>& unsaved) { return Keep(script_, unsaved); }
+    std::string KeepProfile(const std::optional<Copy>& unsaved) { return Keep(profile_, unsaved); }
+
+    /// What an earlier run has left; nothing when it ended in order.
+    std::optional<Copy> FoundScript() const { return Found(script_); }
+    std::optional<Copy> FoundProfile() const { return Found(profile_); }
+
+  private:
+    struct Slot {
+        std::string file;
+        std::string written;
+    };
+    Files& disk_;
+    Slot script_, profile_;
+
+    std::string Keep(Slot& slot, const std::optional<Copy>& unsaved);
+    std::optional<Copy> Found(const Slot& slot) const;
+};

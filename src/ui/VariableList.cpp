@@ -1,0 +1,70 @@
+#include "ui/VariableList.h"
+
+#include <QHeaderView>
+
+#include "engine/UserVariables.h"
+#include "ui/ShownText.h"
+
+namespace {
+constexpr int kRefreshMs = 250;
+constexpr int kNameRole = Qt::UserRole;
+}  // namespace
+
+VariableList::VariableList(UserVariables& variables, QWidget* parent) : QTreeWidget(parent), variables_(variables) {
+    setObjectName("lvwVars");
+    setHeaderLabels({"Variable", "Value"});
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    header()->setStretchLastSection(true);
+    setAccessibleName(tr("Variables"));
+    setAccessibleDescription(tr("The script's variables; F2 changes the value or the name that is chosen"));
+    connect(this, &QTreeWidget::itemChanged, this, &VariableList::TakeOver);
+    connect(&refresh_, &QTimer::timeout, this, &VariableList::Refresh);
+    refresh_.start(kRefreshMs);
+    Refresh();
+}
+
+void VariableList::Refresh() {
+    // Not under the user's hands, and not for nothing.
+    if (state() == QAbstractItemView::EditingState || (shown_ == variables_.Revision() && shown_ != 0)) return;
+    refreshing_ = true;
+    const auto& rows = variables_.Rows();
+    while (topLevelItemCount() > static_cast<int>(rows.size())) delete takeTopLevelItem(topLevelItemCount() - 1);
+    for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
+        if (i == topLevelItemCount()) {
+            auto* const item = new QTreeWidgetItem(this);
+            item->setFlags(item->flags() | Qt::ItemIsEditable);
+        }
+        const UserVariable& row = rows[static_cast<std::size_t>(i)];
+        QTreeWidgetItem* const item = topLevelItem(i);
+        if (item->text(0) != Shown(row.name)) item->setText(0, Shown(row.name));
+        if (item->text(1) != Shown(row.value)) item->setText(1, Shown(row.value));
+        item->setData(0, kNameRole, Shown(row.name));
+    }
+    shown_ = variables_.Revision();
+    refreshing_ = false;
+}
+
+void VariableList::TakeOver(QTreeWidgetItem* item, int column) {
+    if (refreshing_) return;
+    const std::string before = Typed(item->data(0, kNameRole).toString());
+    const std::string name = Typed(item->text(0));
+    if (column == 0 && name != before) variables_.Remove(before);
+    if (!name.empty()) variables_.Set(name, Typed(item->text(1)));
+    shown_ = 0;
+}
+
+void VariableList::AddRow() {
+    int number = 1;
+    while (variables_.Find("[variable" + std::to_string(number) + "]")) ++number;
+    variables_.Set("[variable" + std::to_string(number) + "]", "0");
+    Refresh();
+    setCurrentItem(topLevelItem(topLevelItemCount() - 1));
+    editItem(currentItem(), 0);
+}
+
+void VariableList::RemoveRow() {
+    if (!currentItem()) return;
+    variables_.Remove(Typed(currentItem()->data(0, kNameRole).toString()));
+    Refresh();
+}

@@ -1,0 +1,321 @@
+#include "ui/frmGS.h"
+
+#include <Qsci/qsciscintilla.h>
+
+#include <QCloseEvent>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "engine/Dispatcher.h"
+#include "engine/Script.h"
+#include "platform/QtHost.h"
+#include "profile/ProfileFile.h"
+#include "text/Fault.h"
+#include "ui/CommandList.h"
+#include "ui/Dialogs.h"
+#include "ui/FindBar.h"
+#include "ui/ShownText.h"
+#include "ui/VorelSpeakLexer.h"
+
+namespace {
+
+constexpr char kTitle[] = "VorelSpeak Script Editor";
+constexpr char kFilter[] = "VorelSpeak Script (*.vs) | *.vs";
+constexpr char kRootCaptions[][24] = {"Causes", "Additional Conditions", "Effects"};
+
+}  // namespace
+
+frmGS::frmGS(QtHost& host, Dialogs& dialogs)
+    : host_(host), dialogs_(dialogs), txtScript_(new QsciScintilla), lexer_(new VorelSpeakLexer(this)) {
+    setObjectName("frmGS");
+    resize(980, 640);
+    findBar_ = new FindBar(*txtScript_);
+    BuildText();
+
+    auto* const textSide = new QWidget;
+    auto* const textLayout = new QVBoxLayout(textSide);
+    textLayout->setContentsMargins(0, 0, 0, 0);
+    textLayout->addWidget(txtScript_);
+    textLayout->addWidget(findBar_);
+    auto* const splitter = new QSplitter;
+    splitter->addWidget(textSide);
+    splitter->addWidget(BuildCommands());
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({660, 320});
+    setCentralWidget(splitter);
+    statusBar();
+    BuildMenus();
+    NewScript();
+}
+
+void frmGS::BuildText() {
+    txtScript_->setObjectName("txtScript");
+    txtScript_->setAccessibleName(tr("Script"));
+    txtScript_->setAccessibleDescription(tr("The text of the script. F6 leads to the list of commands."));
+    txtScript_->setUtf8(true);
+    txtScript_->setEolMode(QsciScintilla::EolWindows);
+    txtScript_->setLexer(lexer_);
+    txtScript_->setMarginType(0, QsciScintilla::NumberMargin);
+    txtScript_->setMarginWidth(0, "00000");
+    txtScript_->setMarginWidth(1, 0);
+    txtScript_->setCaretLineVisible(true);
+    txtScript_->setBraceMatching(QsciScintilla::SloppyBraceMatch);
+    txtScript_->setTabWidth(5);
+    txtScript_->setIndentationsUseTabs(false);
+    FollowPalette();
+    connect(txtScript_, &QsciScintilla::modificationChanged, this,
+            [this](bool changed) { setWindowModified(changed); });
+    connect(txtScript_, &QsciScintilla::cursorPositionChanged, this, [this](int line, int column) {
+        statusBar()->showMessage(tr("Line %1, column %2").arg(line + 1).arg(column + 1));
+    });
+}
+
+QWidget* frmGS::BuildCommands() {
+    auto* const side = new QWidget;
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+
+    txtFilter_ = new QLineEdit;
+    txtFilter_->setObjectName("txtFilter");
+    txtFilter_->setPlaceholderText(tr("Show commands with these words"));
+    txtFilter_->setClearButtonEnabled(true);
+    txtFilter_->setAccessibleName(tr("Filter of the commands"));
+    txtFilter_->setAccessibleDescription(tr("Shows only the commands that hold all of these words"));
+    layout->addWidget(txtFilter_);
+
+    tvwCmds_ = new QTreeWidget;
+    tvwCmds_->setObjectName("tvwCmds");
+    tvwCmds_->setHeaderHidden(true);
+    tvwCmds_->setUniformRowHeights(true);
+    tvwCmds_->setAccessibleName(tr("Commands"));
+    tvwCmds_->setAccessibleDescription(tr("Enter or a double click puts the chosen command into the script"));
+    for (const auto* const caption : kRootCaptions) new QTreeWidgetItem(tvwCmds_, {QString(caption)});
+    layout->addWidget(tvwCmds_, 1);
+
+    lblPreview_ = new QLabel;
+    lblPreview_->setObjectName("lblPreview");
+    lblPreview_->setWordWrap(true);
+    lblPreview_->setTextFormat(Qt::PlainText);
+    lblPreview_->setMinimumHeight(lblPreview_->fontMetrics().lineSpacing() * 4);
+    lblPreview_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    lblPreview_->setAccessibleName(tr("The chosen command"));
+    layout->addWidget(lblPreview_);
+
+    connect(txtFilter_, &QLineEdit::textChanged, this, &frmGS::FilterCommands);
+    connect(tvwCmds_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) { InsertCommand(item); });
+    connect(tvwCmds_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { ShowPreview(item); });
+    return side;
+}
+
+void frmGS::BuildMenus() {
+    const auto add = [this](QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys, auto run) {
+        QAction* const action = menu->addAction(caption, this, run);
+        action->setObjectName(name);
+        action->setShortcut(keys);
+    };
+    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    add(file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewScript(); });
+    add(file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
+    add(file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { Save(); });
+    add(file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveAs(); });
+    file->addSeparator();
+    add(file, "mnuExit", tr("E&xit"), QKeySequence::Close, [this] { close(); });
+
+    QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
+    add(edit, "mnuUndo", tr("&Undo"), QKeySequence::Undo, [this] { txtScript_->undo(); });
+    add(edit, "mnuRedo", tr("&Redo"), QKeySequence::Redo, [this] { txtScript_->redo(); });
+    edit->addSeparator();
+    add(edit, "mnuCut", tr("Cu&t"), QKeySequence::Cut, [this] { txtScript_->cut(); });
+    add(edit, "mnuCopy", tr("&Copy"), QKeySequence::Copy, [this] { txtScript_->copy(); });
+    add(edit, "mnuPaste", tr("&Paste"), QKeySequence::Paste, [this] { txtScript_->paste(); });
+    edit->addSeparator();
+    add(edit, "mnuFind", tr("&Find and replace..."), QKeySequence::Find, [this] { findBar_->Open(); });
+    add(edit, "mnuFindNext", tr("Find &next"), QKeySequence::FindNext, [this] { findBar_->FindNext(); });
+    add(edit, "mnuFindPrevious", tr("Find pre&vious"), QKeySequence::FindPrevious,
+        [this] { findBar_->FindPrevious(); });
+    add(edit, "mnuGoTo", tr("&Go to line..."), QKeySequence(Qt::CTRL | Qt::Key_G), [this] { AskForLine(); });
+
+    QMenu* const view = menuBar()->addMenu(tr("&View"));
+    add(view, "mnuZoomIn", tr("Zoom &in"), QKeySequence::ZoomIn, [this] { txtScript_->zoomIn(); });
+    add(view, "mnuZoomOut", tr("Zoom &out"), QKeySequence::ZoomOut, [this] { txtScript_->zoomOut(); });
+    add(view, "mnuZoomReset", tr("&Usual size"), QKeySequence(Qt::CTRL | Qt::Key_0), [this] { txtScript_->zoomTo(0); });
+    view->addSeparator();
+    add(view, "mnuCommands", tr("&Commands"), QKeySequence(Qt::Key_F6), [this] {
+        if (txtScript_->hasFocus()) {
+            tvwCmds_->setFocus();
+        } else {
+            txtScript_->setFocus();
+        }
+    });
+}
+
+void frmGS::FollowPalette() {
+    lexer_->FollowPalette(palette());
+    const QColor text = palette().color(QPalette::Text);
+    QColor caretLine = palette().color(QPalette::Highlight);
+    caretLine.setAlpha(40);
+    txtScript_->setCaretForegroundColor(text);
+    txtScript_->setCaretLineBackgroundColor(caretLine);
+    txtScript_->setMarginsBackgroundColor(palette().color(QPalette::Window));
+    txtScript_->setMarginsForegroundColor(palette().color(QPalette::WindowText));
+    txtScript_->setMatchedBraceBackgroundColor(palette().color(QPalette::Highlight));
+    txtScript_->setMatchedBraceForegroundColor(palette().color(QPalette::HighlightedText));
+}
+
+void frmGS::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) FollowPalette();
+}
+
+void frmGS::ShowTitle() {
+    const QString title(kTitle);
+    // The placeholder is where Qt shows its mark of unsaved changes.
+    setWindowTitle((path_.empty() ? title : title + " - [" + ShownPath(FileNameOf(path_)) + "]") + "[*]");
+    setWindowModified(txtScript_->isModified());
+}
+
+void frmGS::SetText(const std::string& text) {
+    txtScript_->setText(Shown(text));
+    txtScript_->setModified(false);
+    ShowTitle();
+}
+
+bool frmGS::IsDirty() const { return txtScript_->isModified(); }
+
+std::string frmGS::ScriptText() const { return Typed(txtScript_->text()); }
+
+void frmGS::ShowBotScript() {
+    const auto& script = host_.bot().script;
+    if (!script) return NewScript();
+    path_ = script->File();
+    SetText(script->Text());
+}
+
+void frmGS::NewScript() {
+    path_.clear();
+    SetText(kNewScript);
+}
+
+void frmGS::RestoreText(const std::string& path, const std::string& text) {
+    path_ = path;
+    txtScript_->setText(Shown(text));
+    txtScript_->setModified(true);
+    ShowTitle();
+}
+
+void frmGS::Open() {
+    const auto chosen =
+        dialogs_.AskOpenFile(this, "Select a VorelSpeak Script to Open", kFilter, ShownPath(FolderOf(path_)));
+    if (chosen) OpenScript(TypedPath(*chosen));
+}
+
+void frmGS::OpenScript(const std::string& path) {
+    const std::optional<std::string> found = host_.Disk().Find(path);
+    if (!found) return;
+    host_.RunHandler([&] {
+        const std::string text = ScriptTextFromFile(host_.Disk().Read(*found));
+        path_ = *found;
+        SetText(text);
+        host_.bot().profile.scriptPath = FromUtf8(path_);
+        emit ScriptFileChanged();
+        host_.bot().script = std::make_shared<Script>(text, path_);
+        RunScript(host_.bot(), EventScriptLoaded);
+    });
+}
+
+bool frmGS::Save() { return path_.empty() ? SaveAs() : WriteTo(path_); }
+
+bool frmGS::SaveAs() {
+    const auto chosen = dialogs_.AskSaveFile(this, "Save VorelSpeak Script As...", kFilter, ShownPath(FolderOf(path_)));
+    return chosen && WriteTo(TypedPath(*chosen));
+}
+
+bool frmGS::WriteTo(const std::string& path) {
+    const std::string file = WithExtension(path, kScriptExtension);
+    const std::string text = ScriptText();
+    try {
+        host_.Disk().Write(file, ScriptTextToFile(text));
+    } catch (const RuntimeFault& fault) {
+        // The text is still here, and can be saved elsewhere.
+        dialogs_.ShowMessage(this,
+                             tr("%1 can't be written: %2.\nThe script was not saved; choose another place for it.")
+                                 .arg(ShownPath(file), QString::fromStdString(std::string(fault.Name()))),
+                             tr("Save Script"), Dialogs::Icon::Critical);
+        return false;
+    }
+    path_ = file;
+    txtScript_->setModified(false);
+    ShowTitle();
+    host_.bot().profile.scriptPath = FromUtf8(path_);
+    emit ScriptFileChanged();
+    host_.RunHandler([&] {
+        host_.bot().script = std::make_shared<Script>(text, path_);
+        RunScript(host_.bot(), EventScriptLoaded);
+    });
+    return true;
+}
+
+void frmGS::closeEvent(QCloseEvent* event) {
+    if (unloading_) return event->accept();
+    event->ignore();
+    const bool save = IsDirty() && dialogs_.Ask(this, "Do you want to save any changes to your script?",
+                                                "Save Script") == Dialogs::Answer::Yes;
+    if (!save || Save()) hide();
+}
+
+void frmGS::LoadCommands(const std::string& path) {
+    for (int root = 0; root < tvwCmds_->topLevelItemCount(); ++root)
+        qDeleteAll(tvwCmds_->topLevelItem(root)->takeChildren());
+    const std::optional<std::string> found = host_.Disk().Find(path);
+    if (!found) return;
+    for (const std::string& line : FileLines(host_.Disk().Read(*found))) {
+        const CommandRoot root = RootOf(line);
+        if (root == CommandRoot::None) continue;
+        auto* const item = new QTreeWidgetItem(tvwCmds_->topLevelItem(static_cast<int>(root)), {Shown(line)});
+        item->setToolTip(0, Shown(line));
+    }
+}
+
+void frmGS::FilterCommands(const QString& words) {
+    const QStringList wanted = words.split(' ', Qt::SkipEmptyParts);
+    for (int root = 0; root < tvwCmds_->topLevelItemCount(); ++root) {
+        QTreeWidgetItem* const top = tvwCmds_->topLevelItem(root);
+        for (int i = 0; i < top->childCount(); ++i) {
+            const QString text = top->child(i)->text(0);
+            const bool holds = std::all_of(wanted.begin(), wanted.end(), [&](const QString& word) {
+                return text.contains(word, Qt::CaseInsensitive);
+            });
+            top->child(i)->setHidden(!holds);
+        }
+        top->setExpanded(!wanted.isEmpty());
+    }
+}
+
+void frmGS::ShowPreview(const QTreeWidgetItem* item) {
+    lblPreview_->setText(item && item->childCount() == 0 ? item->text(0) : QString());
+}
+
+void frmGS::InsertCommand(const QTreeWidgetItem* item) {
+    if (item->childCount() > 0 || !item->text(0).startsWith('(')) return;
+    const QByteArray text = Shown(CommandInsertion(Typed(item->text(0)))).toUtf8();
+    const long caret = txtScript_->SendScintilla(QsciScintilla::SCI_GETCURRENTPOS);
+    txtScript_->SendScintilla(QsciScintilla::SCI_INSERTTEXT, static_cast<unsigned long>(caret), text.constData());
+    txtScript_->SendScintilla(QsciScintilla::SCI_GOTOPOS, static_cast<unsigned long>(caret + text.size()));
+}
+
+void frmGS::AskForLine() {
+    bool accepted = false;
+    const int line = QInputDialog::getInt(this, tr("Go to line"), tr("Line:"), 1, 1, txtScript_->lines(), 1, &accepted);
+    if (accepted) GoToLine(line);
+}
+
+void frmGS::GoToLine(int line) {
+    txtScript_->setCursorPosition(line - 1, 0);
+    txtScript_->ensureLineVisible(line - 1);
+    txtScript_->setFocus();
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTreeWidget>
+#include <string>
+
+class Dialogs;
+class FindBar;
+class QLabel;
+class QLineEdit;
+class QsciScintilla;
+class QtHost;
+class VorelSpeakLexer;
+
+/// The script editor. It is made hidden when the program starts; closing it only hides it. What is typed reaches the
+/// bot when it is saved.
+class frmGS final : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    frmGS(QtHost& host, Dialogs& dialogs);
+
+    /// Shows what the bot's script is now, after a profile was loaded: its text, its file, nothing unsaved.
+    void ShowBotScript();
+
+    /// An empty script with the template.
+    void NewScript();
+
+    /// Opens a script file and runs EventScriptLoaded.
+    /// @param path  UTF-8
+    void OpenScript(const std::string& path);
+
+    /// Opens a script with text put aside earlier, as an unsaved change of a file (empty: of none).
+    void RestoreText(const std::string& path, const std::string& text);
+
+    /// @return false when the user cancelled, or the file can't be written
+    bool Save();
+    bool SaveAs();
+
+    /// Whether something was changed since the script was opened or saved.
+    bool IsDirty() const;
+
+    std::string ScriptText() const;
+    const std::string& Path() const { return path_; }
+
+    /// Fills the tree of commands from the command list.
+    /// @param path  UTF-8; a missing file leaves the roots empty
+    void LoadCommands(const std::string& path);
+
+    /// Lets the program end: from now on closing closes.
+    void Unload() { unloading_ = true; }
+
+    /// Puts the caret on a line, counted from 1.
+    void GoToLine(int line);
+
+  signals:
+    /// A script was saved or opened: the profile now names another file.
+    void ScriptFileChanged();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QtHost& host_;
+    Dialogs& dialogs_;
+    std::string path_;  ///< of the script file, UTF-8; empty for a new script
+    bool unloading_ = false;
+
+    QsciScintilla* txtScript_;
+    VorelSpeakLexer* lexer_;
+    QTreeWidget* tvwCmds_;
+    QLineEdit* txtFilter_;
+    QLabel* lblPreview_;
+    FindBar* findBar_;
+
+    void BuildText();
+    QWidget* BuildCommands();
+    void BuildMenus();
+    void FollowPalette();
+    void ShowTitle();
+    void SetText(const std::string& text);
+    void FilterCommands(const QString& words);
+    void ShowPreview(const QTreeWidgetItem* item);
+    void InsertCommand(const QTreeWidgetItem* item);
+    void AskForLine();
+    void Open();
+    bool WriteTo(const std::string& path);
+};

@@ -1,0 +1,684 @@
+#include "ui/frmVorel.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QInputDialog>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "Version.h"
+#include "engine/Dispatcher.h"
+#include "net/modSend.h"
+#include "practice/PracticeServer.h"
+#include "practice/Tour.h"
+#include "profile/ProfileFile.h"
+#include "profile/ProfilePaths.h"
+#include "profile/Settings.h"
+#include "text/Fault.h"
+#include "ui/CommandList.h"
+#include "ui/ConsoleView.h"
+#include "ui/ControlPanel.h"
+#include "ui/Dialogs.h"
+#include "ui/InputLine.h"
+#include "ui/ShownText.h"
+#include "ui/TrayIcon.h"
+#include "ui/VariableList.h"
+#include "ui/frmCfg.h"
+#include "ui/frmGS.h"
+
+namespace {
+
+constexpr char kProfileFilter[] = "Tandry Vorel (*.tvm) | *.tvm";
+constexpr int kKeepUnsavedMs = 5000;
+constexpr int kFaultExit = 70;  // EX_SOFTWARE, as vorel run
+
+QList<ServerChoice> Servers() {
+    return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
+}
+
+}  // namespace
+
+frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
+    : QMainWindow(parent),
+      dialogs_(dialogs),
+      folder_(folder),
+      options_(QDir(folder).filePath("tvorel-options.ini")),
+      host_(*this, TypedPath(folder)),
+      recovery_(host_.Disk(), TypedPath(folder)),
+      reconnector_([this] { return host_.Random(); }),
+      updates_(QUrl(QString(kUpdateServer))),
+      editor_(std::make_unique<frmGS>(host_, dialogs)) {
+    setObjectName("frmVorel");
+    setWindowIcon(QIcon(":/icons/tvorel.svg"));
+    setAcceptDrops(true);
+
+    auto* const splitter = new QSplitter;
+    splitter->addWidget(BuildConsole());
+    splitter->addWidget(BuildRightSide());
+    splitter->setStretchFactor(0, 1);
+    setCentralWidget(splitter);
+    BuildMenus();
+    BuildStatusBar();
+    resize(980, 660);
+
+    tray_ = new TrayIcon(this);
+    connect(tray_, &TrayIcon::RestoreChosen, this, &frmVorel::RestoreFromTray);
+    connect(tray_, &TrayIcon::MinimizeChosen, this, &frmVorel::MinimizeToTray);
+    connect(tray_, &TrayIcon::ExitChosen, this, [this] {
+        RestoreFromTray();
+        close();
+    });
+    if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();
+
+    connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
+    connect(&reconnector_, &Reconnector::TryNow, this, [this] { host_.RunHandler([this] { host_.Connect(); }); });
+    connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
+    connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
+        Announce(why.isEmpty() ? tr("The new version has been saved.")
+                               : tr("The new version was not saved: %1").arg(why));
+    });
+    connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWork);
+    host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
+    editor_->LoadCommands(TypedPath(QDir(folder).filePath(kCommandList)));
+    ::NewProfile(bot());
+    bot().profile.serverAddress =
+        TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
+    ShowTitle();
+    ShowStatus();
+}
+
+frmVorel::~frmVorel() = default;
+
+// --- what the window is made of ----------------------------------------------------------------------------------
+
+QWidget* frmVorel::BuildConsole() {
+    auto* const fmeBot = new QGroupBox("Console");
+    fmeBot->setObjectName("fmeBot");
+    auto* const layout = new QVBoxLayout(fmeBot);
+
+    lstView_ = new ConsoleView;
+    lstView_->setObjectName("lstView");
+    lstView_->setAccessibleName(tr("Console"));
+    lstView_->setAccessibleDescription(tr("What the game says, line by line; the chosen line can be read below"));
+    lstView_->SetMonospaced(options_.Monospaced());
+    lstView_->Lines().SetTimestamps(options_.Timestamps());
+    lstView_->Lines().SetScrollBack(options_.ScrollBack());
+    layout->addWidget(lstView_, 1);
+
+    txtView_ = new QLineEdit;
+    txtView_->setObjectName("txtView");
+    txtView_->setReadOnly(true);
+    txtView_->setAccessibleName(tr("Chosen line"));
+    txtView_->setAccessibleDescription(tr("The console line that is chosen, whole, for reading and copying"));
+    layout->addWidget(txtView_);
+    connect(lstView_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& line) {
+        txtView_->setText(line.isValid() ? lstView_->Lines().LineAt(line.row()) : QString());
+    });
+
+    auto* const row = new QHBoxLayout;
+    auto* const label = new QLabel(tr("&Say:"));
+    txtSend_ = new InputLine;
+    txtSend_->setObjectName("txtSend");
+    txtSend_->setAccessibleName(tr("Input line"));
+    txtSend_->setAccessibleDescription(tr("Enter says it; /name text whispers, : and - and ` begin commands"));
+    label->setBuddy(txtSend_);
+    auto* const cmdHelp = new QPushButton("Help");
+    cmdHelp->setObjectName("cmdHelp");
+    cmdHelp->setAccessibleDescription(tr("Tells where to find help"));
+    row->addWidget(label);
+    row->addWidget(txtSend_, 1);
+    row->addWidget(cmdHelp);
+    layout->addLayout(row);
+    connect(txtSend_, &QLineEdit::returnPressed, this, &frmVorel::txtSend_Enter);
+    connect(cmdHelp, &QPushButton::clicked, this, &frmVorel::cmdHelp_Click);
+
+    auto* const emoticons = new EmoticonRow;
+    layout->addWidget(emoticons);
+    connect(emoticons, &EmoticonRow::EmoticonChosen, this, [this](const QString& tag) {
+        txtSend_->setText(txtSend_->text() + tag);
+        txtSend_->setFocus();
+    });
+    return fmeBot;
+}
+
+QWidget* frmVorel::BuildRightSide() {
+    auto* const side = new QWidget;
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+
+    auto* const panel = new ControlPanel;
+    layout->addWidget(panel);
+    connect(panel, &ControlPanel::CommandChosen, this,
+            [this](const QString& tag) { host_.RunHandler([&] { modSend::SendLine(bot(), Typed(tag)); }); });
+    connect(panel, &ControlPanel::ToolChosen, this, &frmVorel::cmdC_Click);
+
+    auto* const fmeVars = new QGroupBox(tr("Variables"));
+    auto* const vars = new QVBoxLayout(fmeVars);
+    lvwVars_ = new VariableList(bot().variables);
+    vars->addWidget(lvwVars_, 1);
+    auto* const buttons = new QHBoxLayout;
+    auto* const cmdAddVar = new QPushButton(tr("&Add"));
+    auto* const cmdDelVar = new QPushButton(tr("Remo&ve"));
+    cmdAddVar->setObjectName("cmdAdd_Var");
+    cmdDelVar->setObjectName("cmdDel_Var");
+    cmdAddVar->setAccessibleDescription(tr("Adds a variable"));
+    cmdDelVar->setAccessibleDescription(tr("Removes the chosen variable"));
+    buttons->addWidget(cmdAddVar);
+    buttons->addWidget(cmdDelVar);
+    buttons->addStretch();
+    vars->addLayout(buttons);
+    connect(cmdAddVar, &QPushButton::clicked, lvwVars_, &VariableList::AddRow);
+    connect(cmdDelVar, &QPushButton::clicked, lvwVars_, &VariableList::RemoveRow);
+    layout->addWidget(fmeVars, 1);
+
+    auto* const bottom = new QHBoxLayout;
+    auto* const lblLogo = new QLabel("Vorel");
+    lblLogo->setObjectName("lblLogo");
+    QFont font = lblLogo->font();
+    font.setPointSizeF(font.pointSizeF() * 1.6);
+    font.setBold(true);
+    lblLogo->setFont(font);
+    auto* const cmdExit = new QPushButton("E&xit");
+    cmdExit->setObjectName("cmdExit");
+    cmdExit->setAccessibleDescription(tr("Ends the program"));
+    bottom->addWidget(lblLogo);
+    bottom->addStretch();
+    bottom->addWidget(cmdExit);
+    layout->addLayout(bottom);
+    connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    return side;
+}
+
+QAction* frmVorel::AddAction(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
+                             std::function<void()> run) {
+    QAction* const action = menu->addAction(caption, this, std::move(run));
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    return action;
+}
+
+QAction* frmVorel::AddOption(QMenu* menu, const char* name, const QString& caption, bool on,
+                             std::function<void(bool)> run) {
+    QAction* const action = menu->addAction(caption);
+    action->setObjectName(name);
+    action->setCheckable(true);
+    action->setChecked(on);
+    connect(action, &QAction::toggled, this, std::move(run));
+    return action;
+}
+
+void frmVorel::BuildMenus() {
+    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    AddAction(file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewProfile(); });
+    AddAction(file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { OpenProfileByMenu(); });
+    mnuRecent_ = file->addMenu(tr("&Recent"));
+    mnuRecent_->setObjectName("mnuRecent");
+    connect(mnuRecent_, &QMenu::aboutToShow, this, &frmVorel::ShowRecentProfiles);
+    AddAction(file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { SaveProfile(); });
+    AddAction(file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveProfileAs(); });
+    file->addSeparator();
+    AddAction(file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
+
+    QMenu* const session = menuBar()->addMenu(tr("S&ession"));
+    AddAction(session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] {
+        reconnector_.Stop();
+        host_.RunHandler([this] { host_.Connect(); });
+    });
+    AddAction(session, "mnuDisconnect", "&Disconnect", QKeySequence(Qt::CTRL | Qt::Key_D), [this] {
+        reconnector_.Stop();
+        host_.RunHandler([this] { host_.Disconnect(); });
+    });
+    AddAction(session, "mnuSAM", "Stand Alone &Mode", {},
+              [this] { host_.RunHandler([this] { host_.session().StandAlone(); }); });
+    session->addSeparator();
+    AddOption(session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Reconnect(),
+              [this](bool on) {
+                  options_.Set("connection/reconnect", on);
+                  if (!on) reconnector_.Stop();
+              });
+    AddOption(session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
+              [this](bool on) { options_.Set("connection/atStart", on); });
+
+    QMenu* const script = menuBar()->addMenu("&Script");
+    script->setObjectName("mnuScript");
+    AddAction(script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] {
+        editor_->show();
+        editor_->raise();
+        editor_->activateWindow();
+    });
+    AddAction(script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
+
+    QMenu* const console = menuBar()->addMenu(tr("&Console"));
+    AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(); });
+    AddAction(console, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+              [this] { lstView_->CopySelection(); });
+    AddAction(console, "mnuSaveConsole", tr("&Save to a file..."), {}, [this] { SaveConsole(); });
+    AddOption(console, "mnuLog", tr("&Log to a file"), !options_.LogFile().isEmpty(),
+              [this](bool on) { ChooseLog(on); });
+    console->addSeparator();
+    AddOption(console, "mnuMonospaced", tr("&Monospaced"), options_.Monospaced(), [this](bool on) {
+        options_.Set("console/monospaced", on);
+        lstView_->SetMonospaced(on);
+    });
+    AddOption(console, "mnuTimestamps", tr("&Timestamps"), options_.Timestamps(), [this](bool on) {
+        options_.Set("console/timestamps", on);
+        lstView_->Lines().SetTimestamps(on);
+    });
+    AddAction(console, "mnuScrollBack", tr("Scroll-&back..."), {}, [this] { ChooseScrollBack(); });
+    AddOption(console, "mnuNotify", tr("&Notify of whispers"), options_.NotifyWhispers(),
+              [this](bool on) { options_.Set("desktop/notifyWhispers", on); });
+
+    QMenu* const configuration = menuBar()->addMenu(tr("C&onfiguration"));
+    AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::Key_F2),
+              [this] { ShowConfiguration(); });
+
+    QMenu* const help = menuBar()->addMenu(tr("&Help"));
+    AddAction(help, "mnuGHelp", "Vorel &Help", QKeySequence::HelpContents, [this] { cmdHelp_Click(); });
+}
+
+void frmVorel::BuildStatusBar() {
+    auto* const sbVorel = statusBar();
+    sbVorel->setObjectName("sbVorel");
+    const auto panel = [&](const char* name, int stretch) {
+        auto* const label = new QLabel;
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        sbVorel->addPermanentWidget(label, stretch);
+        return label;
+    };
+    panelName_ = panel("sbVorel_1", 1);
+    panelConnection_ = panel("sbVorel_2", 1);
+    panelReason_ = panel("sbVorel_3", 3);
+}
+
+// --- what the bot shows ------------------------------------------------------------------------------------------
+
+void frmVorel::Announce(const QString& line) {
+    lstView_->Lines().Append(line);
+    log_.Append(line);
+}
+
+void frmVorel::ShowConsoleLine(std::string_view line) {
+    Announce(Shown(line));
+    NotifyWhisper(line);
+}
+
+void frmVorel::ClearConsole() { lstView_->Lines().Clear(); }
+
+void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
+    const bool critical = title == "Invalid Selection";
+    dialogs_.ShowMessage(this, Shown(text), Shown(title), critical ? Dialogs::Icon::Critical : Dialogs::Icon::None);
+}
+
+void frmVorel::StatusChanged() {
+    ShowStatus();
+    if (bot().status.canConnect && bot().status.end != SessionStatus::End::NotYet) {
+        // The script may connect again by itself; the end is one only after it has had its turn.
+        QTimer::singleShot(0, this, [this] { OnSessionEnd(); });
+    }
+}
+
+void frmVorel::ShowStatus() {
+    const SessionStatus& status = bot().status;
+    findChild<QAction*>("mnuConnect")->setEnabled(status.canConnect);
+    findChild<QAction*>("mnuDisconnect")->setEnabled(status.canDisconnect);
+    findChild<QAction*>("mnuSAM")->setEnabled(status.canStandAlone);
+    panelName_->setText(Shown(status.botName));
+    panelConnection_->setText(Shown(status.connection));
+    if (!status.canConnect) panelReason_->setText(status.connection == "Connected" ? QString() : tr("Connecting..."));
+}
+
+void frmVorel::OnSessionEnd() {
+    const SessionStatus& status = bot().status;
+    if (!status.canConnect || faulted_) return;
+    const bool refusedLogin = status.end == SessionStatus::End::ByServer && bot().state.mapFile.empty();
+    QString reason;
+    if (refusedLogin) {
+        reason = tr("The server has ended the connection before the bot was let in: check its name and password.");
+    } else if (status.end == SessionStatus::End::ByServer) {
+        reason = tr("The server has ended the connection.");
+    } else if (status.end == SessionStatus::End::ByError) {
+        reason = tr("No connection: %1").arg(Shown(status.reason));
+    }
+    const bool lost = status.end == SessionStatus::End::ByServer || status.end == SessionStatus::End::ByError;
+    if (lost && !refusedLogin && options_.Reconnect()) {
+        reason += " " + tr("Trying again in %n second(s).", nullptr, reconnector_.Schedule() / 1000);
+    } else {
+        reconnector_.Stop();
+    }
+    panelReason_->setText(reason);
+}
+
+void frmVorel::EndWithFault(const RuntimeFault& fault) {
+    faulted_ = true;
+    const Place place = bot().place;
+    QString text = QString::fromStdString(std::string(fault.Name()));
+    if (!fault.Detail().empty()) text += ": " + ShownPath(fault.Detail());
+    if (place.line > 0) {
+        text += "\n\n" + (place.file.empty() ? tr("Line %1 of the script").arg(place.line)
+                                             : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
+    }
+    KeepUnsavedWork();
+    const auto copy = recovery_.FoundScript();
+    if (copy || recovery_.FoundProfile()) {
+        text += "\n\n" + tr("Unsaved work was put aside in %1, and will be offered at the next start.").arg(folder_);
+    }
+    dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
+    QCoreApplication::exit(kFaultExit);
+}
+
+void frmVorel::NotifyWhisper(std::string_view line) {
+    if (!options_.NotifyWhispers() || isActiveWindow() || !line.ends_with(" to you. ]")) return;
+    tray_->showMessage(tr("A whisper"), Shown(line));
+}
+
+void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
+
+// --- profiles ----------------------------------------------------------------------------------------------------
+
+void frmVorel::Start() {
+    const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
+    if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
+    if (!settings.recent.empty()) OpenProfileFile(settings.recent);
+    const QString log = options_.LogFile();
+    if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
+    OfferUnsavedWork();
+    keepUnsaved_.start(kKeepUnsavedMs);
+    updates_.Look();
+    if (options_.ConnectAtStart() && !faulted_) host_.RunHandler([this] { host_.Connect(); });
+}
+
+void frmVorel::OpenDocument(const std::string& path) {
+    if (LowerCase(path).ends_with(kScriptExtension)) {
+        editor_->OpenScript(path);
+        editor_->show();
+    } else if (MayDropChanges()) {
+        OpenProfileFile(path);
+    }
+}
+
+void frmVorel::OpenProfileFile(const std::string& path) {
+    const std::string absolute = host_.Disk().Absolute(path);
+    host_.RunHandler([&] {
+        const std::string address = bot().profile.serverAddress;
+        const ProfileLoad load = LoadProfile(bot(), absolute);
+        bot().profile.serverAddress = address;
+        ShowLoaded(load, absolute);
+    });
+}
+
+void frmVorel::OpenProfileByMenu() {
+    if (!MayDropChanges()) return;
+    const auto chosen = dialogs_.AskOpenFile(this, "Select a Tandry Vorel to open", kProfileFilter,
+                                             ShownPath(FolderOf(bot().profile.path)));
+    if (!chosen) return;
+    host_.RunHandler([&] {
+        const ProfileLoad load = OpenProfile(bot(), TypedPath(*chosen));
+        ShowLoaded(load, TypedPath(*chosen));
+    });
+}
+
+void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
+    if (!load.found) return;
+    ShowTitle();
+    editor_->ShowBotScript();
+    options_.AddRecentProfile(ShownPath(path));
+    if (!load.missingScript.empty()) {
+        Announce(tr("The profile names the script %1, which does not exist.").arg(Shown(load.missingScript)));
+    }
+}
+
+void frmVorel::ShowRecentProfiles() {
+    mnuRecent_->clear();
+    for (const QString& path : options_.RecentProfiles()) {
+        mnuRecent_->addAction(path, this, [this, path] {
+            if (MayDropChanges()) OpenProfileFile(TypedPath(path));
+        });
+    }
+}
+
+void frmVorel::NewProfile() {
+    if (!MayDropChanges()) return;
+    const std::string address = bot().profile.serverAddress;
+    ::NewProfile(bot());
+    bot().profile.serverAddress = address;
+    editor_->NewScript();
+    ShowTitle();
+}
+
+bool frmVorel::SaveProfile() { return bot().profile.path.empty() ? SaveProfileAs() : WriteProfile(bot().profile.path); }
+
+bool frmVorel::SaveProfileAs() {
+    const auto chosen =
+        dialogs_.AskSaveFile(this, "Save Tandry Vorel As...", kProfileFilter, ShownPath(FolderOf(bot().profile.path)));
+    return chosen && WriteProfile(TypedPath(*chosen));
+}
+
+bool frmVorel::WriteProfile(const std::string& path) {
+    try {
+        ::SaveProfile(bot(), path);
+    } catch (const RuntimeFault& fault) {
+        // The profile is still here, and can be saved elsewhere.
+        dialogs_.ShowMessage(this,
+                             tr("%1 can't be written: %2.\nThe profile was not saved; choose another place for it.")
+                                 .arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))),
+                             "Save Vorel", Dialogs::Icon::Critical);
+        return false;
+    }
+    ShowTitle();
+    options_.AddRecentProfile(ShownPath(bot().profile.path));
+    return true;
+}
+
+/// Asks about unsaved changes before something else takes their place.
+/// @return false when the user would rather stay
+bool frmVorel::MayDropChanges() {
+    if (bot().profile.dirty) {
+        const auto answer =
+            dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", true);
+        if (answer == Dialogs::Answer::Cancel || (answer == Dialogs::Answer::Yes && !SaveProfile())) return false;
+    }
+    if (editor_->IsDirty()) {
+        const auto answer = dialogs_.Ask(this, "Do you want to save any changes to your script?", "Save Script", true);
+        if (answer == Dialogs::Answer::Cancel || (answer == Dialogs::Answer::Yes && !editor_->Save())) return false;
+    }
+    return true;
+}
+
+// --- leaving -----------------------------------------------------------------------------------------------------
+
+void frmVorel::SaveAllSettings() {
+    Settings settings;
+    settings.recent = bot().profile.path;
+    if (!isMinimized()) {
+        settings.top = y();
+        settings.left = x();
+    }
+    try {
+        SaveSettings(host_.Disk(), TypedPath(folder_), settings);
+    } catch (const RuntimeFault&) {
+        Announce(tr("The settings can't be written in %1.").arg(folder_));
+    }
+}
+
+void frmVorel::closeEvent(QCloseEvent* event) {
+    SaveAllSettings();
+    if (!faulted_ && !MayDropChanges()) return event->ignore();
+    keepUnsaved_.stop();
+    if (!faulted_) {
+        recovery_.KeepScript(std::nullopt);
+        recovery_.KeepProfile(std::nullopt);
+        host_.RunHandler([this] { host_.Disconnect(); });
+    }
+    reconnector_.Stop();
+    editor_->Unload();
+    editor_->close();
+    tray_->hide();
+    event->accept();
+    QCoreApplication::quit();
+}
+
+void frmVorel::OfferUpdate(const QString& version, const QString& text) {
+    const QString question = tr("Version %1 is there:\n\n%2\n\nSave it to a place of your choice?").arg(version, text);
+    if (dialogs_.Ask(this, question, kProductName) != Dialogs::Answer::Yes) return;
+    const auto file = dialogs_.AskSaveFile(this, tr("Save the new version"), tr("Archive (*.zip) | *.zip"), {});
+    if (file) updates_.FetchArchive(*file);
+}
+
+void frmVorel::KeepUnsavedWork() {
+    using Copy = Recovery::Copy;
+    recovery_.KeepScript(editor_->IsDirty() ? std::optional(Copy{editor_->Path(), editor_->ScriptText()})
+                                            : std::nullopt);
+    recovery_.KeepProfile(bot().profile.dirty ? std::optional(Copy{bot().profile.path, ProfileBytes(bot().profile)})
+                                              : std::nullopt);
+}
+
+void frmVorel::OfferUnsavedWork() {
+    const auto script = recovery_.FoundScript();
+    const auto profile = recovery_.FoundProfile();
+    const auto wanted = [this](const QString& what) {
+        return dialogs_.Ask(this,
+                            tr("The program did not end in order the last time. Take back the unsaved %1?").arg(what),
+                            kProductName) == Dialogs::Answer::Yes;
+    };
+    if (profile && wanted(tr("configuration"))) {
+        RestoreProfile(bot(), profile->path, profile->bytes);
+        ShowTitle();
+    }
+    if (script && wanted(tr("script"))) {
+        editor_->RestoreText(script->path, script->bytes);
+        editor_->show();
+    }
+}
+
+void frmVorel::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        QTimer::singleShot(0, this, [this] { MinimizeToTray(); });
+    }
+}
+
+void frmVorel::MinimizeToTray() {
+    if (!tray_->isVisible()) return showMinimized();
+    hide();
+    if (options_.TrayExplained()) return;
+    options_.Set("desktop/trayExplained", true);
+    tray_->showMessage(kProductName, tr("The bot goes on here. A double click brings the window back."));
+}
+
+void frmVorel::RestoreFromTray() {
+    showNormal();
+    raise();
+    activateWindow();
+}
+
+void frmVorel::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void frmVorel::dropEvent(QDropEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) OpenDocument(TypedPath(url.toLocalFile()));
+    }
+}
+
+// --- what the controls do ----------------------------------------------------------------------------------------
+
+void frmVorel::txtSend_Enter() {
+    const std::string text = Typed(txtSend_->Take());
+    host_.RunHandler([&] { host_.session().TypeLine(text); });
+}
+
+void frmVorel::cmdC_Click(const QString& caption) {
+    if (caption == kVorelConfigurationTool) return ShowConfiguration();
+    const std::string folder = host_.CurrentFolder();
+    const bool playerEditor = caption == kPlayerEditorTool;
+    const auto program = host_.Disk().Find(JoinPath(folder, playerEditor ? "FurEd.exe" : "config.exe"));
+    if (!program) return;
+    const QStringList arguments = playerEditor ? QStringList{Shown(bot().profile.characterPath)} : QStringList();
+    if (!QProcess::startDetached(ShownPath(*program), arguments, ShownPath(folder))) {
+        Announce(tr("%1 could not be started.").arg(ShownPath(*program)));
+    }
+}
+
+void frmVorel::cmdHelp_Click() {
+    dialogs_.ShowMessage(
+        this,
+        tr("How to make a bot is told in docs/guide.md, and every command in docs/language.md, which come "
+           "with the program. Other makers are glad to help in the game's own bot-making dreams.\n\n"
+           "Settings and data files are kept in %1.")
+            .arg(folder_),
+        "Help", Dialogs::Icon::Information);
+}
+
+void frmVorel::ShowConfiguration() {
+    frmCfg configuration(bot().profile, Servers(), dialogs_, this);
+    configuration.exec();
+    options_.Set("connection/address", ShownPath(bot().profile.serverAddress));
+}
+
+void frmVorel::RunScriptOnce() {
+    host_.RunHandler([this] { RunScript(bot(), EventScriptLoaded); });
+}
+
+void frmVorel::FindInConsole() {
+    const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
+    if (text && !lstView_->FindNext(*text)) panelReason_->setText(tr("\"%1\" was not found.").arg(*text));
+}
+
+void frmVorel::SaveConsole() {
+    const auto path = dialogs_.AskSaveFile(this, tr("Save the console"), tr("Text (*.txt) | *.txt"), {});
+    if (!path) return;
+    QSaveFile file(*path);
+    const QByteArray text = lstView_->Lines().AllText().toUtf8();
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit()) return;
+    dialogs_.ShowMessage(this, tr("%1 can't be written: %2.").arg(*path, file.errorString()), tr("Save the console"),
+                         Dialogs::Icon::Critical);
+}
+
+void frmVorel::ChooseLog(bool on) {
+    log_.Close();
+    options_.Set("console/log", QString());
+    if (!on) return;
+    const auto path = dialogs_.AskSaveFile(this, tr("Log the console to"), tr("Text (*.txt) | *.txt"), {});
+    if (path && log_.Open(*path)) {
+        options_.Set("console/log", *path);
+        return;
+    }
+    if (path) Announce(tr("The log %1 can't be written.").arg(*path));
+    findChild<QAction*>("mnuLog")->setChecked(false);
+}
+
+void frmVorel::ChooseScrollBack() {
+    const auto text = dialogs_.AskText(this, tr("How many lines the console keeps:"), tr("Scroll-back"));
+    const int lines = text ? text->toInt() : 0;
+    if (lines < 1) return;
+    options_.Set("console/scrollback", lines);
+    lstView_->Lines().SetScrollBack(lines);
+}
+
+void frmVorel::OpenPractice(std::string& address, int& port) {
+    if (address != kPracticeAddress) return;
+    PracticeSettings settings;
+    const std::string tourFile = JoinPath(FolderOf(bot().profile.path), "tour.txt");
+    if (const auto tour = host_.Disk().Find(tourFile)) {
+        TourReading reading = ReadTour(host_.Disk().Read(*tour), *tour);
+        if (!reading.fault.empty()) Announce(QString::fromStdString(reading.fault));
+        settings.tour = std::move(reading.tour);
+    }
+    practice_ = std::make_unique<PracticeServer>(std::move(settings));
+    const auto listening = practice_->Listen(0);
+    if (listening.port == 0) Announce(tr("The practice dream can't be opened: %1").arg(listening.fault));
+    address = "127.0.0.1";
+    port = listening.port;
+}

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <memory>
+
+#include "platform/FrontEnd.h"
+#include "platform/QtHost.h"
+#include "ui/ConsoleLog.h"
+#include "ui/Options.h"
+#include "ui/Reconnector.h"
+#include "ui/Recovery.h"
+#include "ui/UpdateCheck.h"
+
+class ConsoleView;
+class Dialogs;
+class InputLine;
+class PracticeServer;
+class QLineEdit;
+class QMenu;
+class TrayIcon;
+class VariableList;
+class frmGS;
+struct ProfileLoad;
+
+/// Where the address list's practice dream leads; no host has this name.
+inline constexpr char kPracticeAddress[] = "practice dream";
+
+/// The main window: console, input line, control panel, variables, and the menus that start and stop the session.
+/// It owns the bot's host, and lives until the program ends.
+class frmVorel final : public QMainWindow, public FrontEnd {
+    Q_OBJECT
+
+  public:
+    /// @param folder  the program's own, UTF-8
+    frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent = nullptr);
+    ~frmVorel() override;
+
+    QtHost& host() { return host_; }
+    frmGS& editor() { return *editor_; }
+
+    /// Reads the settings with the most recent profile in them, and offers back what a crash has left.
+    void Start();
+
+    /// Opens a ".tvm" or ".vs" file that the desktop or a drop has handed over; asks about unsaved changes first.
+    /// @param path  UTF-8
+    void OpenDocument(const std::string& path);
+
+    // FrontEnd
+    void ShowConsoleLine(std::string_view line) override;
+    void ClearConsole() override;
+    void ShowMessage(std::string_view title, std::string_view text) override;
+    void StatusChanged() override;
+    void EndWithFault(const RuntimeFault& fault) override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    Dialogs& dialogs_;
+    QString folder_;
+    Options options_;
+    ConsoleLog log_;
+    std::unique_ptr<PracticeServer> practice_;
+    QtHost host_;
+    Recovery recovery_;
+    QTimer keepUnsaved_;
+    Reconnector reconnector_;
+    UpdateCheck updates_;
+    bool faulted_ = false;
+
+    ConsoleView* lstView_;
+    QLineEdit* txtView_;
+    InputLine* txtSend_;
+    VariableList* lvwVars_;
+    QLabel *panelName_, *panelConnection_, *panelReason_;
+    QMenu* mnuRecent_;
+    std::unique_ptr<frmGS> editor_;
+    TrayIcon* tray_;
+
+    QWidget* BuildConsole();
+    QWidget* BuildRightSide();
+    void BuildMenus();
+    void BuildStatusBar();
+    QAction* AddAction(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
+                       std::function<void()> run);
+    QAction* AddOption(QMenu* menu, const char* name, const QString& caption, bool on, std::function<void(bool)> run);
+
+    Bot& bot() { return host_.bot(); }
+    void ShowTitle();
+    void ShowRecentProfiles();
+    void ShowLoaded(const ProfileLoad& load, const std::string& path);
+    void ShowStatus();
+    void OnSessionEnd();
+    void Announce(const QString& line);
+
+    void NewProfile();
+    void OpenProfileByMenu();
+    void OpenProfileFile(const std::string& path);
+    bool SaveProfile();
+    bool SaveProfileAs();
+    bool WriteProfile(const std::string& path);
+    bool MayDropChanges();
+    void SaveAllSettings();
+
+    void txtSend_Enter();
+    void cmdC_Click(const QString& caption);
+    void cmdHelp_Click();
+    void ShowConfiguration();
+    void RunScriptOnce();
+    void FindInConsole();
+    void SaveConsole();
+    void ChooseLog(bool on);
+    void ChooseScrollBack();
+    void OpenPractice(std::string& address, int& port);
+    void OfferUpdate(const QString& version, const QString& text);
+    void KeepUnsavedWork();
+    void OfferUnsavedWork();
+    void NotifyWhisper(std::string_view line);
+    void MinimizeToTray();
+    void RestoreFromTray();
+};

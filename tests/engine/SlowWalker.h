@@ -1,0 +1,10 @@
+#pragma once
+
+#include "engine/Events.h"
+
+struct Bot;
+
+/// What RunScript does, in the plainest way there is: splits the script's text anew, keeps every line in an array of
+/// its own, and reads each line again whenever it comes over it. Slow, and short enough to be seen right; the
+/// dispatcher must do the same, event by event and fault by fault.
+void WalkSlowly(Bot& bot, GameEvent event);

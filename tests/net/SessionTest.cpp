@@ -1,0 +1,274 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "net/Session.h"
+#include "support/Cases.h"
+#include "support/RecordingLink.h"
+#include "support/RehearsalBot.h"
+
+namespace {
+
+using Told = std::vector<std::string>;
+
+/// A bot whose profile is complete, not connected yet; its script says each event of the session aloud on the console.
+class ReadyBot : public RehearsalBot {
+  public:
+    ReadyBot() {
+        host.SetServerConnected(false);
+        host.SetSession(session);
+        files.contents["bots/bot.ini"] =
+            "Name=Bot|One\r\nPASSWORD=made-up\r\ndesc=Hello=you\r\ncolors=0123456789xx\r\nspec=0123\r\nother=1\r\n";
+        files.contents["game/client.exe"] = "";
+        bot.profile.path = "bots/bot.tvm";
+        bot.profile.characterPath = "BOT.ini";
+        bot.profile.clientPath = "game/client.exe";
+        bot.profile.owners = "Ann";
+        bot.profile.serverAddress = "elsewhere";
+        SetScript({"(0:1) in,", "(5:2) {2 [vorel.name]}", "(0:2) out,", "(5:2) {3}", "(0:6) whispered,", "(5:2) {7}",
+                   "(0:46) a command,", "(5:2) {47 [message]}"});
+    }
+
+    void SetClientMode() { bot.profile.connectClient = bot.profile.closeClient = 1; }
+
+    /// Client mode, up to the point where both sockets are connected.
+    void LinkClient() {
+        SetClientMode();
+        link.window = 7;
+        session.Connect();
+        session.OnClientRequest();
+        session.OnClientConnected();
+        AcceptServer();
+        TakeTold();
+    }
+    void AcceptServer() {
+        host.SetServerConnected(true);
+        session.OnServerConnected();
+    }
+
+    /// What the menus Connect, Disconnect and Stand Alone Mode allow, in this order.
+    std::string Menus() const {
+        const SessionStatus& status = bot.status;
+        return std::string(status.canConnect ? "C" : "-") + (status.canDisconnect ? "D" : "-") +
+               (status.canStandAlone ? "S" : "-");
+    }
+
+    RecordingLink link{host};
+    Session session{bot, link};
+};
+
+TEST(Session, StandAloneLogsInFromTheCharacterFile) {
+    ReadyBot bot;
+    bot.session.Connect();
+    EXPECT_EQ(bot.TakeTold(), Told{"link connect elsewhere:6000"});
+    EXPECT_EQ(bot.Menus(), "-D-");
+    bot.AcceptServer();
+    EXPECT_EQ(bot.told, (Told{"sent connect Bot|One made-up", "sent color 0123456789 !\"", "sent ",
+                              "sent desc Hello=you [Tandry Vorel]", "console 2 Bot|One"}));
+    EXPECT_EQ(bot.bot.status.botName, "Bot One");
+    EXPECT_EQ(bot.bot.status.connection, "Connected");
+}
+
+TEST(Session, ACharacterFileMayLackItsKeysButNotTheDigitsOfAShape) {
+    ReadyBot bot;
+    std::string& character = bot.files.contents["bots/bot.ini"];
+    character = "name=Old\r\nname=New";
+    bot.AcceptServer();
+    EXPECT_EQ(bot.told.front(), "sent connect New ");
+    EXPECT_EQ(bot.told[1], "sent color ");
+    character = "name=Bot\r\nspec=01x";
+    EXPECT_EQ(FaultOf([&] { bot.AcceptServer(); }), FaultKind::TypeMismatch);
+    EXPECT_EQ(bot.bot.place.file, "bots/bot.ini");
+    EXPECT_EQ(bot.bot.place.line, 2u);
+}
+
+TEST(Session, LoginForgetsTheLastSessionButNotThePositions) {
+    ReadyBot bot;
+    BotState& state = bot.bot.state;
+    // clang-format off
+    const std::vector<std::string*> emptied = {
+        &state.mapFile, &state.map, &state.previousMap, &state.visitors, &state.newVisitors, &state.message, &state.requester,
+        &state.onlineName, &state.arrived, &state.present, &state.departed, &state.playerTag, &state.cookieName,
+        &state.dreamName, &state.cookieGiver, &state.look.desc, &state.fst.median, &state.move.colors, &state.vorel.badge,
+        &state.player.name, &state.look.looks.markings};
+    const std::vector<std::int16_t*> zeroed = {
+        &state.fst.hour, &state.ds.trigger, &state.dsbot.triggerAt.x, &state.breath.x, &state.flame.y, &state.move.frame,
+        &bot.bot.clock.minutes, &bot.bot.clock.seconds};
+    const std::vector<std::int16_t*> kept = {
+        &state.vorelInto.x, &state.vorelFrom.y, &state.move.into.x, &state.dream.y, &state.visitorCount, &state.dice.total};
+    // clang-format on
+    for (std::string* text : emptied) *text = "x";
+    for (std::int16_t* number : zeroed) *number = 1;
+    for (std::int16_t* number : kept) *number = 1;
+    state.dreams = {{1, 1}};
+    state.dice.values = {3, 4};
+    state.shutDown = state.requestAccepted = true;
+    bot.AcceptServer();
+    for (const std::string* text : emptied) EXPECT_EQ(*text, "");
+    for (const std::int16_t* number : zeroed) EXPECT_EQ(*number, 0);
+    for (const std::int16_t* number : kept) EXPECT_EQ(*number, 1);
+    EXPECT_TRUE(state.dreams.empty());
+    EXPECT_EQ(state.dice.values, std::vector<std::int16_t>(1, 0));
+    EXPECT_FALSE(state.shutDown);
+    EXPECT_TRUE(state.requestAccepted);
+}
+
+TEST(Session, WhatIsMissingIsAskedForAndNothingConnects) {
+    // clang-format off
+    struct { const char *character, *client, *owners; std::int16_t connectClient; const char* box; } const cases[] = {
+        {"none.ini", "none",            "Ann", 0, "Invalid Selection: Select a valid Furcadia character"},
+        {"bot.ini",  "none",            "Ann", 1, "Invalid Selection: Select a valid Furcadia client"},
+        {"",         "",                "",    1, "Invalid Selection: Select a valid Furcadia client and character"},
+        {"none.ini", "game/client.exe", "Ann", 1, "Invalid Selection: Select a valid Furcadia character"},
+        {"bot.ini",  "none",            "",    0, "Bot Owner: You must add at least one name to the bot owners list"},
+    };
+    // clang-format on
+    for (const auto& missing : cases) {
+        ReadyBot bot;
+        Profile& profile = bot.bot.profile;
+        profile.characterPath = missing.character;
+        profile.clientPath = missing.client;
+        profile.owners = missing.owners;
+        profile.connectClient = missing.connectClient;
+        bot.session.Connect();
+        EXPECT_EQ(bot.told, Told{"box " + std::string(missing.box) + " before attempting to connect."});
+        EXPECT_EQ(bot.Menus(), "C--");
+    }
+}
+
+TEST(Session, ClientModeWaitsForTheClientAndGoesToTheGamesOwnServer) {
+    ReadyBot bot;
+    bot.SetClientMode();
+    bot.bot.profile.port = 80;
+    bot.link.takenPorts = 2;
+    bot.files.currentFolder = "/home";  // about to be left, so all paths are made absolute first
+    bot.session.Connect();
+    EXPECT_EQ(bot.link.ports.size(), 3u);  // a port that is taken is drawn again
+    const std::string port = std::to_string(bot.link.ports.back());
+    EXPECT_EQ(bot.TakeTold(),
+              (Told{"link enter /home/game", "link write /home/game/proxy.ini=localhost " + port + "\r\n",
+                    "link start /home/game/client.exe /home/bots/bot.ini"}));
+    EXPECT_EQ(bot.Menus(), "-DS");
+    bot.session.OnClientRequest();
+    bot.session.OnClientConnected();
+    EXPECT_EQ(bot.TakeTold(), Told{"link connect :80"});
+    bot.AcceptServer();
+    EXPECT_EQ(bot.told, Told{"console 2 "});  // the client logs in
+    EXPECT_EQ(bot.Menus(), "-DS");
+}
+
+TEST(Session, PortsLieBetween1000And9999) {
+    ReadyBot bot;
+    bot.SetClientMode();
+    bot.link.takenPorts = 100000;
+    bot.session.Connect();
+    const auto [least, greatest] = std::minmax_element(bot.link.ports.begin(), bot.link.ports.end());
+    EXPECT_TRUE(*least >= 1000 && *greatest <= 9999) << *least << " " << *greatest;
+    EXPECT_EQ(bot.Menus(), "C--");  // given up: none was free
+}
+
+TEST(Session, PacketsAreRelayedWholeAfterTheBotsOwnReaction) {
+    ReadyBot bot;
+    bot.LinkClient();
+    bot.session.OnServerData("(Ann: hi\n([ Ann whispers, \"x\" to you. ]\r\n\n([ Ann whispers, \"y\" to you. ]\nlost");
+    EXPECT_EQ(bot.TakeTold(), (Told{"console Ann: hi", "console [ Ann whispers, \"x\" to you. ]\r", "console 7",
+                                    "client ]-#A", "client (Tandry Vorel: 7", "console [ Ann whispers, \"y\" to you. ]",
+                                    "client (Ann: hi", "client ([ Ann whispers, \"x\" to you. ]\r", "client ",
+                                    "client ([ Ann whispers, \"y\" to you. ]"}));
+    bot.session.OnClientData("connect New|Bot secret\ncolor 9876543210abc\ndesc Hi\n\"&go\n\"hello\nm 7");
+    EXPECT_EQ(bot.TakeTold(), (Told{"sent desc Hi [Tandry Vorel]", "console 47 go", "client ]-#A9876543210abc",
+                                    "client (Tandry Vorel: 47 go", "sent connect New|Bot secret",
+                                    "sent color 9876543210abc", "sent \"hello"}));
+    EXPECT_EQ(bot.bot.state.vorel.name, "New|Bot");
+    EXPECT_EQ(bot.bot.state.password, "secret");
+    EXPECT_EQ(bot.bot.status.botName, "New Bot");
+    bot.session.OnServerData("half a line");
+    bot.session.OnClientData("\"&\n");
+    EXPECT_EQ(bot.TakeTold().size(), 3u);  // nothing was left to relay
+}
+
+TEST(Session, SplitLinesAreDroppedUnlessKept) {
+    ReadyBot bot;
+    bot.AcceptServer();
+    const auto hear = [&](bool keep) {
+        bot.TakeTold();
+        bot.session.KeepSplitLines(keep);
+        bot.session.OnServerData("(Ann: h");
+        bot.session.OnServerData("i\n(Bea: a\n(Cl");
+        bot.session.OnServerData("eo: b\n");
+        return bot.TakeTold();
+    };
+    EXPECT_EQ(hear(false), Told{"console Bea: a"});
+    EXPECT_EQ(hear(true), (Told{"console Ann: hi", "console Bea: a", "console Cleo: b"}));
+    bot.session.OnServerData("(Dan: of the last connection");
+    bot.session.Connect();
+    bot.AcceptServer();
+    EXPECT_EQ(hear(true).front(), "console Ann: hi");
+}
+
+struct EndCase {
+    std::string name;
+    void (*end)(ReadyBot&);
+    Told told;
+    std::string menus;
+};
+
+// clang-format off
+const EndCase kEnds[] = {
+    {"Disconnect",      [](ReadyBot& b) { b.session.Disconnect(); },
+                        {"link close client", "link close server", "console 3", "link close window 7"}, "C--"},
+    {"ServerCloses",    [](ReadyBot& b) { b.host.SetServerConnected(false); b.session.OnServerClosed(); },
+                        {"link close window 7", "console 3"}, "C--"},
+    {"ClientCloses",    [](ReadyBot& b) { b.host.SetClientConnected(false); b.session.OnClientClosed(); }, {"link close window 7"}, "-D-"},
+    {"ClientFails",     [](ReadyBot& b) { b.session.OnClientError({1, "gone", 104, "socket"}); },
+                        {"console Client Socket Error 1: gone (104: socket)", "link close window 7"}, "-DS"},
+    {"ServerFails",     [](ReadyBot& b) { b.session.OnServerError({2, "lost", 32, "tcp"}); },
+                        {"link close server", "console Server Socket Error 2: lost (32: tcp)"}, "C--"},
+    {"WindowIsKept",    [](ReadyBot& b) { b.bot.profile.closeClient = 2; b.session.Disconnect(); },
+                        {"link close client", "link close server", "console 3"}, "C--"},
+    {"WindowClosesOnceWithTheClient", [](ReadyBot& b) { b.session.OnClientClosed(); b.session.Disconnect(); },
+                        {"link close window 7", "link close client", "link close server", "console 3"}, "C--"},
+    {"StandsAlone",     [](ReadyBot& b) { b.session.StandAlone(); }, {"link close client"}, "-D-"},
+};
+// clang-format on
+
+class SessionEnd : public testing::TestWithParam<EndCase> {};
+
+TEST_P(SessionEnd, ClosesAndTells) {
+    ReadyBot bot;
+    bot.LinkClient();
+    GetParam().end(bot);
+    EXPECT_EQ(bot.told, GetParam().told);
+    EXPECT_EQ(bot.Menus(), GetParam().menus);
+}
+
+INSTANTIATE_TEST_SUITE_P(Session, SessionEnd, testing::ValuesIn(kEnds), kCaseName);
+
+TEST(Session, BeforeTheServerAnsweredNothingIsHeardAndTheEndIsNoEvent) {
+    ReadyBot bot;
+    bot.session.Connect();
+    bot.TakeTold();
+    bot.session.OnServerData("(Ann: hi\n");
+    bot.session.OnClientData("\"&go\n");
+    bot.session.Disconnect();
+    EXPECT_EQ(bot.told, Told{});
+    EXPECT_EQ(bot.Menus(), "C--");
+}
+
+TEST(Session, TypedLinesAreTakenByTheirFirstCharacter) {
+    ReadyBot bot;
+    bot.host.SetServerConnected(true);
+    // clang-format off
+    const std::pair<const char*, const char*> typed[] = {
+        {"-hi", "sent -hi"}, {":waves", "sent :waves"}, {"`m 7", "sent m 7"}, {"/Ann hi", "sent wh Ann hi"},
+        {"hi", "sent \"hi"}, {"", "sent \""}, {"connect Me p", "sent \"connect Me p"}, {"\"&go", "console 47 go"},
+        {"desc Hi", "sent desc Hi [Tandry Vorel]"}, {"`DESC Hi", "sent desc Hi [Tandry Vorel]"},
+    };
+    // clang-format on
+    for (const auto& [line, told] : typed) {
+        bot.session.TypeLine(line);
+        EXPECT_EQ(bot.TakeTold(), Told{told});
+    }
+}
+
+}  // namespace

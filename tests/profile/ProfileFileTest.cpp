@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include "profile/ProfileFile.h"
+#include "profile/ProfilePaths.h"
+#include "profile/Settings.h"
+#include "support/Cases.h"
+#include "support/RehearsalBot.h"
+
+namespace {
+
+using Told = std::vector<std::string>;
+
+constexpr char kProfile[] =
+    "Port=1\r\n[General]\r\nFURCADIACLIENT=game/client.exe\r\nFurcadiaCharacter=bot.ini\r\nOwners=Ann, Bob\r\n"
+    "Maps=Vale\r\nConnectClient=1x\r\nCloseClient=none\r\nPort=80\r\nport =7\r\nScript=Greet.VS\r\nnothing\r\n"
+    "[Other]\r\nOwners=Zed\r\n[IGNORES]\r\nMean One\r\nOwners=Eve\r\n";
+
+/// A bot beside whose profile "bots/bot.tvm" lies a script that tells whose it is.
+class ProfileBot : public RehearsalBot {
+  public:
+    ProfileBot() {
+        files.contents["bots/bot.tvm"] = kProfile;
+        files.contents["bots/greet.vs"] = "VSPK 01.00 Vorel\n(0:0) loaded,\n(5:2) {loaded for [vorel.owners]}\n\n";
+    }
+};
+
+TEST(LoadProfile, ReadsTheSectionsItKnows) {
+    ProfileBot bot;
+    bot.bot.profile.signatureFirst = true;
+    EXPECT_TRUE(LoadProfile(bot.bot, "bots/BOT.tvm").found);
+    const Profile& profile = bot.bot.profile;
+    EXPECT_EQ(profile.path, "bots/bot.tvm");
+    EXPECT_EQ(profile.clientPath, "game/client.exe");
+    EXPECT_EQ(profile.characterPath, "bot.ini");
+    EXPECT_EQ(profile.owners, "Ann, Bob");
+    EXPECT_EQ(profile.maps, "Vale");
+    EXPECT_FALSE(profile.signatureFirst);
+    EXPECT_EQ(profile.connectClient, 1);
+    EXPECT_EQ(profile.closeClient, 0);
+    EXPECT_EQ(profile.port, 80);
+    EXPECT_EQ(profile.scriptPath, "Greet.VS");
+    EXPECT_EQ(profile.ignores, (std::vector<std::string>{"Mean One", "Owners=Eve"}));
+    EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"});
+    EXPECT_EQ(bot.bot.place.file, "");
+}
+
+TEST(OpenProfile, KnowsNoSectionsAndKeepsTheIgnores) {
+    ProfileBot bot;
+    bot.bot.profile.ignores = {"Old One"};
+    EXPECT_TRUE(OpenProfile(bot.bot, "bots/bot.tvm").found);
+    EXPECT_EQ(bot.bot.profile.ignores, Told{"Old One"});
+    EXPECT_EQ(bot.bot.profile.owners, "Eve");
+    EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"});
+}
+
+TEST(Profile, TheScriptRunsWhereItIsNamed) {
+    ProfileBot bot;
+    bot.files.contents["bots/bot.tvm"] = "[General]\nOwners=Ann\nScript=greet.vs\nOwners=Bob\n";
+    LoadProfile(bot.bot, "bots/bot.tvm");
+    EXPECT_EQ(bot.told, Told{"console loaded for Ann"});
+    EXPECT_EQ(bot.bot.profile.owners, "Bob");
+}
+
+TEST(Profile, TheSignaturesPlaceIsReadTwoWays) {
+    struct {
+        const char* value;
+        bool loaded, opened;
+    } const cases[] = {{"tRUE", true, true}, {"False", false, true}, {"END", false, false}, {"", false, true}};
+    for (const auto& [value, loaded, opened] : cases) {
+        ProfileBot bot;
+        bot.files.contents["bots/bot.tvm"] = "[General]\nLogo=" + std::string(value);
+        LoadProfile(bot.bot, "bots/bot.tvm");
+        EXPECT_EQ(bot.bot.profile.signatureFirst, loaded) << value;
+        OpenProfile(bot.bot, "bots/bot.tvm");
+        EXPECT_EQ(bot.bot.profile.signatureFirst, opened) << value;
+    }
+}
+
+TEST(Profile, MissingFilesLoadNothing) {
+    ProfileBot bot;
+    bot.bot.profile.owners = "Ann";
+    EXPECT_FALSE(LoadProfile(bot.bot, "bots/none.tvm").found);
+    EXPECT_FALSE(OpenProfile(bot.bot, "bots/none.tvm").found);
+    EXPECT_EQ(bot.bot.profile.owners, "Ann");
+    bot.files.contents.erase("bots/greet.vs");
+    EXPECT_EQ(LoadProfile(bot.bot, "bots/bot.tvm").missingScript, "Greet.VS");
+    EXPECT_EQ(bot.bot.profile.ignores.size(), 2u);
+    EXPECT_EQ(bot.told, Told{});
+}
+
+TEST(Profile, FaultsNameTheirPlace) {
+    ProfileBot bot;
+    bot.files.contents["bots/bot.tvm"] = "[General]\r\nPort=32768\r\n";
+    EXPECT_EQ(FaultOf([&] { LoadProfile(bot.bot, "bots/bot.tvm"); }), FaultKind::Overflow);
+    EXPECT_EQ(bot.bot.place.file, "bots/bot.tvm");
+    EXPECT_EQ(bot.bot.place.line, 2u);
+    bot.files.contents["bots/bot.tvm"] = "[General]\r\nScript=greet.vs\r\n";
+    bot.files.contents["bots/greet.vs"] = "VSPK 01.00 Vorel\n\n(0:0) loaded,\n(5:32768) {}\n\n";
+    EXPECT_EQ(FaultOf([&] { OpenProfile(bot.bot, "bots/bot.tvm"); }), FaultKind::Overflow);
+    EXPECT_EQ(bot.bot.place.file, "bots/greet.vs");
+    EXPECT_EQ(bot.bot.place.line, 4u);
+}
+
+TEST(SaveProfile, WritesTheWholeLayout) {
+    RehearsalBot bot;
+    Profile& profile = bot.bot.profile;
+    profile = {"", "c.exe", "b\xe9.ini", "Ann, Bob", "Vale", 1, -1, false, 80, "s.vs", {"Mean|One", "Zed"}, true};
+    SaveProfile(bot.bot, "bots/mybot");
+    EXPECT_EQ(bot.files.contents["bots/mybot.tvm"],
+              "[General]\r\nFurcadiaClient=c.exe\r\nFurcadiaCharacter=b\xe9.ini\r\nOwners=Ann, Bob\r\nMaps=Vale\r\n"
+              "ConnectClient=1\r\nCloseClient=-1\r\nLogo=False\r\nPort=80\r\nScript=s.vs\r\n\r\n[Ignores]\r\n"
+              "Mean|One\r\nZed\r\n");
+    EXPECT_FALSE(profile.dirty);
+    SaveProfile(bot.bot, profile.path);
+    EXPECT_EQ(profile.path, "bots/mybot.tvm");
+    bot.files.unwritable = "full.tvm";
+    profile.dirty = true;
+    EXPECT_EQ(FaultOf([&] { SaveProfile(bot.bot, "full"); }), FaultKind::PathOrFileAccess);
+    EXPECT_TRUE(profile.dirty);
+}
+
+TEST(Profile, TitleAndNewProfile) {
+    ProfileBot bot;
+    const std::string bare = WindowTitle(bot.bot);
+    EXPECT_TRUE(bare.starts_with("Tandry Vorel "));
+    LoadProfile(bot.bot, "bots/bot.tvm");
+    EXPECT_EQ(WindowTitle(bot.bot), bare + " - [bot.tvm]");
+    bot.bot.variables.Set("[a]", "1");
+    NewProfile(bot.bot);
+    EXPECT_EQ(WindowTitle(bot.bot), bare);
+    EXPECT_TRUE(bot.bot.variables.Rows().empty());
+    EXPECT_EQ(bot.bot.script->Text(), "VSPK 01.00 Vorel\r\n\r\n*Endtriggers* 9999 *Endtriggers*\r\n");
+}
+
+TEST(Profile, RelativePathsPreferTheCurrentFolder) {
+    ProfileBot bot;
+    LoadProfile(bot.bot, "bots/bot.tvm");
+    EXPECT_EQ(FindProfileFile(bot.bot, "GREET.vs"), "bots/greet.vs");
+    bot.files.contents["greet.vs"] = "";
+    EXPECT_EQ(FindProfileFile(bot.bot, "GREET.vs"), "greet.vs");
+    EXPECT_EQ(FindProfileFile(bot.bot, "none.vs"), std::nullopt);
+    EXPECT_EQ(FindProfileFile(bot.bot, ""), std::nullopt);
+}
+
+TEST(Profile, IgnoredNamesMatchWithBarsAndCaseApart) {
+    Profile profile;
+    EXPECT_FALSE(IsIgnored(profile, ""));
+    profile.ignores = {"Mean|On\xc9"};
+    EXPECT_TRUE(IsIgnored(profile, "mean on\xe9"));
+    EXPECT_FALSE(IsIgnored(profile, "mean"));
+}
+
+TEST(Settings, AreWrittenAndReadBack) {
+    MemoryFiles files;
+    EXPECT_FALSE(LoadSettings(files, "home").hasPlace);
+    SaveSettings(files, "home", {"bots/b\xc3\xa9.tvm", 12.5, -3, true});
+    EXPECT_EQ(files.contents["home/tvorel.cfg"], "[General]\r\nRecent=bots/b\xe9.tvm\r\nTop=12.5\r\nLeft=-3\r\n");
+    EXPECT_EQ(LoadSettings(files, "home").recent, "bots/b\xc3\xa9.tvm");
+    files.contents = {{"home/TVOREL.CFG", "=\nTop =1\nRECENT=a=b\nLeft=2.5 px\nOther=1\n"}};
+    const Settings settings = LoadSettings(files, "home");
+    EXPECT_EQ(settings.recent, "a=b");
+    EXPECT_EQ(settings.left, 2.5);
+    EXPECT_EQ(settings.top, 0);
+}
+
+}  // namespace

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "platform/DiskFiles.h"
+#include "profile/ProfileFile.h"
+#include "rehearsal/Rehearsal.h"
+#include "text/Fault.h"
+#include "text/Text.h"
+
+// Plays every session NAME.txt beside this file to the bot NAME.tvm, in a program folder of its own, the clock and the
+// random draw fixed. A session that is to end in a fault says so on a line "# ends with: fault …". Where there is a
+// NAME.out, everything the bot did must be exactly that.
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSessions = fs::path(TVOREL_SOURCE_DIR) / "tests" / "sessions";
+
+std::vector<std::string> AllSessions() {
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(kSessions)) {
+        if (entry.path().extension() == ".txt") names.push_back(entry.path().stem());
+    }
+    return names;
+}
+
+/// A folder that is there as long as the test.
+struct FreshFolder {
+    fs::path path = fs::path(testing::TempDir()) / ("session-" + std::to_string(::getpid()));
+    FreshFolder() { fs::create_directories(path); }
+    ~FreshFolder() { fs::remove_all(path); }
+};
+
+class PlayedSession : public testing::TestWithParam<std::string> {
+  protected:
+    std::string PathOf(const char* extension) const { return (kSessions / GetParam()).string() + extension; }
+
+    DiskFiles disk;
+    FreshFolder folder;
+    std::vector<std::string> told;
+    Rehearsal rehearsal{disk, folder.path.string(), [this](const std::string& line) { told.push_back(line); }};
+
+    void Play(const WrittenSession& session) {
+        rehearsal.host.FreezeClock({2003, 2, 1, 13, 5, 9});
+        rehearsal.host.SeedRandom(1);
+        try {
+            EXPECT_TRUE(LoadProfile(rehearsal.bot, PathOf(".tvm")).missingScript.empty());
+            rehearsal.Play(session);
+        } catch (const RuntimeFault& fault) {
+            told.push_back("fault " + std::string(fault.Name()));
+        }
+    }
+};
+
+TEST_P(PlayedSession, DoesWhatIsWritten) {
+    const std::string text = disk.Read(PathOf(".txt"));
+    const WrittenSession session = ParseSession(text);
+    ASSERT_EQ(session.error, std::nullopt);
+    Play(session);
+
+    const std::string transcript = Join(told, "\n") + "\n";
+    EXPECT_EQ(rehearsal.FailedExpectations(), 0u) << transcript;
+    constexpr std::string_view kEndsWith = "# ends with: ";
+    const std::size_t announced = text.find(kEndsWith);
+    if (announced != text.npos) {
+        const std::size_t end = announced + kEndsWith.size();
+        EXPECT_EQ(told.back(), text.substr(end, text.find('\n', end) - end)) << transcript;
+    } else {
+        EXPECT_TRUE(told.empty() || !told.back().starts_with("fault ")) << transcript;
+    }
+    if (disk.Find(PathOf(".out"))) {
+        EXPECT_EQ(transcript, disk.Read(PathOf(".out")));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Sessions, PlayedSession, testing::ValuesIn(AllSessions()),
+                         [](const auto& session) { return ReplaceAll(session.param, "-", "_"); });
+
+}  // namespace
