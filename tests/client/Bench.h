@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/prctl.h>
 
 #include <QFile>
@@ -7,7 +8,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QTest>
 #include <algorithm>
 #include <csignal>
 #include <memory>
@@ -17,16 +17,10 @@
 
 #include "platform/FrontEnd.h"
 #include "platform/QtHost.h"
-#include "practice/Application.h"
+#include "support/GameServer.h"
 #include "text/Fault.h"
 
 // What stands around a bot in client mode: a display, a game server, the client's end of the test, and the user's eyes.
-
-template <typename Condition>
-bool Comes(Condition condition) {
-    constexpr int kPatienceMs = 20000;
-    return QTest::qWaitFor(condition, kPatienceMs);
-}
 
 /// An X11 display that nobody sees, and that programs started from here use.
 class HiddenDisplay {
@@ -70,10 +64,10 @@ class Line {
         return lines_.contains(line);
     }
     bool Hears(const char* line) {
-        return Comes([&] { return Holds(line); });
+        return Eventually([&] { return Holds(line); });
     }
     bool Ends() {
-        return Comes([&] { return socket_ && !IsUp(); });
+        return Eventually([&] { return socket_ && !IsUp(); });
     }
 
   private:

@@ -9,8 +9,6 @@ namespace {
 
 class ClientMode : public testing::Test {
   public:
-    static void SetUpTestSuite() { EnsureApplication(); }
-
     ClientMode() {
         QFile::link(TVOREL_STAND_IN_CLIENT, Path("client"));
         Profile& profile = host_.bot().profile;
@@ -38,7 +36,7 @@ class ClientMode : public testing::Test {
     /// Up to the point where the client has logged in.
     void Link(const QByteArray& window = "class=Furcadia") {
         Connect(window);
-        ASSERT_TRUE(Comes([&] { return server_.IsUp() && host_.IsServerConnected(); }));
+        ASSERT_TRUE(Eventually([&] { return server_.IsUp() && host_.IsServerConnected(); }));
         server_.Write("Welcome\n");
         ASSERT_TRUE(server_.Hears("connect Bot|One made-up"));
     }
@@ -64,7 +62,7 @@ class ClientMode : public testing::Test {
 TEST_F(ClientMode, LinksAndRelaysBothWays) {
     Connect();
     ASSERT_TRUE(client_.Hears("ready"));
-    ASSERT_TRUE(Comes([&] { return host_.IsServerConnected() && server_.IsUp(); }));
+    ASSERT_TRUE(Eventually([&] { return host_.IsServerConnected() && server_.IsUp(); }));
     server_.Write("Welcome\n");
     EXPECT_TRUE(server_.Hears("color 0123456789 !\""));
     EXPECT_TRUE(server_.Hears("desc Hi [Tandry Vorel]"));
@@ -98,9 +96,10 @@ TEST_F(ClientMode, OneCallerIsLinkedAndEveryOtherRefused) {
     first.connectToHost("127.0.0.1", port);
     atOnce.connectToHost("127.0.0.1", port);
     ASSERT_TRUE(first.waitForConnected());
-    EXPECT_TRUE(Comes([&] { return host_.IsServerConnected() && atOnce.state() == QTcpSocket::UnconnectedState; }));
+    EXPECT_TRUE(
+        Eventually([&] { return host_.IsServerConnected() && atOnce.state() == QTcpSocket::UnconnectedState; }));
     later.connectToHost("127.0.0.1", port);
-    EXPECT_TRUE(Comes([&] { return later.error() == QTcpSocket::ConnectionRefusedError; }));
+    EXPECT_TRUE(Eventually([&] { return later.error() == QTcpSocket::ConnectionRefusedError; }));
     EXPECT_EQ(first.state(), QTcpSocket::ConnectedState);
 }
 
@@ -110,7 +109,7 @@ TEST_P(DyingClient, LeavesTheBotInTheGame) {
     Link();
     client_.Write(GetParam() + QByteArray("\n"));
     EXPECT_TRUE(client_.Ends());
-    EXPECT_TRUE(Comes([&] { return !host_.bot().status.canStandAlone; }));
+    EXPECT_TRUE(Eventually([&] { return !host_.bot().status.canStandAlone; }));
     host_.session().TypeLine("still here");
     EXPECT_TRUE(server_.Hears("\"still here"));
     host_.session().Disconnect();
@@ -131,7 +130,7 @@ struct EndCase {
 // clang-format off
 const EndCase kEnds[] = {
     {"Disconnect",    [](ClientMode& b) { b.host_.session().Disconnect(); }, true, 1},
-    {"ServerCloses",  [](ClientMode& b) { b.server_.Close(); EXPECT_TRUE(Comes([&] { return !b.host_.IsServerConnected(); })); }, true, 1},
+    {"ServerCloses",  [](ClientMode& b) { b.server_.Close(); EXPECT_TRUE(Eventually([&] { return !b.host_.IsServerConnected(); })); }, true, 1},
     {"ClientUnlinks", [](ClientMode& b) { EXPECT_TRUE(b.client_.Does("unlink")); EXPECT_TRUE(b.client_.Hears("asked to close")); }, true, 0},
     {"WindowIsKept",  [](ClientMode& b) { b.host_.bot().profile.closeClient = 0; b.host_.session().Disconnect(); }, false, 1},
     {"ServerFails",   [](ClientMode& b) { b.host_.session().OnServerError({}); }, false, 0},
