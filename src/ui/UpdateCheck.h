@@ -35,8 +35,8 @@ class UpdateCheck final : public QObject {
     /// Fetches the archive to a file. The file appears when it is complete, or not at all.
     void FetchArchive(const QString& file);
 
-    static constexpr qint64 kNoticeLimit = 64 * 1024;
-    static constexpr qint64 kArchiveLimit = 256 * 1024 * 1024;
+    static constexpr qint64 kNoticeLimit = qint64{64} * 1024;
+    static constexpr qint64 kArchiveLimit = qint64{256} * 1024 * 1024;
     static constexpr int kStallMs = 15000;
 
   signals:
