@@ -47,6 +47,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("tvorel");
     QApplication::setApplicationDisplayName(kProductName);
     QApplication::setApplicationVersion(kProductVersion);
+    QApplication::setDesktopFileName("org.tandryvorel.tvorel");
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QString folder = ProgramFolder();
