@@ -86,7 +86,12 @@ QWidget* frmGS::BuildCommands() {
     txtFilter_->setClearButtonEnabled(true);
     txtFilter_->setAccessibleName(tr("Filter of the commands"));
     txtFilter_->setAccessibleDescription(tr("Shows only the commands that hold all of these words"));
-    layout->addWidget(txtFilter_);
+    auto* const label = new QLabel(tr("Fi&lter:"));
+    label->setBuddy(txtFilter_);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(txtFilter_, 1);
+    layout->addLayout(row);
 
     tvwCmds_ = new QTreeWidget;
     tvwCmds_->setObjectName("tvwCmds");

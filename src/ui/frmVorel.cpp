@@ -120,7 +120,7 @@ QWidget* frmVorel::BuildConsole() {
     });
 
     auto* const row = new QHBoxLayout;
-    auto* const label = new QLabel(tr("&Say:"));
+    auto* const label = new QLabel(tr("Sa&y:"));
     txtSend_ = new InputLine;
     txtSend_->setObjectName("txtSend");
     txtSend_->setAccessibleName(tr("Input line"));
@@ -273,7 +273,7 @@ void frmVorel::BuildMenus() {
               [this](bool on) { options_.Set("desktop/notifyWhispers", on); });
 
     QMenu* const configuration = menuBar()->addMenu(tr("C&onfiguration"));
-    AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::Key_F2),
+    AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
               [this] { ShowConfiguration(); });
 
     QMenu* const help = menuBar()->addMenu(tr("&Help"));
