@@ -253,7 +253,8 @@ void frmVorel::BuildMenus() {
     AddAction(script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
 
     QMenu* const console = menuBar()->addMenu(tr("&Console"));
-    AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(); });
+    AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(true); });
+    AddAction(console, "mnuFindNext", tr("Find ne&xt"), QKeySequence::FindNext, [this] { FindInConsole(false); });
     AddAction(console, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
               [this] { lstView_->CopySelection(); });
     AddAction(console, "mnuSaveConsole", tr("&Save to a file..."), {}, [this] { SaveConsole(); });
@@ -617,9 +618,13 @@ void frmVorel::RunScriptOnce() {
     host_.RunHandler([this] { RunScript(bot(), EventScriptLoaded); });
 }
 
-void frmVorel::FindInConsole() {
-    const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
-    if (text && !lstView_->FindNext(*text)) panelReason_->setText(tr("\"%1\" was not found.").arg(*text));
+void frmVorel::FindInConsole(bool ask) {
+    if (ask || sought_.isEmpty()) {
+        const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
+        if (!text) return;
+        sought_ = *text;
+    }
+    if (!lstView_->FindNext(sought_)) panelReason_->setText(tr("\"%1\" was not found.").arg(sought_));
 }
 
 void frmVorel::SaveConsole() {

@@ -69,6 +69,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QTimer keepUnsaved_;
     Reconnector reconnector_;
     bool faulted_ = false;
+    QString sought_;  ///< in the console
 
     ConsoleView* lstView_;
     QLineEdit* txtView_;
@@ -109,7 +110,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void cmdHelp_Click();
     void ShowConfiguration();
     void RunScriptOnce();
-    void FindInConsole();
+    void FindInConsole(bool ask);
     void SaveConsole();
     void ChooseLog(bool on);
     void ChooseScrollBack();
