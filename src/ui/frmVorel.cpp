@@ -139,7 +139,7 @@ QWidget* frmVorel::BuildConsole() {
     auto* const emoticons = new EmoticonRow;
     layout->addWidget(emoticons);
     connect(emoticons, &EmoticonRow::EmoticonChosen, this, [this](const QString& tag) {
-        txtSend_->setText(txtSend_->text() + tag);
+        txtSend_->Append(tag);
         txtSend_->setFocus();
     });
     return fmeBot;
