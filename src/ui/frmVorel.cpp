@@ -430,6 +430,7 @@ void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     if (!load.missingScript.empty()) {
         Announce(tr("The profile names the script %1, which does not exist.").arg(Shown(load.missingScript)));
     }
+        if (load.found) bot().profile.dirty = false;
 }
 
 void frmVorel::ShowRecentProfiles() {
@@ -453,8 +454,8 @@ void frmVorel::NewProfile() {
 bool frmVorel::SaveProfile() { return bot().profile.path.empty() ? SaveProfileAs() : WriteProfile(bot().profile.path); }
 
 bool frmVorel::SaveProfileAs() {
-    const auto chosen =
-        dialogs_.AskSaveFile(this, "Save Tandry Vorel As...", kProfileFilter, ShownPath(FolderOf(bot().profile.path)));
+    const auto chosen = AskSaveName(dialogs_, this, "Save Tandry Vorel As...", kProfileFilter,
+                                    ShownPath(FolderOf(bot().profile.path)), kProfileExtension);
     return chosen && WriteProfile(TypedPath(*chosen));
 }
 
@@ -477,16 +478,12 @@ bool frmVorel::WriteProfile(const std::string& path) {
 /// Asks about unsaved changes before something else takes their place.
 /// @return false when the user would rather stay
 bool frmVorel::MayDropChanges() {
-    if (bot().profile.dirty) {
-        const auto answer =
-            dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", true);
-        if (answer == Dialogs::Answer::Cancel || (answer == Dialogs::Answer::Yes && !SaveProfile())) return false;
-    }
-    if (editor_->IsDirty()) {
-        const auto answer = dialogs_.Ask(this, "Do you want to save any changes to your script?", "Save Script", true);
-        if (answer == Dialogs::Answer::Cancel || (answer == Dialogs::Answer::Yes && !editor_->Save())) return false;
-    }
-    return true;
+    // The script first: saved under a new name, it changes the profile.
+    if (!editor_->MayDropChanges()) return false;
+    if (!bot().profile.dirty) return true;
+    const auto answer =
+        dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", true);
+    return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && SaveProfile());
 }
 
 // --- leaving -----------------------------------------------------------------------------------------------------
