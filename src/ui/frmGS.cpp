@@ -213,8 +213,9 @@ void frmGS::NewScript() {
 
 void frmGS::RestoreText(const std::string& path, const std::string& text) {
     path_ = path;
-    txtScript_->setText(Shown(text));
-    txtScript_->setModified(true);
+    // Replaced by hand, as it were: only that counts as a change, and it can be undone.
+    txtScript_->selectAll();
+    txtScript_->replaceSelectedText(Shown(text));
     ShowTitle();
 }
 

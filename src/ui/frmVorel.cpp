@@ -83,7 +83,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(&reconnector_, &Reconnector::TryNow, this, [this] { host_.RunHandler([this] { host_.Connect(); }); });
     connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWork);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
-    editor_->LoadCommands(TypedPath(QDir(folder).filePath(kCommandList)));
+    keepUnsaved_.setObjectName("tmrKeepUnsaved");
     ::NewProfile(bot());
     bot().profile.serverAddress =
         TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
@@ -363,13 +363,14 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
         text += "\n\n" + (place.file.empty() ? tr("Line %1 of the script").arg(place.line)
                                              : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
     }
-    KeepUnsavedWork();
-    const auto copy = recovery_.FoundScript();
-    if (copy || recovery_.FoundProfile()) {
+    // Before the first time, what an earlier run has left is still to be offered.
+    if (keepUnsaved_.isActive()) KeepUnsavedWork();
+    if (recovery_.FoundScript() || recovery_.FoundProfile()) {
         text += "\n\n" + tr("Unsaved work was put aside in %1, and will be offered at the next start.").arg(folder_);
     }
     dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
-    QCoreApplication::exit(kFaultExit);
+    // Later, since the fault may have come before the event loop that this is to end.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(kFaultExit); });
 }
 
 void frmVorel::NotifyWhisper(std::string_view line) {
@@ -385,11 +386,17 @@ void frmVorel::Start() {
     const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
     if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
     if (!settings.recent.empty()) OpenProfileFile(settings.recent);
+    host_.RunHandler([this] { BeginWork(); });
+}
+
+void frmVorel::BeginWork() {
+    editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
     const QString log = options_.LogFile();
     if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
     OfferUnsavedWork();
+    if (faulted_) return;
     keepUnsaved_.start(kKeepUnsavedMs);
-    if (options_.ConnectAtStart() && !faulted_) host_.RunHandler([this] { host_.Connect(); });
+    if (options_.ConnectAtStart()) host_.Connect();
 }
 
 void frmVorel::OpenDocument(const std::string& path) {
@@ -550,6 +557,7 @@ void frmVorel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange && isMinimized()) {
         QTimer::singleShot(0, this, [this] { MinimizeToTray(); });
     }
+    KeepUnsavedWork();  // what was not wanted goes
 }
 
 void frmVorel::MinimizeToTray() {

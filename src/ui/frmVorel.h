@@ -66,7 +66,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     std::unique_ptr<PracticeServer> practice_;
     QtHost host_;
     Recovery recovery_;
-    QTimer keepUnsaved_;
+    QTimer keepUnsaved_{this};
     Reconnector reconnector_;
     bool faulted_ = false;
     QString sought_;  ///< in the console
@@ -104,6 +104,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     bool WriteProfile(const std::string& path);
     bool MayDropChanges();
     void SaveAllSettings();
+    void BeginWork();
 
     void txtSend_Enter();
     void cmdC_Click(const QString& caption);
