@@ -219,25 +219,25 @@ void frmGS::RestoreText(const std::string& path, const std::string& text) {
     ShowTitle();
 }
 
-void frmGS::Open() {
 bool frmGS::MayDropChanges() {
     if (!IsDirty()) return true;
     const auto answer = dialogs_.Ask(this, kSaveQuestion, kSaveTitle, true);
     return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && Save());
 }
 
-    const auto chosen =
+void frmGS::Open() {
     if (!MayDropChanges()) return;
+    const auto chosen =
         dialogs_.AskOpenFile(this, "Select a VorelSpeak Script to Open", kFilter, ShownPath(FolderOf(path_)));
     if (chosen) ReadFrom(TypedPath(*chosen));
 }
 
 void frmGS::OpenScript(const std::string& path) {
-    const std::optional<std::string> found = host_.Disk().Find(path);
     if (MayDropChanges()) ReadFrom(path);
 }
 
 void frmGS::ReadFrom(const std::string& path) {
+    const std::optional<std::string> found = host_.Disk().Find(path);
     if (!found) return;
     host_.RunHandler([&] {
         const std::string text = ScriptTextFromFile(host_.Disk().Read(*found));
@@ -249,7 +249,6 @@ void frmGS::ReadFrom(const std::string& path) {
     });
 }
 
-bool frmGS::Save() { return path_.empty() ? SaveAs() : WriteTo(path_); }
 /// A profile that names this file already, perhaps from its own folder, keeps it as it stands.
 void frmGS::NameInProfile() {
     Bot& bot = host_.bot();
@@ -259,6 +258,7 @@ void frmGS::NameInProfile() {
     emit ScriptFileChanged();
 }
 
+bool frmGS::Save() { return path_.empty() ? SaveAs() : WriteTo(path_); }
 
 bool frmGS::SaveAs() {
     const auto chosen = AskSaveName(dialogs_, this, "Save VorelSpeak Script As...", kFilter, ShownPath(FolderOf(path_)),

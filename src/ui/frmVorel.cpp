@@ -15,6 +15,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "Version.h"
 #include "engine/Dispatcher.h"
@@ -46,6 +47,11 @@ QList<ServerChoice> Servers() {
     return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
 }
 
+bool IsDocument(const QUrl& url) {
+    const std::string name = LowerCase(TypedPath(url.fileName()));
+    return url.isLocalFile() && (name.ends_with(kProfileExtension) || name.ends_with(kScriptExtension));
+}
+
 }  // namespace
 
 frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
@@ -73,17 +79,14 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     tray_ = new TrayIcon(this);
     connect(tray_, &TrayIcon::RestoreChosen, this, &frmVorel::RestoreFromTray);
     connect(tray_, &TrayIcon::MinimizeChosen, this, &frmVorel::MinimizeToTray);
-    connect(tray_, &TrayIcon::ExitChosen, this, [this] {
-        RestoreFromTray();
-        close();
-    });
+    connect(tray_, &TrayIcon::ExitChosen, this, &QWidget::close);
     if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();
 
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
     connect(&reconnector_, &Reconnector::TryNow, this, [this] { host_.RunHandler([this] { host_.Connect(); }); });
+    keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWork);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
-    keepUnsaved_.setObjectName("tmrKeepUnsaved");
     ::NewProfile(bot());
     bot().profile.serverAddress =
         TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
@@ -329,7 +332,7 @@ void frmVorel::ShowStatus() {
     findChild<QAction*>("mnuDisconnect")->setEnabled(status.canDisconnect);
     findChild<QAction*>("mnuSAM")->setEnabled(status.canStandAlone);
     panelName_->setText(Shown(status.botName));
-    panelConnection_->setText(Shown(status.connection));
+    panelConnection_->setText(status.connection.empty() ? "Disconnected" : Shown(status.connection));
     if (!status.canConnect) panelReason_->setText(status.connection == "Connected" ? QString() : tr("Connecting..."));
 }
 
@@ -383,18 +386,18 @@ void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
 // --- profiles ----------------------------------------------------------------------------------------------------
 
 void frmVorel::Start() {
-    const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
-    if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
-    if (!settings.recent.empty()) OpenProfileFile(settings.recent);
     host_.RunHandler([this] { BeginWork(); });
 }
 
 void frmVorel::BeginWork() {
     editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
+    const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
+    if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
+    if (!settings.recent.empty()) OpenProfileFile(settings.recent);
+    if (faulted_) return;
     const QString log = options_.LogFile();
     if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
     OfferUnsavedWork();
-    if (faulted_) return;
     keepUnsaved_.start(kKeepUnsavedMs);
     if (options_.ConnectAtStart()) host_.Connect();
 }
@@ -403,6 +406,8 @@ void frmVorel::OpenDocument(const std::string& path) {
     if (LowerCase(path).ends_with(kScriptExtension)) {
         editor_->OpenScript(path);
         editor_->show();
+    } else if (!LowerCase(path).ends_with(kProfileExtension)) {
+        Announce(tr("%1 is neither a profile (.tvm) nor a script (.vs).").arg(ShownPath(path)));
     } else if (MayDropChanges()) {
         OpenProfileFile(path);
     }
@@ -425,6 +430,7 @@ void frmVorel::OpenProfileByMenu() {
     if (!chosen) return;
     host_.RunHandler([&] {
         const ProfileLoad load = OpenProfile(bot(), TypedPath(*chosen));
+        if (load.found) bot().profile.dirty = false;
         ShowLoaded(load, TypedPath(*chosen));
     });
 }
@@ -437,13 +443,12 @@ void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     if (!load.missingScript.empty()) {
         Announce(tr("The profile names the script %1, which does not exist.").arg(Shown(load.missingScript)));
     }
-        if (load.found) bot().profile.dirty = false;
 }
 
 void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
     for (const QString& path : options_.RecentProfiles()) {
-        mnuRecent_->addAction(path, this, [this, path] {
+        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] {
             if (MayDropChanges()) OpenProfileFile(TypedPath(path));
         });
     }
@@ -511,6 +516,8 @@ void frmVorel::SaveAllSettings() {
 
 void frmVorel::closeEvent(QCloseEvent* event) {
     SaveAllSettings();
+    // From the tray: questions are asked in a window that can be seen.
+    if (!faulted_ && !isVisible() && (bot().profile.dirty || editor_->IsDirty())) RestoreFromTray();
     if (!faulted_ && !MayDropChanges()) return event->ignore();
     keepUnsaved_.stop();
     if (!faulted_) {
@@ -550,6 +557,7 @@ void frmVorel::OfferUnsavedWork() {
         editor_->RestoreText(script->path, script->bytes);
         editor_->show();
     }
+    KeepUnsavedWork();  // what was not wanted goes
 }
 
 void frmVorel::changeEvent(QEvent* event) {
@@ -557,7 +565,6 @@ void frmVorel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange && isMinimized()) {
         QTimer::singleShot(0, this, [this] { MinimizeToTray(); });
     }
-    KeepUnsavedWork();  // what was not wanted goes
 }
 
 void frmVorel::MinimizeToTray() {
@@ -575,12 +582,13 @@ void frmVorel::RestoreFromTray() {
 }
 
 void frmVorel::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::any_of(urls.begin(), urls.end(), IsDocument)) event->acceptProposedAction();
 }
 
 void frmVorel::dropEvent(QDropEvent* event) {
     for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) OpenDocument(TypedPath(url.toLocalFile()));
+        if (IsDocument(url)) OpenDocument(TypedPath(url.toLocalFile()));
     }
 }
 
@@ -597,9 +605,11 @@ void frmVorel::cmdC_Click(const QString& caption) {
     const bool playerEditor = caption == kPlayerEditorTool;
     const auto program = host_.Disk().Find(JoinPath(folder, playerEditor ? "FurEd.exe" : "config.exe"));
     if (!program) return;
+    // A bare name would be looked for along the search path.
+    const QString absolute = ShownPath(host_.Disk().Absolute(*program));
     const QStringList arguments = playerEditor ? QStringList{Shown(bot().profile.characterPath)} : QStringList();
-    if (!QProcess::startDetached(ShownPath(*program), arguments, ShownPath(folder))) {
-        Announce(tr("%1 could not be started.").arg(ShownPath(*program)));
+    if (!QProcess::startDetached(absolute, arguments, ShownPath(folder))) {
+        Announce(tr("%1 could not be started.").arg(absolute));
     }
 }
 
