@@ -40,7 +40,6 @@ void ProvideCommandList(const QString& folder) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("tvorel");
-    QApplication::setApplicationDisplayName(kProductName);
     QApplication::setApplicationVersion(kProductVersion);
     QApplication::setQuitOnLastWindowClosed(false);
 
