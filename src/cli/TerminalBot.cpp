@@ -26,12 +26,16 @@ bool TerminalBot::Load() {
 bool TerminalBot::RecordTo(const std::string& path) {
     recordFile_.setFileName(QString::fromStdString(path));
     if (!recordFile_.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-    recording_ = std::make_unique<Recording>([this](const std::string& lines) {
-        recordFile_.write(lines.data(), static_cast<qint64>(lines.size()));
-        recordFile_.flush();
-    });
+    recording_ = std::make_unique<Recording>([this](const std::string& lines) { Record(lines); });
     host_.SetObserver(recording_.get());
     return true;
+}
+
+void TerminalBot::Record(const std::string& lines) {
+    const auto size = static_cast<qint64>(lines.size());
+    const bool written = recordFile_.write(lines.data(), size) == size && recordFile_.flush();
+    if (!written && !recordBroken_) std::cerr << "vorel run: the recording can't be written any more" << std::endl;
+    recordBroken_ = !written;
 }
 
 std::string TerminalBot::Label() const {
@@ -58,8 +62,8 @@ void TerminalBot::ShowMessage(std::string_view title, std::string_view text) {
 }
 
 void TerminalBot::StatusChanged() {
-    const bool connected = host_.IsServerConnected();
-    if (connected) wasConnected_ = true;
+    // On its way to a connection, what came of the one before no longer counts.
+    if (!IsIdle()) wasConnected_ = host_.IsServerConnected();
     failed_ = IsIdle() && !wasConnected_;
     // Whether this is the end shows only when the script has had its turn: it may connect again.
     QTimer::singleShot(0, &host_, [this] {

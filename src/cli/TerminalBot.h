@@ -60,6 +60,9 @@ class TerminalBot final : public FrontEnd {
     Owner owner_;
     bool hasLabel_ = false, wasConnected_ = false, failed_ = false;
     QFile recordFile_;
+    bool recordBroken_ = false;
     std::unique_ptr<Recording> recording_;
     QtHost host_;
+
+    void Record(const std::string& lines);
 };

@@ -12,12 +12,23 @@ int UsageExit(const CLI::App& app) {
     return app.get_subcommand("try")->parsed() ? kTryUsageExit : kUsageExit;
 }
 
+/// What is wrong with the usage, in one line.
+std::string UsageLine(const CLI::App* app, const CLI::Error& error) {
+    const auto verbs = app->get_subcommands();
+    const auto words = app->remaining();
+    const std::string command = verbs.empty() ? "vorel" : "vorel " + verbs.front()->get_name();
+    const bool unknownVerb = verbs.empty() && !words.empty();
+    const std::string what = unknownVerb ? "there is no verb \"" + words.front() + "\"" : std::string(error.what());
+    return command + ": " + what + " (" + command + " --help tells more)\n";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     CLI::App app(std::string(kProductName) + " " + kProductVersion + " in the terminal: bots for Furcadia", "vorel");
     app.set_version_flag("--version", std::string(kProductName) + " " + kProductVersion);
     app.require_subcommand(1);
+    app.failure_message(UsageLine);
     VerbAction action;
     AddRunVerb(app, action);
     AddTryVerb(app, action);

@@ -84,11 +84,13 @@ class TerminalRun {
         if (practice_) bot.session().SetServer("127.0.0.1", practicePort_);
         bot.session().KeepSplitLines(options_.keepSplitLines);
         if (options_.profiles.size() > 1) bot.ShowLabel();
+        if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
+        if (exit_) return *exit_;
+        // Only now: an earlier recording is not to be lost to a run that can't begin.
         if (!options_.record.empty() && !bot.RecordTo(options_.record)) {
             return Refuse(kCantCreateExit, "the recording " + options_.record + " can't be written");
         }
-        if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
-        return exit_.value_or(0);
+        return 0;
     }
 
     int practicePort_ = 0;

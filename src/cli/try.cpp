@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <QDateTime>
 #include <cstdio>
 #include <iostream>
 #include <iterator>
@@ -33,10 +34,9 @@ std::optional<LocalTime> ReadTime(const std::string& text) {
     char end = 0;
     const int read = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &time.year, &time.month, &time.day,
                                  &time.hour, &time.minute, &time.second, &end);
-    const bool inRange = time.month >= 1 && time.month <= 12 && time.day >= 1 && time.day <= 31 && time.hour >= 0 &&
-                         time.hour <= 23 && time.minute >= 0 && time.minute <= 59 && time.second >= 0 &&
-                         time.second <= 59;
-    return read == 6 && inRange ? std::optional(time) : std::nullopt;
+    const bool exists =
+        QDate::isValid(time.year, time.month, time.day) && QTime::isValid(time.hour, time.minute, time.second);
+    return read == 6 && exists ? std::optional(time) : std::nullopt;
 }
 
 std::string ReadSession(const DiskFiles& disk, const std::string& path) {

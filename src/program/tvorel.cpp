@@ -3,10 +3,12 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTranslator>
 
 #include "Version.h"
+#include "language/Commands.h"
 #include "ui/CommandList.h"
 #include "ui/Dialogs.h"
 #include "ui/Options.h"
@@ -18,14 +20,15 @@ namespace {
 /// The program's own folder: that of the executable when it can be written, so that a copy on a stick keeps its things
 /// together; otherwise the user's data folder for the program.
 QString ProgramFolder() {
-    const QString beside = QCoreApplication::applicationDirPath();
+    QString beside = QCoreApplication::applicationDirPath();
     if (QFileInfo(beside).isWritable() && !beside.startsWith("/usr")) return beside;
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(folder);
     return folder;
 }
 
-/// The command list is looked for in the program's folder; where it is missing, the installed one is put there.
+/// The command list is looked for in the program's folder; where it is missing, the installed one is put there, and
+/// where that is missing too, the one that the program was built with.
 void ProvideCommandList(const QString& folder) {
     const QString list = QDir(folder).filePath(kCommandList);
     if (QFileInfo::exists(list)) return;
@@ -33,6 +36,8 @@ void ProvideCommandList(const QString& folder) {
     for (const QString& place : {beside.filePath("../share/tvorel"), beside.filePath("../../share")}) {
         if (QFile::copy(QDir(place).filePath(kCommandList), list)) return;
     }
+    QSaveFile file(list);
+    if (file.open(QIODevice::WriteOnly) && file.write(QByteArray::fromStdString(CommandListFile())) > 0) file.commit();
 }
 
 }  // namespace

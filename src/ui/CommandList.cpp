@@ -1,5 +1,7 @@
 #include "ui/CommandList.h"
 
+#include "engine/Script.h"
+#include "language/Commands.h"
 #include "text/Numbers.h"
 
 CommandRoot RootOf(std::string_view line) {
@@ -21,4 +23,11 @@ CommandRoot RootOf(std::string_view line) {
 std::string CommandInsertion(std::string_view command) {
     const auto blanks = static_cast<std::size_t>(LeadingNumber(command.substr(1, 1)));
     return std::string(blanks, ' ').append(command).append("\r\n");
+}
+
+std::string CommandPreview(std::string_view line) {
+    const LineReading reading = ScriptLine(line).asCause;
+    const Command* const command = FindCommand(reading.category, reading.number);
+    if (!command || ListLine(*command) != line) return std::string(line);
+    return std::string(line).append("\n\n").append(command->explanation).append("\n\n").append(ExampleLine(*command));
 }

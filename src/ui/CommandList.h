@@ -16,4 +16,8 @@ CommandRoot RootOf(std::string_view line);
 /// condition, five for an effect), the command, and CR LF.
 std::string CommandInsertion(std::string_view command);
 
+/// What the editor tells of a line of the command list: the command, what it does, and an example. Of a command that
+/// is not the program's own, the line alone.
+std::string CommandPreview(std::string_view line);
+
 inline constexpr char kCommandList[] = "vslist.vs";

@@ -4,7 +4,7 @@
 
 QString InputLine::Take() {
     constexpr qsizetype kHistoryLength = 500;
-    const QString text = this->text();
+    QString text = this->text();
     if (!text.isEmpty() && (history_.isEmpty() || history_.last() != text)) history_ << text;
     if (history_.size() > kHistoryLength) history_.removeFirst();
     at_ = history_.size();

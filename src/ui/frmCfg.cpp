@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedLayout>
 
 #include "engine/Files.h"
 #include "ui/Dialogs.h"
@@ -47,10 +48,10 @@ frmCfg::frmCfg(Profile& profile, const QList<ServerChoice>& servers, Dialogs& di
     setObjectName("frmCfg");
     setWindowTitle("Tandry Vorel Configuration");
     lstCfg_ = Named(new QListWidget, "lstCfg", tr("Pages"), tr("Chooses which page of the configuration is shown"));
-    auto* const pages = new QVBoxLayout;
+    pages_ = new QStackedLayout;  // as large as its largest page
     auto* const columns = new QHBoxLayout;
     columns->addWidget(lstCfg_);
-    columns->addLayout(pages, 1);
+    columns->addLayout(pages_, 1);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
 
@@ -59,7 +60,7 @@ frmCfg::frmCfg(Profile& profile, const QList<ServerChoice>& servers, Dialogs& di
     BuildOptions();
     BuildIgnores();
     for (QGroupBox* const page : fmeCfg_) {
-        pages->addWidget(page);
+        pages_->addWidget(page);
         lstCfg_->addItem(page->title());
     }
     lstCfg_->setFixedWidth(lstCfg_->sizeHintForColumn(0) + 4 * lstCfg_->frameWidth() + 16);
@@ -200,7 +201,7 @@ void frmCfg::ShowProfile() {
 }
 
 void frmCfg::ShowPage(int page) {
-    for (int i = 0; i < fmeCfg_.size(); ++i) fmeCfg_[i]->setVisible(i == page);
+    if (page >= 0) pages_->setCurrentIndex(page);
 }
 
 void frmCfg::cmdAdd_Map_Click() {

@@ -14,6 +14,7 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QRadioButton;
+class QStackedLayout;
 
 /// A server the user can choose: what is shown, and the address behind it.
 struct ServerChoice {
@@ -34,6 +35,7 @@ class frmCfg final : public QDialog {
     Dialogs& dialogs_;
 
     QListWidget* lstCfg_;
+    QStackedLayout* pages_;
     QList<QGroupBox*> fmeCfg_;
     QLineEdit *txtClient_, *txtINI_;
     QComboBox *cmbOwner_, *cmbMaps_, *cmbAddress_, *cmbPort_;

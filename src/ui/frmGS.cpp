@@ -48,8 +48,8 @@ frmGS::frmGS(QtHost& host, Dialogs& dialogs)
     auto* const splitter = new QSplitter;
     splitter->addWidget(textSide);
     splitter->addWidget(BuildCommands());
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({660, 320});
     setCentralWidget(splitter);
     statusBar();
     BuildMenus();
@@ -109,7 +109,7 @@ QWidget* frmGS::BuildCommands() {
     lblPreview_->setObjectName("lblPreview");
     lblPreview_->setWordWrap(true);
     lblPreview_->setTextFormat(Qt::PlainText);
-    lblPreview_->setMinimumHeight(lblPreview_->fontMetrics().lineSpacing() * 4);
+    lblPreview_->setMinimumHeight(lblPreview_->fontMetrics().lineSpacing() * 9);
     lblPreview_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     lblPreview_->setAccessibleName(tr("The chosen command"));
     layout->addWidget(lblPreview_);
@@ -326,7 +326,8 @@ void frmGS::FilterCommands(const QString& words) {
 }
 
 void frmGS::ShowPreview(const QTreeWidgetItem* item) {
-    lblPreview_->setText(item && item->childCount() == 0 ? item->text(0) : QString());
+    const bool isCommand = item && item->parent();
+    lblPreview_->setText(isCommand ? Shown(CommandPreview(Typed(item->text(0)))) : QString());
 }
 
 void frmGS::InsertCommand(const QTreeWidgetItem* item) {

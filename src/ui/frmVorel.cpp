@@ -62,6 +62,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
       host_(*this, TypedPath(folder)),
       recovery_(host_.Disk(), TypedPath(folder)),
       reconnector_([this] { return host_.Random(); }),
+      updates_(QUrl(QString(kUpdateServer))),
       editor_(std::make_unique<frmGS>(host_, dialogs)) {
     setObjectName("frmVorel");
     setWindowIcon(QIcon(":/icons/tvorel.svg"));
@@ -85,6 +86,11 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
     connect(&reconnector_, &Reconnector::TryNow, this, [this] { host_.RunHandler([this] { host_.Connect(); }); });
     keepUnsaved_.setObjectName("tmrKeepUnsaved");
+    connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
+    connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
+        Announce(why.isEmpty() ? tr("The new version has been saved.")
+                               : tr("The new version was not saved: %1").arg(why));
+    });
     connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWork);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
     ::NewProfile(bot());
@@ -399,6 +405,7 @@ void frmVorel::BeginWork() {
     if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
     OfferUnsavedWork();
     keepUnsaved_.start(kKeepUnsavedMs);
+    updates_.Look();
     if (options_.ConnectAtStart()) host_.Connect();
 }
 
@@ -531,6 +538,13 @@ void frmVorel::closeEvent(QCloseEvent* event) {
     tray_->hide();
     event->accept();
     QCoreApplication::quit();
+}
+
+void frmVorel::OfferUpdate(const QString& version, const QString& text) {
+    const QString question = tr("Version %1 is there:\n\n%2\n\nSave it to a place of your choice?").arg(version, text);
+    if (dialogs_.Ask(this, question, kProductName) != Dialogs::Answer::Yes) return;
+    const auto file = dialogs_.AskSaveFile(this, tr("Save the new version"), tr("Archive (*.zip) | *.zip"), {});
+    if (file) updates_.FetchArchive(*file);
 }
 
 void frmVorel::KeepUnsavedWork() {

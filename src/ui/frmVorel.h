@@ -10,6 +10,7 @@
 #include "ui/Options.h"
 #include "ui/Reconnector.h"
 #include "ui/Recovery.h"
+#include "ui/UpdateCheck.h"
 
 class ConsoleView;
 class Dialogs;
@@ -68,6 +69,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Recovery recovery_;
     QTimer keepUnsaved_{this};
     Reconnector reconnector_;
+    UpdateCheck updates_;
     bool faulted_ = false;
     QString sought_;  ///< in the console
 
@@ -116,6 +118,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void ChooseLog(bool on);
     void ChooseScrollBack();
     void OpenPractice(std::string& address, int& port);
+    void OfferUpdate(const QString& version, const QString& text);
     void KeepUnsavedWork();
     void OfferUnsavedWork();
     void NotifyWhisper(std::string_view line);

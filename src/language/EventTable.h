@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "engine/Events.h"
+
+/// One of the game's events, as the people who write scripts see it. The cause that answers it explains it; see
+/// language/Commands.h.
+struct EventDescription {
+    GameEvent code;
+    std::string_view name;
+    std::string_view raisedBy;  ///< what the game sends, or what else happens
+    std::string_view session;   ///< an example, as instructions of a written session, for a bot that is called Greeter
+};
+
+/// All events, by code.
+std::span<const EventDescription> AllEvents();
+
+/// The number of the cause that answers an event.
+constexpr std::int16_t CauseOf(GameEvent event) { return static_cast<std::int16_t>(event - 1); }

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QUrl>
+#include <QVersionNumber>
+#include <functional>
+#include <optional>
+
+class QNetworkReply;
+class QSaveFile;
+
+/// The notice of a newer version: the first line is the version, the rest the text shown.
+struct UpdateNotice {
+    QVersionNumber version;
+    QString text;
+
+    /// @return nothing for what is no notice: an empty one, one without a version in its first line, or control
+    ///         characters in it
+    static std::optional<UpdateNotice> Read(const QByteArray& bytes);
+};
+
+/// Fetches the notice of a newer version, and its archive to a place that the user chooses. What is fetched is never
+/// run or unpacked. A server that stalls, leads elsewhere, sends rubbish or never ends costs nothing but the notice.
+class UpdateCheck final : public QObject {
+    Q_OBJECT
+
+  public:
+    /// @param base  where "/tandryvorel.txt" and "/software/tvupdate.zip" lie; when empty nothing is ever fetched
+    explicit UpdateCheck(QUrl base, QObject* parent = nullptr);
+
+    /// Looks for a notice; NewerFound comes only for a version newer than ours.
+    void Look();
+
+    /// Fetches the archive to a file. The file appears when it is complete, or not at all.
+    void FetchArchive(const QString& file);
+
+    static constexpr qint64 kNoticeLimit = qint64{64} * 1024;
+    static constexpr qint64 kArchiveLimit = qint64{256} * 1024 * 1024;
+    static constexpr int kStallMs = 15000;
+
+  signals:
+    void NewerFound(const QString& version, const QString& text);
+
+    /// @param why  empty when the archive lies in its place
+    void ArchiveDone(const QString& why);
+
+  private:
+    QUrl base_;
+    QNetworkAccessManager network_;
+
+    QNetworkReply* Get(const QString& path, qint64 limit);
+};

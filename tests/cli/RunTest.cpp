@@ -1,0 +1,139 @@
+#include <gmock/gmock.h>
+
+#include <QRegularExpression>
+
+#include "cli/Vorel.h"
+
+namespace {
+
+class RunTest : public testing::Test {
+  protected:
+    /// `vorel run` at the test's game server, once a new bot has logged in there.
+    std::unique_ptr<Vorel> Run(const QStringList& arguments) {
+        number = server.heard.size();
+        const QString port = QString::number(server.listener.serverPort());
+        auto vorel =
+            std::make_unique<Vorel>(files, QStringList{"run", "--server", "127.0.0.1", "--port", port} + arguments);
+        EXPECT_TRUE(server.Hears("desc ", number));
+        return vorel;
+    }
+    void ExpectNoPassword(const Vorel& vorel) const {
+        for (const QByteArray& text : {vorel.out, vorel.err, files.Read("log.txt"), files.Read("rec.txt")}) {
+            EXPECT_FALSE(text.contains(kPassword)) << text.toStdString();
+        }
+        EXPECT_TRUE(files.Read("rec.txt").contains("connect bot ********"));
+    }
+
+    BotFiles files;
+    GameServer server;
+    std::size_t number = 0;  ///< of the newest bot at the server
+};
+
+constexpr char kGone[] = "(0:2) when disconnected,\r\n (5:2) note {gone}.\r\n";
+
+TEST_F(RunTest, SignalsDisconnectInOrder) {
+    files.WriteBot("bot", kGone);
+    for (const int signal : {SIGTERM, SIGINT}) {
+        const auto vorel = Run({"bot.tvm"});
+        server.Say("(hello there\n", number);
+        ASSERT_TRUE(vorel->Shows("hello there\n"));
+        vorel->Signal(signal);
+        EXPECT_EQ(vorel->Ends(), 0);
+        EXPECT_EQ(vorel->out, "hello there\ngone\n");
+    }
+}
+
+TEST_F(RunTest, TheScriptMayConnectAgainAndTheLastAttemptCounts) {
+    files.WriteBot("bot", QByteArray(kGone) + " (5:0) reconnect.");
+    const auto vorel = Run({"bot.tvm", "--record", "/dev/full"});
+    server.Close();
+    ASSERT_TRUE(server.Hears("desc ", 1));
+    server.listener.close();
+    server.Close(1);
+    EXPECT_EQ(vorel->Ends(), 69);
+    EXPECT_EQ(vorel->out.count("gone\n"), 2);
+    EXPECT_EQ(vorel->err, "vorel run: the recording can't be written any more\n");
+}
+
+TEST_F(RunTest, KeepsSplitLinesOnlyWhenAsked) {
+    files.WriteBot("bot");
+    for (const bool keep : {false, true}) {
+        const auto vorel = Run(keep ? QStringList{"bot.tvm", "--keep-split-lines"} : QStringList{"bot.tvm"});
+        server.Say("(one \n(cut in", number);
+        ASSERT_TRUE(vorel->Shows("one \n")) << "by now the packet has been read";
+        server.Say(" two\n(end \n", number);
+        server.Close(number);
+        EXPECT_EQ(vorel->Ends(), 0);
+        EXPECT_EQ(vorel->out, keep ? "one \ncut in two\nend \n" : "one \nend \n");
+    }
+}
+
+TEST_F(RunTest, LogsWithTimesAndWithoutThePassword) {
+    files.WriteBot("bot");
+    for (const QByteArray line : {"caf\xE9 \x1B[2J", "second time"}) {
+        const auto vorel = Run({"bot.tvm", "--quiet", "--log", "log.txt", "--record", "rec.txt"});
+        vorel->write(QByteArray("`connect bot ") + kPassword + "\nconnect bot " + kPassword + "\n");
+        ASSERT_TRUE(server.Hears("\"connect bot", number));
+        server.Say("(" + line + "\n]f\n", number);
+        EXPECT_EQ(vorel->Ends(), 70);
+        EXPECT_EQ(vorel->out, "");
+        ExpectNoPassword(*vorel);
+    }
+    const QString log = QString::fromUtf8(files.Read("log.txt")), time = "\\d{4}(-\\d\\d){2} \\d\\d(:\\d\\d){2} ";
+    EXPECT_TRUE(QRegularExpression("^" + time + "café  \\[2J\n" + time + "second time\n$").match(log).hasMatch())
+        << log.toStdString();
+}
+
+TEST_F(RunTest, ClientModeRelaysAndKeepsThePasswordToo) {
+    files.Write("client.sh", R"(#!/bin/bash
+read -r host port < proxy.ini
+exec 3<> "/dev/tcp/127.0.0.1/${port%$'\r'}"
+printf 'connect bot s3cr3t-w0rd\ndesc of %s\n' "${1##*/}" >&3
+while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; done
+)");
+    files.WriteBot("bot", kGone, "ConnectClient=1\nFurcadiaClient=client.sh");
+    const auto vorel = Run({"bot.tvm", "--log", "log.txt", "--record", "rec.txt"});
+    EXPECT_TRUE(server.Hears("connect bot s3cr3t-w0rd\n") && server.Hears("desc of bot.ini [Tandry Vorel]\n"));
+    server.Say("(any news?\n");
+    EXPECT_TRUE(server.Hears("\"none\n"));
+    server.Close();
+    EXPECT_EQ(vorel->Ends(), 0);
+    EXPECT_EQ(vorel->out, "any news?\ngone\n");
+    ExpectNoPassword(*vorel);
+}
+
+TEST_F(RunTest, SeveralBotsShareTheTerminal) {
+    files.WriteBot("First");
+    files.WriteBot("Second|Cat");
+    const auto vorel = Run({"First.tvm", "Second|Cat.tvm"});
+    ASSERT_TRUE(server.Hears("desc ", 1));
+    const std::size_t second = server.heard[1].contains("connect Second|Cat ") ? 1 : 0, first = 1 - second;
+    vorel->write("@second|cat /Ann meow\n@nobody is here\n:waves\n`who\nlast");
+    vorel->closeWriteChannel();
+    EXPECT_TRUE(server.Hears("\nwh Ann meow\n", second));
+    EXPECT_TRUE(server.Hears("]\n\"@nobody is here\n:waves\nwho\n\"last\n", first));
+    server.Say("(for first\n", first);
+    EXPECT_TRUE(vorel->Shows("[First] for first\n"));
+    server.Close(first);
+    server.Say("(for second\n", second);
+    EXPECT_TRUE(vorel->Shows("[Second Cat] for second\n"));
+    server.Close(second);
+    EXPECT_EQ(vorel->Ends(), 0);
+}
+
+TEST_F(RunTest, WalksThePracticeDreamAndRehearsesTheRecording) {
+    const QString greeter = QStringLiteral(TVOREL_SOURCE_DIR "/examples/greeter/greeter.tvm");
+    files.Write("tour.txt",
+                "wait for Greeter\nAnn arrives\nAnn whispers to Greeter hello\nAnn whispers to Greeter roll\n"
+                "Ann whispers to Greeter remember tea\nafter 1 Ann leaves\n");
+    Vorel run(files, {"run", greeter, "--practice", "--tour", "tour.txt", "--record", "rec.txt"});
+    EXPECT_EQ(run.Ends(), 0) << run.err.toStdString();
+    EXPECT_TRUE(run.out.contains("Ann whispers, \"hello\"")) << run.out.toStdString();
+    EXPECT_TRUE(files.Read("memories.ini").contains("tea"));
+
+    Vorel rehearsal(files, {"try", greeter, "rec.txt"});
+    EXPECT_EQ(rehearsal.Ends(), 0) << rehearsal.out.toStdString();
+    EXPECT_TRUE(rehearsal.out.contains("sent wh Ann Hello, Ann!"));
+}
+
+}  // namespace
