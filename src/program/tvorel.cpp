@@ -45,7 +45,6 @@ void ProvideCommandList(const QString& folder) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("tvorel");
-    QApplication::setApplicationDisplayName(kProductName);
     QApplication::setApplicationVersion(kProductVersion);
     QApplication::setDesktopFileName("org.tandryvorel.tvorel");
     QApplication::setQuitOnLastWindowClosed(false);

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -16,11 +17,24 @@ ConsoleView::ConsoleView(QWidget* parent) : QListView(parent) {
     setTabKeyNavigation(false);
 
     // Whether the view is at its end is asked before lines come, and used after.
-    connect(&lines_, &QAbstractItemModel::rowsAboutToBeInserted, this,
-            [this] { following_ = verticalScrollBar()->value() >= verticalScrollBar()->maximum(); });
+    connect(&lines_, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { following_ = IsAtEnd(); });
     connect(&lines_, &QAbstractItemModel::rowsInserted, this, [this] {
         if (following_) scrollToBottom();
     });
+}
+
+bool ConsoleView::IsAtEnd() const { return verticalScrollBar()->value() >= verticalScrollBar()->maximum(); }
+
+void ConsoleView::resizeEvent(QResizeEvent* event) {
+    const bool atEnd = IsAtEnd();
+    QListView::resizeEvent(event);
+    if (atEnd) scrollToBottom();
+}
+
+void ConsoleView::keyPressEvent(QKeyEvent* event) {
+    // The list by itself would copy one line only.
+    if (event->matches(QKeySequence::Copy)) return CopySelection();
+    QListView::keyPressEvent(event);
 }
 
 bool ConsoleView::FindNext(const QString& text) {
@@ -45,5 +59,7 @@ void ConsoleView::CopySelection() const {
 }
 
 void ConsoleView::SetMonospaced(bool monospaced) {
+    const bool atEnd = IsAtEnd();
     setFont(monospaced ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : QFont());
+    if (atEnd) scrollToBottom();
 }

@@ -21,7 +21,13 @@ class ConsoleView final : public QListView {
 
     void SetMonospaced(bool monospaced);
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     ConsoleModel lines_;
     bool following_ = true;
+
+    bool IsAtEnd() const;
 };

@@ -1,6 +1,8 @@
 #include "ui/Dialogs.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -24,6 +26,16 @@ QString QtFilter(const QString& filter) { return filter.section('|', 0, 0).trimm
 std::optional<QString> Chosen(const QString& path) { return path.isEmpty() ? std::nullopt : std::optional(path); }
 
 }  // namespace
+
+std::optional<QString> AskSaveName(Dialogs& dialogs, QWidget* parent, const QString& title, const QString& filter,
+                                   const QString& folder, const QString& extension) {
+    const auto chosen = dialogs.AskSaveFile(parent, title, filter, folder);
+    if (!chosen || chosen->endsWith(extension, Qt::CaseInsensitive)) return chosen;
+    const QString path = *chosen + extension;
+    const QString question = QCoreApplication::translate("Dialogs", "%1 already exists. Replace it?").arg(path);
+    const bool free = !QFileInfo::exists(path) || dialogs.Ask(parent, question, title) == Dialogs::Answer::Yes;
+    return free ? std::optional(path) : std::nullopt;
+}
 
 void QtDialogs::ShowMessage(QWidget* parent, const QString& text, const QString& title, Icon icon) {
     QMessageBox box(BoxIcon(icon), title, text, QMessageBox::Ok, parent);

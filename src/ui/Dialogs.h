@@ -30,6 +30,12 @@ class Dialogs {
                                                const QString& folder) = 0;
 };
 
+/// Asks where to save. A name without the extension gets it; when only that leads to a file that exists, the user is
+/// asked whether it may be replaced, as for other files the window for choosing does.
+/// @return the path with its extension; nothing when cancelled
+std::optional<QString> AskSaveName(Dialogs& dialogs, QWidget* parent, const QString& title, const QString& filter,
+                                   const QString& folder, const QString& extension);
+
 /// The real ones.
 class QtDialogs final : public Dialogs {
   public:

@@ -40,7 +40,7 @@ FindBar::FindBar(QsciScintilla& text, QWidget* parent) : QWidget(parent), text_(
     txtFind_ = NewEdit("txtFind", layout, 0, tr("Fi&nd:"));
     txtReplace_ = NewEdit("txtReplace", layout, 1, tr("Re&place with:"));
     connect(NewButton("cmdFindNext", layout, 0, 2, tr("Ne&xt")), &QPushButton::clicked, this, [this] { Find(true); });
-    connect(NewButton("cmdFindPrevious", layout, 0, 3, tr("Pre&vious")), &QPushButton::clicked, this,
+    connect(NewButton("cmdFindPrevious", layout, 0, 3, tr("Previ&ous")), &QPushButton::clicked, this,
             [this] { Find(false); });
     connect(NewButton("cmdReplace", layout, 1, 2, tr("&Replace")), &QPushButton::clicked, this, [this] { Replace(); });
     connect(NewButton("cmdReplaceAll", layout, 1, 3, tr("Replace &all")), &QPushButton::clicked, this,

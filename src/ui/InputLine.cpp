@@ -13,6 +13,11 @@ QString InputLine::Take() {
     return text;
 }
 
+void InputLine::Append(const QString& text) {
+    end(false);
+    insert(text);
+}
+
 void InputLine::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Up) {
         ShowHistory(at_ - 1);
@@ -27,5 +32,7 @@ void InputLine::ShowHistory(qsizetype at) {
     if (at < 0 || at > history_.size()) return;
     if (at_ == history_.size()) typed_ = text();
     at_ = at;
-    setText(at == history_.size() ? typed_ : history_[at]);
+    // Typed over what stands there, so that it can be undone.
+    selectAll();
+    insert(at == history_.size() ? typed_ : history_[at]);
 }

@@ -13,6 +13,9 @@ class InputLine final : public QLineEdit {
     /// Takes the text away, and remembers it.
     QString Take();
 
+    /// Puts a text behind what stands there.
+    void Append(const QString& text);
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -29,7 +29,7 @@ class Recovery {
   private:
     struct Slot {
         std::string file;
-        std::string written;
+        std::optional<std::string> written{};  ///< nothing: what an earlier run has left is still there
     };
     Files& disk_;
     Slot script_, profile_;

@@ -48,9 +48,10 @@ void VariableList::Refresh() {
 void VariableList::TakeOver(QTreeWidgetItem* item, int column) {
     if (refreshing_) return;
     const std::string before = Typed(item->data(0, kNameRole).toString());
-    const std::string name = Typed(item->text(0));
+    const std::string typed = Typed(item->text(0));
+    const std::string name = typed.empty() ? before : BracketedName(typed);
     if (column == 0 && name != before) variables_.Remove(before);
-    if (!name.empty()) variables_.Set(name, Typed(item->text(1)));
+    variables_.Set(name, Typed(item->text(1)));
     shown_ = 0;
 }
 

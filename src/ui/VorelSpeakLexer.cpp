@@ -52,7 +52,8 @@ VorelSpeakLexer::Style VorelSpeakLexer::StyleOfLine(const QByteArray& line) {
 void VorelSpeakLexer::styleText(int start, int end) {
     if (!editor()) return;
     startStyling(start);
-    const QByteArray bytes = editor()->bytes(start, end);
+    // The last of the bytes is a zero that is not in the text.
+    const QByteArray bytes = editor()->bytes(start, end).first(end - start);
     for (qsizetype from = 0; from < bytes.size();) {
         const qsizetype feed = bytes.indexOf('\n', from);
         const qsizetype next = feed < 0 ? bytes.size() : feed + 1;

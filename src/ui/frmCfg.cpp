@@ -176,9 +176,8 @@ void frmCfg::BuildOptions() {
 void frmCfg::BuildIgnores() {
     QGridLayout* const page = AddPage("Ignore List");
     lstIgnores_ = Named(new QListWidget, "lstIgnores", tr("Ignored furres"), tr("Whom the bot does not hear"));
-    auto* const add = Named(new QPushButton(tr("Add fu&rre...")), "cmdAI", tr("Ignore a furre"), tr("Asks for a name"));
+    auto* const add = Named(new QPushButton(tr("Ad&d...")), "cmdAI", tr("Ignore a furre"), tr("Asks for a name"));
     auto* const remove = Named(new QPushButton("&Remove"), "cmdRI", tr("Remove"), tr("Hears the chosen furre again"));
-    add->setText(tr("Ad&d..."));
     page->addWidget(lstIgnores_, 0, 0, 1, 3);
     page->addWidget(add, 1, 0);
     page->addWidget(remove, 1, 1);
@@ -208,7 +207,9 @@ void frmCfg::ShowPage(int page) {
 void frmCfg::cmdAdd_Map_Click() {
     const auto typed = dialogs_.AskText(this, "Enter the name of the new active map", "New Active Map");
     if (!typed || typed->isEmpty()) return;
-    if (const auto refusal = edit_.AddMap(Typed(*typed))) dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
+    if (const auto refusal = edit_.AddMap(Typed(*typed))) {
+        return dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
+    }
     ShowList(cmbMaps_, edit_.Maps().entries);
 }
 
@@ -221,7 +222,9 @@ void frmCfg::cmdDel_Map_Click() {
 void frmCfg::cmdAdd_Owner_Click() {
     const auto typed = dialogs_.AskText(this, "Enter the name of the new bot owner", "New Bot Owner");
     if (!typed || typed->isEmpty()) return;
-    if (const auto refusal = edit_.AddOwner(Typed(*typed))) dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
+    if (const auto refusal = edit_.AddOwner(Typed(*typed))) {
+        return dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
+    }
     ShowList(cmbOwner_, edit_.Owners().entries);
 }
 

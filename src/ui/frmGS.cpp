@@ -15,6 +15,7 @@
 #include "engine/Script.h"
 #include "platform/QtHost.h"
 #include "profile/ProfileFile.h"
+#include "profile/ProfilePaths.h"
 #include "text/Fault.h"
 #include "ui/CommandList.h"
 #include "ui/Dialogs.h"
@@ -26,6 +27,8 @@ namespace {
 
 constexpr char kTitle[] = "VorelSpeak Script Editor";
 constexpr char kFilter[] = "VorelSpeak Script (*.vs) | *.vs";
+constexpr char kSaveTitle[] = "Save Script";
+constexpr char kSaveQuestion[] = "Do you want to save any changes to your script?";
 constexpr char kRootCaptions[][24] = {"Causes", "Additional Conditions", "Effects"};
 
 }  // namespace
@@ -86,7 +89,12 @@ QWidget* frmGS::BuildCommands() {
     txtFilter_->setClearButtonEnabled(true);
     txtFilter_->setAccessibleName(tr("Filter of the commands"));
     txtFilter_->setAccessibleDescription(tr("Shows only the commands that hold all of these words"));
-    layout->addWidget(txtFilter_);
+    auto* const label = new QLabel(tr("Fi&lter:"));
+    label->setBuddy(txtFilter_);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(txtFilter_, 1);
+    layout->addLayout(row);
 
     tvwCmds_ = new QTreeWidget;
     tvwCmds_->setObjectName("tvwCmds");
@@ -119,7 +127,9 @@ void frmGS::BuildMenus() {
         action->setShortcut(keys);
     };
     QMenu* const file = menuBar()->addMenu(tr("&File"));
-    add(file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewScript(); });
+    add(file, "mnuNew", tr("&New"), QKeySequence::New, [this] {
+        if (MayDropChanges()) NewScript();
+    });
     add(file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
     add(file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { Save(); });
     add(file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveAs(); });
@@ -203,35 +213,56 @@ void frmGS::NewScript() {
 
 void frmGS::RestoreText(const std::string& path, const std::string& text) {
     path_ = path;
-    txtScript_->setText(Shown(text));
-    txtScript_->setModified(true);
+    // Replaced by hand, as it were: only that counts as a change, and it can be undone.
+    txtScript_->selectAll();
+    txtScript_->replaceSelectedText(Shown(text));
     ShowTitle();
 }
 
+bool frmGS::MayDropChanges() {
+    if (!IsDirty()) return true;
+    const auto answer = dialogs_.Ask(this, kSaveQuestion, kSaveTitle, true);
+    return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && Save());
+}
+
 void frmGS::Open() {
+    if (!MayDropChanges()) return;
     const auto chosen =
         dialogs_.AskOpenFile(this, "Select a VorelSpeak Script to Open", kFilter, ShownPath(FolderOf(path_)));
-    if (chosen) OpenScript(TypedPath(*chosen));
+    if (chosen) ReadFrom(TypedPath(*chosen));
 }
 
 void frmGS::OpenScript(const std::string& path) {
+    if (MayDropChanges()) ReadFrom(path);
+}
+
+void frmGS::ReadFrom(const std::string& path) {
     const std::optional<std::string> found = host_.Disk().Find(path);
     if (!found) return;
     host_.RunHandler([&] {
         const std::string text = ScriptTextFromFile(host_.Disk().Read(*found));
-        path_ = *found;
+        path_ = host_.Disk().Absolute(*found);
         SetText(text);
-        host_.bot().profile.scriptPath = FromUtf8(path_);
-        emit ScriptFileChanged();
+        NameInProfile();
         host_.bot().script = std::make_shared<Script>(text, path_);
         RunScript(host_.bot(), EventScriptLoaded);
     });
 }
 
+/// A profile that names this file already, perhaps from its own folder, keeps it as it stands.
+void frmGS::NameInProfile() {
+    Bot& bot = host_.bot();
+    const auto named = FindProfileFile(bot, bot.profile.scriptPath);
+    if (named && host_.Disk().Absolute(*named) == host_.Disk().Absolute(path_)) return;
+    bot.profile.scriptPath = FromUtf8(path_);
+    emit ScriptFileChanged();
+}
+
 bool frmGS::Save() { return path_.empty() ? SaveAs() : WriteTo(path_); }
 
 bool frmGS::SaveAs() {
-    const auto chosen = dialogs_.AskSaveFile(this, "Save VorelSpeak Script As...", kFilter, ShownPath(FolderOf(path_)));
+    const auto chosen = AskSaveName(dialogs_, this, "Save VorelSpeak Script As...", kFilter, ShownPath(FolderOf(path_)),
+                                    kScriptExtension);
     return chosen && WriteTo(TypedPath(*chosen));
 }
 
@@ -245,14 +276,13 @@ bool frmGS::WriteTo(const std::string& path) {
         dialogs_.ShowMessage(this,
                              tr("%1 can't be written: %2.\nThe script was not saved; choose another place for it.")
                                  .arg(ShownPath(file), QString::fromStdString(std::string(fault.Name()))),
-                             tr("Save Script"), Dialogs::Icon::Critical);
+                             kSaveTitle, Dialogs::Icon::Critical);
         return false;
     }
     path_ = file;
     txtScript_->setModified(false);
     ShowTitle();
-    host_.bot().profile.scriptPath = FromUtf8(path_);
-    emit ScriptFileChanged();
+    NameInProfile();
     host_.RunHandler([&] {
         host_.bot().script = std::make_shared<Script>(text, path_);
         RunScript(host_.bot(), EventScriptLoaded);
@@ -263,8 +293,7 @@ bool frmGS::WriteTo(const std::string& path) {
 void frmGS::closeEvent(QCloseEvent* event) {
     if (unloading_) return event->accept();
     event->ignore();
-    const bool save = IsDirty() && dialogs_.Ask(this, "Do you want to save any changes to your script?",
-                                                "Save Script") == Dialogs::Answer::Yes;
+    const bool save = IsDirty() && dialogs_.Ask(this, kSaveQuestion, kSaveTitle) == Dialogs::Answer::Yes;
     if (!save || Save()) hide();
 }
 

@@ -26,9 +26,13 @@ class frmGS final : public QMainWindow {
     /// An empty script with the template.
     void NewScript();
 
-    /// Opens a script file and runs EventScriptLoaded.
+    /// Opens a script file and runs EventScriptLoaded; asks about unsaved changes first.
     /// @param path  UTF-8
     void OpenScript(const std::string& path);
+
+    /// Asks about unsaved changes before something else takes their place.
+    /// @return false when the user would rather stay
+    bool MayDropChanges();
 
     /// Opens a script with text put aside earlier, as an unsaved change of a file (empty: of none).
     void RestoreText(const std::string& path, const std::string& text);
@@ -54,7 +58,7 @@ class frmGS final : public QMainWindow {
     void GoToLine(int line);
 
   signals:
-    /// A script was saved or opened: the profile now names another file.
+    /// Another script than the profile named was saved or opened; it names that one now.
     void ScriptFileChanged();
 
   protected:
@@ -85,5 +89,7 @@ class frmGS final : public QMainWindow {
     void InsertCommand(const QTreeWidgetItem* item);
     void AskForLine();
     void Open();
+    void ReadFrom(const std::string& path);
+    void NameInProfile();
     bool WriteTo(const std::string& path);
 };

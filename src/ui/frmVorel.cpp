@@ -15,6 +15,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "Version.h"
 #include "engine/Dispatcher.h"
@@ -46,6 +47,11 @@ QList<ServerChoice> Servers() {
     return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
 }
 
+bool IsDocument(const QUrl& url) {
+    const std::string name = LowerCase(TypedPath(url.fileName()));
+    return url.isLocalFile() && (name.ends_with(kProfileExtension) || name.ends_with(kScriptExtension));
+}
+
 }  // namespace
 
 frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
@@ -74,14 +80,12 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     tray_ = new TrayIcon(this);
     connect(tray_, &TrayIcon::RestoreChosen, this, &frmVorel::RestoreFromTray);
     connect(tray_, &TrayIcon::MinimizeChosen, this, &frmVorel::MinimizeToTray);
-    connect(tray_, &TrayIcon::ExitChosen, this, [this] {
-        RestoreFromTray();
-        close();
-    });
+    connect(tray_, &TrayIcon::ExitChosen, this, &QWidget::close);
     if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();
 
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
     connect(&reconnector_, &Reconnector::TryNow, this, [this] { host_.RunHandler([this] { host_.Connect(); }); });
+    keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
         Announce(why.isEmpty() ? tr("The new version has been saved.")
@@ -89,7 +93,6 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     });
     connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWork);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
-    editor_->LoadCommands(TypedPath(QDir(folder).filePath(kCommandList)));
     ::NewProfile(bot());
     bot().profile.serverAddress =
         TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
@@ -126,7 +129,7 @@ QWidget* frmVorel::BuildConsole() {
     });
 
     auto* const row = new QHBoxLayout;
-    auto* const label = new QLabel(tr("&Say:"));
+    auto* const label = new QLabel(tr("Sa&y:"));
     txtSend_ = new InputLine;
     txtSend_->setObjectName("txtSend");
     txtSend_->setAccessibleName(tr("Input line"));
@@ -145,7 +148,7 @@ QWidget* frmVorel::BuildConsole() {
     auto* const emoticons = new EmoticonRow;
     layout->addWidget(emoticons);
     connect(emoticons, &EmoticonRow::EmoticonChosen, this, [this](const QString& tag) {
-        txtSend_->setText(txtSend_->text() + tag);
+        txtSend_->Append(tag);
         txtSend_->setFocus();
     });
     return fmeBot;
@@ -259,7 +262,8 @@ void frmVorel::BuildMenus() {
     AddAction(script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
 
     QMenu* const console = menuBar()->addMenu(tr("&Console"));
-    AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(); });
+    AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(true); });
+    AddAction(console, "mnuFindNext", tr("Find ne&xt"), QKeySequence::FindNext, [this] { FindInConsole(false); });
     AddAction(console, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
               [this] { lstView_->CopySelection(); });
     AddAction(console, "mnuSaveConsole", tr("&Save to a file..."), {}, [this] { SaveConsole(); });
@@ -279,7 +283,7 @@ void frmVorel::BuildMenus() {
               [this](bool on) { options_.Set("desktop/notifyWhispers", on); });
 
     QMenu* const configuration = menuBar()->addMenu(tr("C&onfiguration"));
-    AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::Key_F2),
+    AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
               [this] { ShowConfiguration(); });
 
     QMenu* const help = menuBar()->addMenu(tr("&Help"));
@@ -334,7 +338,7 @@ void frmVorel::ShowStatus() {
     findChild<QAction*>("mnuDisconnect")->setEnabled(status.canDisconnect);
     findChild<QAction*>("mnuSAM")->setEnabled(status.canStandAlone);
     panelName_->setText(Shown(status.botName));
-    panelConnection_->setText(Shown(status.connection));
+    panelConnection_->setText(status.connection.empty() ? "Disconnected" : Shown(status.connection));
     if (!status.canConnect) panelReason_->setText(status.connection == "Connected" ? QString() : tr("Connecting..."));
 }
 
@@ -368,13 +372,14 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
         text += "\n\n" + (place.file.empty() ? tr("Line %1 of the script").arg(place.line)
                                              : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
     }
-    KeepUnsavedWork();
-    const auto copy = recovery_.FoundScript();
-    if (copy || recovery_.FoundProfile()) {
+    // Before the first time, what an earlier run has left is still to be offered.
+    if (keepUnsaved_.isActive()) KeepUnsavedWork();
+    if (recovery_.FoundScript() || recovery_.FoundProfile()) {
         text += "\n\n" + tr("Unsaved work was put aside in %1, and will be offered at the next start.").arg(folder_);
     }
     dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
-    QCoreApplication::exit(kFaultExit);
+    // Later, since the fault may have come before the event loop that this is to end.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(kFaultExit); });
 }
 
 void frmVorel::NotifyWhisper(std::string_view line) {
@@ -387,21 +392,29 @@ void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
 // --- profiles ----------------------------------------------------------------------------------------------------
 
 void frmVorel::Start() {
+    host_.RunHandler([this] { BeginWork(); });
+}
+
+void frmVorel::BeginWork() {
+    editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
     const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
     if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
     if (!settings.recent.empty()) OpenProfileFile(settings.recent);
+    if (faulted_) return;
     const QString log = options_.LogFile();
     if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
     OfferUnsavedWork();
     keepUnsaved_.start(kKeepUnsavedMs);
     updates_.Look();
-    if (options_.ConnectAtStart() && !faulted_) host_.RunHandler([this] { host_.Connect(); });
+    if (options_.ConnectAtStart()) host_.Connect();
 }
 
 void frmVorel::OpenDocument(const std::string& path) {
     if (LowerCase(path).ends_with(kScriptExtension)) {
         editor_->OpenScript(path);
         editor_->show();
+    } else if (!LowerCase(path).ends_with(kProfileExtension)) {
+        Announce(tr("%1 is neither a profile (.tvm) nor a script (.vs).").arg(ShownPath(path)));
     } else if (MayDropChanges()) {
         OpenProfileFile(path);
     }
@@ -424,6 +437,7 @@ void frmVorel::OpenProfileByMenu() {
     if (!chosen) return;
     host_.RunHandler([&] {
         const ProfileLoad load = OpenProfile(bot(), TypedPath(*chosen));
+        if (load.found) bot().profile.dirty = false;
         ShowLoaded(load, TypedPath(*chosen));
     });
 }
@@ -441,7 +455,7 @@ void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
 void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
     for (const QString& path : options_.RecentProfiles()) {
-        mnuRecent_->addAction(path, this, [this, path] {
+        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] {
             if (MayDropChanges()) OpenProfileFile(TypedPath(path));
         });
     }
@@ -459,8 +473,8 @@ void frmVorel::NewProfile() {
 bool frmVorel::SaveProfile() { return bot().profile.path.empty() ? SaveProfileAs() : WriteProfile(bot().profile.path); }
 
 bool frmVorel::SaveProfileAs() {
-    const auto chosen =
-        dialogs_.AskSaveFile(this, "Save Tandry Vorel As...", kProfileFilter, ShownPath(FolderOf(bot().profile.path)));
+    const auto chosen = AskSaveName(dialogs_, this, "Save Tandry Vorel As...", kProfileFilter,
+                                    ShownPath(FolderOf(bot().profile.path)), kProfileExtension);
     return chosen && WriteProfile(TypedPath(*chosen));
 }
 
@@ -483,16 +497,12 @@ bool frmVorel::WriteProfile(const std::string& path) {
 /// Asks about unsaved changes before something else takes their place.
 /// @return false when the user would rather stay
 bool frmVorel::MayDropChanges() {
-    if (bot().profile.dirty) {
-        const auto answer =
-            dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", true);
-        if (answer == Dialogs::Answer::Cancel || (answer == Dialogs::Answer::Yes && !SaveProfile())) return false;
-    }
-    if (editor_->IsDirty()) {
-        const auto answer = dialogs_.Ask(this, "Do you want to save any changes to your script?", "Save Script", true);
-        if (answer == Dialogs::Answer::Cancel || (answer == Dialogs::Answer::Yes && !editor_->Save())) return false;
-    }
-    return true;
+    // The script first: saved under a new name, it changes the profile.
+    if (!editor_->MayDropChanges()) return false;
+    if (!bot().profile.dirty) return true;
+    const auto answer =
+        dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", true);
+    return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && SaveProfile());
 }
 
 // --- leaving -----------------------------------------------------------------------------------------------------
@@ -513,6 +523,8 @@ void frmVorel::SaveAllSettings() {
 
 void frmVorel::closeEvent(QCloseEvent* event) {
     SaveAllSettings();
+    // From the tray: questions are asked in a window that can be seen.
+    if (!faulted_ && !isVisible() && (bot().profile.dirty || editor_->IsDirty())) RestoreFromTray();
     if (!faulted_ && !MayDropChanges()) return event->ignore();
     keepUnsaved_.stop();
     if (!faulted_) {
@@ -559,6 +571,7 @@ void frmVorel::OfferUnsavedWork() {
         editor_->RestoreText(script->path, script->bytes);
         editor_->show();
     }
+    KeepUnsavedWork();  // what was not wanted goes
 }
 
 void frmVorel::changeEvent(QEvent* event) {
@@ -583,12 +596,13 @@ void frmVorel::RestoreFromTray() {
 }
 
 void frmVorel::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::any_of(urls.begin(), urls.end(), IsDocument)) event->acceptProposedAction();
 }
 
 void frmVorel::dropEvent(QDropEvent* event) {
     for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) OpenDocument(TypedPath(url.toLocalFile()));
+        if (IsDocument(url)) OpenDocument(TypedPath(url.toLocalFile()));
     }
 }
 
@@ -605,9 +619,11 @@ void frmVorel::cmdC_Click(const QString& caption) {
     const bool playerEditor = caption == kPlayerEditorTool;
     const auto program = host_.Disk().Find(JoinPath(folder, playerEditor ? "FurEd.exe" : "config.exe"));
     if (!program) return;
+    // A bare name would be looked for along the search path.
+    const QString absolute = ShownPath(host_.Disk().Absolute(*program));
     const QStringList arguments = playerEditor ? QStringList{Shown(bot().profile.characterPath)} : QStringList();
-    if (!QProcess::startDetached(ShownPath(*program), arguments, ShownPath(folder))) {
-        Announce(tr("%1 could not be started.").arg(ShownPath(*program)));
+    if (!QProcess::startDetached(absolute, arguments, ShownPath(folder))) {
+        Announce(tr("%1 could not be started.").arg(absolute));
     }
 }
 
@@ -631,9 +647,13 @@ void frmVorel::RunScriptOnce() {
     host_.RunHandler([this] { RunScript(bot(), EventScriptLoaded); });
 }
 
-void frmVorel::FindInConsole() {
-    const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
-    if (text && !lstView_->FindNext(*text)) panelReason_->setText(tr("\"%1\" was not found.").arg(*text));
+void frmVorel::FindInConsole(bool ask) {
+    if (ask || sought_.isEmpty()) {
+        const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
+        if (!text) return;
+        sought_ = *text;
+    }
+    if (!lstView_->FindNext(sought_)) panelReason_->setText(tr("\"%1\" was not found.").arg(sought_));
 }
 
 void frmVorel::SaveConsole() {

@@ -67,10 +67,11 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     std::unique_ptr<PracticeServer> practice_;
     QtHost host_;
     Recovery recovery_;
-    QTimer keepUnsaved_;
+    QTimer keepUnsaved_{this};
     Reconnector reconnector_;
     UpdateCheck updates_;
     bool faulted_ = false;
+    QString sought_;  ///< in the console
 
     ConsoleView* lstView_;
     QLineEdit* txtView_;
@@ -105,13 +106,14 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     bool WriteProfile(const std::string& path);
     bool MayDropChanges();
     void SaveAllSettings();
+    void BeginWork();
 
     void txtSend_Enter();
     void cmdC_Click(const QString& caption);
     void cmdHelp_Click();
     void ShowConfiguration();
     void RunScriptOnce();
-    void FindInConsole();
+    void FindInConsole(bool ask);
     void SaveConsole();
     void ChooseLog(bool on);
     void ChooseScrollBack();
