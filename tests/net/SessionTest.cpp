@@ -145,9 +145,8 @@ TEST(Session, ClientModeWaitsForTheClientAndGoesToTheGamesOwnServer) {
     bot.session.Connect();
     EXPECT_EQ(bot.link.ports.size(), 3u);  // a port that is taken is drawn again
     const std::string port = std::to_string(bot.link.ports.back());
-    EXPECT_EQ(bot.TakeTold(),
-              (Told{"link enter /home/game", "link write /home/game/proxy.ini=localhost " + port + "\r\n",
-                    "link start /home/game/client.exe /home/bots/bot.ini"}));
+    EXPECT_EQ(bot.TakeTold(), (Told{"link enter /games", "link write /games/proxy.ini=localhost " + port + "\r\n",
+                                    "link start /games/client.exe /bots/bot.ini"}));
     EXPECT_EQ(bot.Menus(), "-DS");
     bot.session.OnClientRequest();
     bot.session.OnClientConnected();
