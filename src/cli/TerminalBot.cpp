@@ -47,9 +47,7 @@ void TerminalBot::Connect() {
     host_.RunHandler([this] { host_.Connect(); });
 }
 
-void TerminalBot::Disconnect() {
-    host_.RunHandler([this] { host_.Disconnect(); });
-}
+void TerminalBot::Leave() { host_.Leave(); }
 
 void TerminalBot::TypeLine(const std::string& line) {
     host_.RunHandler([&] { host_.session().TypeLine(line); });

@@ -37,7 +37,10 @@ class TerminalBot final : public FrontEnd {
     std::string Label() const;
 
     void Connect();
-    void Disconnect();
+
+    /// Disconnects for good: the script hears of the end, but can't connect again.
+    void Leave();
+
     void TypeLine(const std::string& line);
 
     bool IsIdle() const { return host_.bot().status.canConnect; }

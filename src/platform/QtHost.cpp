@@ -32,8 +32,12 @@ std::string ToBotText(QString text) {
 }
 
 QString LongTimeFormat(const QLocale& locale) {
-    // Without the time zone: the marker of the half day comes last, as scripts expect.
-    return locale.timeFormat(QLocale::LongFormat).remove(u't').trimmed();
+    // The locale's long format ends with the time zone, in many forms; its short one with seconds has none, so that the
+    // marker of the half day comes last, as scripts expect.
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    const qsizetype minutes = format.indexOf("mm");
+    if (minutes > 0 && !format.contains('s')) format.insert(minutes + 2, format.mid(minutes - 1, 1) + "ss");
+    return format;
 }
 
 /// Why a program that is there could not be started.
@@ -90,6 +94,11 @@ void QtHost::RunHandler(const std::function<void()>& handler) {
         ended_ = true;
         frontEnd_.EndWithFault(fault);
     }
+}
+
+void QtHost::Leave() {
+    leaving_ = true;
+    RunHandler([this] { session_.Disconnect(); });
 }
 
 bool QtHost::IsConnected(const QTcpSocket* socket) const {

@@ -39,12 +39,17 @@ class QtHost final : public QObject, public Host, public Link {
     /// caught; after it nothing runs any more.
     void RunHandler(const std::function<void()>& handler);
 
+    /// Disconnects for good: the script hears of the end, but can't connect again.
+    void Leave();
+
     // Host
     bool IsServerConnected() const override { return IsConnected(sckServer_); }
     bool IsClientConnected() const override { return IsConnected(sckClient_); }
     void WriteToServer(std::string_view bytes) override;
     void WriteToClient(std::string_view bytes) override;
-    void Connect() override { session_.Connect(); }
+    void Connect() override {
+        if (!leaving_) session_.Connect();
+    }
     void Disconnect() override { session_.Disconnect(); }
     void ShowConsoleLine(std::string_view line) override { frontEnd_.ShowConsoleLine(line); }
     void ClearConsole() override { frontEnd_.ClearConsole(); }
@@ -77,7 +82,7 @@ class QtHost final : public QObject, public Host, public Link {
     FrontEnd& frontEnd_;
     std::string programFolder_, currentFolder_;
     DiskFiles disk_;
-    bool ended_ = false;
+    bool ended_ = false, leaving_ = false;
     AddressResolver resolver_;
     SessionObserver* observer_ = nullptr;
 

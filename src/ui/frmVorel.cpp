@@ -553,7 +553,7 @@ void frmVorel::closeEvent(QCloseEvent* event) {
     if (!faulted_) {
         recovery_.KeepScript(std::nullopt);
         recovery_.KeepProfile(std::nullopt);
-        host_.RunHandler([this] { host_.Disconnect(); });
+        host_.Leave();
     }
     reconnector_.Stop();
     editor_->Unload();
