@@ -887,12 +887,12 @@ Einstellungen und Datendateien liegen in %1.</translation>
         <translation>S&amp;prache</translation>
     </message>
     <message>
-        <source>The desktop&apos;s</source>
-        <translation>Die des Desktops</translation>
-    </message>
-    <message>
         <source>The language changes with the next start.</source>
         <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>&amp;The desktop&apos;s</source>
+        <translation>D&amp;ie des Desktops</translation>
     </message>
 </context>
 </TS>
