@@ -90,6 +90,7 @@ const LineCase kLines[] = {
     {"CookieFromYour",           {"([%] Your cookie"}, ""},
     {"DiceRoll",                 {"([*] Ann rolls 2d6 and it falls: ((4) (3)) = 7."}, "45 Ann 2d6 7: 4 3"},
     {"OneDieKeepsOne",           {"([*] Ann rolls 1d6 and it falls: ((4) (3)) = 4."}, "45 Ann 1d6 4: 4 [die2]"},
+    {"YourNoticeMayRoll",        {"([*] Your friend rolls 1d6 & gets 4."}, "32 4.; 44 4. 1d6 4: 4 [die2]"},
     {"NoDiceWord",               {"([*] Ann rolls over & gets 7."}, ""},
     {"OwnMove",                  {"/0123456789 * \" # ( $"}, "15 0123456789 (16,4)-(20,2) 3 own (16,4)-(20,2)"},
     {"AppearingIsNoMove",        {"<0123456789 * & #"}, "15 0123456789 (0,0)-(20,6) 3 own (0,0)-(20,6)"},

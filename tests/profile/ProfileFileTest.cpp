@@ -13,7 +13,7 @@ using Told = std::vector<std::string>;
 constexpr char kProfile[] =
     "Port=1\r\n[General]\r\nFURCADIACLIENT=game/client.exe\r\nFurcadiaCharacter=bot.ini\r\nOwners=Ann, Bob\r\n"
     "Maps=Vale\r\nConnectClient=1x\r\nCloseClient=none\r\nPort=80\r\nport =7\r\nScript=Greet.VS\r\nnothing\r\n"
-    "[Other]\r\nOwners=Zed\r\n[IGNORES]\r\nMean One\r\nOwners=Eve\r\n";
+    "[Other]\r\nOwners=Zed\r\n[IGNORES]\r\nMean One\r\n\r\nOwners=Eve\r\n";
 
 /// A bot beside whose profile "bots/bot.tvm" lies a script that tells whose it is.
 class ProfileBot : public RehearsalBot {
@@ -39,7 +39,7 @@ TEST(LoadProfile, ReadsTheSectionsItKnows) {
     EXPECT_EQ(profile.closeClient, 0);
     EXPECT_EQ(profile.port, 80);
     EXPECT_EQ(profile.scriptPath, "Greet.VS");
-    EXPECT_EQ(profile.ignores, (std::vector<std::string>{"Mean One", "Owners=Eve"}));
+    EXPECT_EQ(profile.ignores, (std::vector<std::string>{"Mean One", "", "Owners=Eve"}));
     EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"});
     EXPECT_EQ(bot.bot.place.file, "");
 }
@@ -84,7 +84,7 @@ TEST(Profile, MissingFilesLoadNothing) {
     EXPECT_EQ(bot.bot.profile.owners, "Ann");
     bot.files.contents.erase("bots/greet.vs");
     EXPECT_EQ(LoadProfile(bot.bot, "bots/bot.tvm").missingScript, "Greet.VS");
-    EXPECT_EQ(bot.bot.profile.ignores.size(), 2u);
+    EXPECT_EQ(bot.bot.profile.ignores.size(), 3u);
     EXPECT_EQ(bot.told, Told{});
 }
 
