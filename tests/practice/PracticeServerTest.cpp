@@ -1,21 +1,15 @@
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
-#include <QTcpSocket>
-#include <QTest>
 
-#include "practice/Application.h"
 #include "practice/PracticeServer.h"
 #include "practice/TypedLine.h"
+#include "support/GameServer.h"
 
 namespace {
 
-constexpr int kPatienceMs = 5000;
-
 class PracticeServerTest : public testing::Test {
   protected:
-    PracticeServerTest() { EnsureApplication(); }
-
     void Open(const char* tour = "", int secondMs = 0) {
         PracticeSettings settings;
         settings.tour = ReadTour(tour, "tour").tour;
@@ -41,10 +35,10 @@ class Player {
         heard.clear();
     }
     bool Hears(const QByteArray& text) {
-        return QTest::qWaitFor([&] { return heard.contains(text); }, kPatienceMs);
+        return Eventually([&] { return heard.contains(text); });
     }
     bool IsLetGo() {
-        return QTest::qWaitFor([&] { return socket.state() == QTcpSocket::UnconnectedState; }, kPatienceMs);
+        return Eventually([&] { return socket.state() == QTcpSocket::UnconnectedState; });
     }
     QTcpSocket socket;
     QByteArray heard;
@@ -67,7 +61,7 @@ TEST_F(PracticeServerTest, CarriesTalkBetweenClientsAndThePerson) {
     EXPECT_EQ(heard[heard.count() - 2][0].toString(), "Ann: b");
     EXPECT_EQ(heard[heard.count() - 1][0].toString(), "[ You whisper \"over here\" to Ann. ]");
     bob.socket.write(":na\xEFve\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return heard.last()[0].toString() == QStringLiteral("Bob Fur naïve"); }));
+    EXPECT_TRUE(Eventually([&] { return heard.last()[0].toString() == QStringLiteral("Bob Fur naïve"); }));
 }
 
 TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
@@ -109,7 +103,7 @@ TEST_F(PracticeServerTest, PlaysItsTourByTheClock) {
     Player ann(port);
     ann.LogIn("Ann");
     EXPECT_TRUE(ann.Hears("(Bob: hi\n"));
-    EXPECT_TRUE(ended.count() == 1 || ended.wait(kPatienceMs));
+    EXPECT_TRUE(Eventually([&] { return ended.count() == 1; }));
     PracticeServer second;
     const auto listening = second.Listen(port);
     EXPECT_EQ(listening.port, 0) << "the port is taken";
@@ -117,11 +111,15 @@ TEST_F(PracticeServerTest, PlaysItsTourByTheClock) {
 }
 
 TEST(TypedLine, BecomesACommand) {
-    const struct {
-        const char *typed, *command;
-    } cases[] = {{"", ""},        {"hi", "\"hi"},     {"-hey", "-hey"}, {":x", ":x"},
-                 {"`who", "who"}, {"/A b", "wh A b"}, {"`", ""}};
-    for (const auto& c : cases) EXPECT_EQ(CommandOfTypedLine(c.typed), c.command);
+    for (const auto& [typed, command] : {std::pair{"", ""},
+                                         {"hi", "\"hi"},
+                                         {"-hey", "-hey"},
+                                         {":x", ":x"},
+                                         {"`who", "who"},
+                                         {"/A b", "wh A b"},
+                                         {"`", ""}}) {
+        EXPECT_EQ(CommandOfTypedLine(typed), command);
+    }
 }
 
 }  // namespace
