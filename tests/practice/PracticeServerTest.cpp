@@ -10,10 +10,10 @@ namespace {
 
 class PracticeServerTest : public testing::Test {
   protected:
-    void Open(const char* tour = "", int secondMs = 0) {
+    void Open(const char* tour = "") {
         PracticeSettings settings;
         settings.tour = ReadTour(tour, "tour").tour;
-        settings.secondMs = secondMs;
+        settings.secondMs = 0;
         server = std::make_unique<PracticeServer>(std::move(settings));
         port = server->Listen(0).port;
         ASSERT_NE(port, 0);
@@ -43,26 +43,6 @@ class Player {
     QTcpSocket socket;
     QByteArray heard;
 };
-
-TEST_F(PracticeServerTest, CarriesTalkBetweenClientsAndThePerson) {
-    Open();
-    ASSERT_TRUE(server->AddPerson("Visitor"));
-    EXPECT_FALSE(server->AddPerson("Second"));
-    QSignalSpy heard(server.get(), &PracticeServer::PersonHears);
-    Player ann(port), bob(port);
-    ann.LogIn("Ann");
-    bob.LogIn("Bob|Fur");
-    ann.socket.write("wh Bob|Fur a\n\"b\n");
-    EXPECT_TRUE(bob.Hears("([ Ann whispers, \"a\" to you. ]\n"));
-    EXPECT_TRUE(bob.Hears("(Ann: b\n"));
-    server->TypeAsPerson("/Ann over here");
-    EXPECT_TRUE(ann.Hears("([ Visitor whispers, \"over here\" to you. ]\n"));
-    ASSERT_GE(heard.count(), 2);
-    EXPECT_EQ(heard[heard.count() - 2][0].toString(), "Ann: b");
-    EXPECT_EQ(heard[heard.count() - 1][0].toString(), "[ You whisper \"over here\" to Ann. ]");
-    bob.socket.write(":na\xEFve\n");
-    EXPECT_TRUE(Eventually([&] { return heard.last()[0].toString() == QStringLiteral("Bob Fur naïve"); }));
-}
 
 TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
     Open();
@@ -95,19 +75,6 @@ TEST_F(PracticeServerTest, LetsClientsGo) {
     EXPECT_EQ(ended.count(), 1);
     ann = std::make_unique<Player>(port);
     ann->LogIn("Ann");
-}
-
-TEST_F(PracticeServerTest, PlaysItsTourByTheClock) {
-    Open("wait for Ann\nafter 2 Bob arrives\nafter 1 Bob says hi", 1);
-    QSignalSpy ended(server.get(), &PracticeServer::TourEnded);
-    Player ann(port);
-    ann.LogIn("Ann");
-    EXPECT_TRUE(ann.Hears("(Bob: hi\n"));
-    EXPECT_TRUE(Eventually([&] { return ended.count() == 1; }));
-    PracticeServer second;
-    const auto listening = second.Listen(port);
-    EXPECT_EQ(listening.port, 0) << "the port is taken";
-    EXPECT_FALSE(listening.fault.isEmpty());
 }
 
 TEST(TypedLine, BecomesACommand) {
