@@ -55,19 +55,6 @@ TEST_F(RunTest, TheScriptMayConnectAgainAndTheLastAttemptCounts) {
     EXPECT_EQ(vorel->err, "vorel run: the recording can't be written any more\n");
 }
 
-TEST_F(RunTest, KeepsSplitLinesOnlyWhenAsked) {
-    files.WriteBot("bot");
-    for (const bool keep : {false, true}) {
-        const auto vorel = Run(keep ? QStringList{"bot.tvm", "--keep-split-lines"} : QStringList{"bot.tvm"});
-        server.Say("(one \n(cut in", number);
-        ASSERT_TRUE(vorel->Shows("one \n")) << "by now the packet has been read";
-        server.Say(" two\n(end \n", number);
-        server.Close(number);
-        EXPECT_EQ(vorel->Ends(), 0);
-        EXPECT_EQ(vorel->out, keep ? "one \ncut in two\nend \n" : "one \nend \n");
-    }
-}
-
 TEST_F(RunTest, LogsWithTimesAndWithoutThePassword) {
     files.WriteBot("bot");
     for (const QByteArray line : {"caf\xE9 \x1B[2J", "second time"}) {
@@ -106,15 +93,17 @@ while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; d
 TEST_F(RunTest, SeveralBotsShareTheTerminal) {
     files.WriteBot("First");
     files.WriteBot("Second|Cat");
-    const auto vorel = Run({"First.tvm", "Second|Cat.tvm"});
+    const auto vorel = Run({"First.tvm", "Second|Cat.tvm", "--keep-split-lines"});
     ASSERT_TRUE(server.Hears("desc ", 1));
     const std::size_t second = server.heard[1].contains("connect Second|Cat ") ? 1 : 0, first = 1 - second;
     vorel->write("@second|cat /Ann meow\n@nobody is here\n:waves\n`who\nlast");
     vorel->closeWriteChannel();
     EXPECT_TRUE(server.Hears("\nwh Ann meow\n", second));
     EXPECT_TRUE(server.Hears("]\n\"@nobody is here\n:waves\nwho\n\"last\n", first));
-    server.Say("(for first\n", first);
-    EXPECT_TRUE(vorel->Shows("[First] for first\n"));
+    server.Say("(for first\n(cut", first);
+    ASSERT_TRUE(vorel->Shows("[First] for first\n")) << "by now the packet has been read";
+    server.Say(" in two\n", first);
+    EXPECT_TRUE(vorel->Shows("[First] cut in two\n"));
     server.Close(first);
     server.Say("(for second\n", second);
     EXPECT_TRUE(vorel->Shows("[Second Cat] for second\n"));

@@ -3,76 +3,56 @@
 
 #include "client/Bench.h"
 #include "engine/Script.h"
+#include "platform/QtHost.h"
+#include "support/BotFiles.h"
 #include "support/Cases.h"
+#include "support/Notebook.h"
 
 namespace {
 
 class ClientMode : public testing::Test {
   public:
     ClientMode() {
-        QFile::link(TVOREL_STAND_IN_CLIENT, Path("client"));
+        QFile::link(TVOREL_STAND_IN_CLIENT, files_.Path("client"));
         Profile& profile = host_.bot().profile;
         profile.connectClient = profile.closeClient = 1;
         profile.owners = "Ann";
-        profile.characterPath = Path("bot.ini").toStdString();
-        profile.clientPath = Path("client").toStdString();
-        host_.bot().script = std::make_shared<Script>(
-            "VSPK 01.00 Vorel\r\n(0:2) out,\r\n(5:2) {out}\r\n*Endtriggers* 9999 *Endtriggers*\r\n");
-        host_.session().SetServer("127.0.0.1", server_.Port());
-    }
-
-    QString Path(const char* name) const { return folder_.filePath(name); }
-    void Write(const char* name, const QByteArray& text) const {
-        QFile file(Path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        profile.characterPath = files_.Path("bot.ini").toStdString();
+        profile.clientPath = files_.Path("client").toStdString();
+        host_.bot().script = std::make_shared<Script>(ScriptText("(0:2) out,\r\n(5:2) {out}").toStdString());
+        host_.session().SetServer("127.0.0.1", server_.listener.serverPort());
     }
 
     void Connect(const QByteArray& window = "class=Furcadia") {
-        Write("bot.ini", client_.Character(window));
+        files_.Write("bot.ini", client_.Character(window));
         host_.session().Connect();
     }
     /// Up to the point where the client has logged in.
     void Link(const QByteArray& window = "class=Furcadia") {
+        const std::size_t number = server_.bots.size();
         Connect(window);
-        ASSERT_TRUE(Eventually([&] { return server_.IsUp() && host_.IsServerConnected(); }));
-        server_.Write("Welcome\n");
-        ASSERT_TRUE(server_.Hears("connect Bot|One made-up"));
+        ASSERT_TRUE(Eventually([&] { return server_.bots.size() > number && host_.IsServerConnected(); }));
+        server_.Say("Welcome\n", number);
+        ASSERT_TRUE(server_.Hears("connect Bot|One made-up\n", number));
     }
     /// Opens a window that has nothing to do with the bot.
     void OpenStranger(Leash& leash, const QByteArray& window) {
-        Write("stranger.ini", leash.Character(window));
+        files_.Write("stranger.ini", leash.Character(window));
         QProcess stranger;
         stranger.setProgram(TVOREL_STAND_IN_CLIENT);
-        stranger.setArguments({Path("stranger.ini")});
+        stranger.setArguments({files_.Path("stranger.ini")});
         stranger.setWorkingDirectory("/");
         ASSERT_TRUE(stranger.startDetached());
         ASSERT_TRUE(leash.Hears("ready"));
     }
 
-    QTemporaryDir folder_;
+    BotFiles files_;
     HiddenDisplay display_;
-    Line server_;
+    GameServer server_;
     Leash client_;
     Notebook notebook_;
-    QtHost host_{notebook_, folder_.path().toStdString()};
+    QtHost host_{notebook_, files_.Path().toStdString()};
 };
-
-TEST_F(ClientMode, LinksAndRelaysBothWays) {
-    Connect();
-    ASSERT_TRUE(client_.Hears("ready"));
-    ASSERT_TRUE(Eventually([&] { return host_.IsServerConnected() && server_.IsUp(); }));
-    server_.Write("Welcome\n");
-    EXPECT_TRUE(server_.Hears("color 0123456789 !\""));
-    EXPECT_TRUE(server_.Hears("desc Hi [Tandry Vorel]"));
-    EXPECT_FALSE(server_.Holds("desc Hi"));
-    EXPECT_EQ(host_.bot().status.botName, "Bot One");
-    server_.Write("(Ann: hello\n");
-    EXPECT_TRUE(client_.Hears("heard (Ann: hello"));
-    EXPECT_TRUE(client_.Does("say \"good day"));
-    EXPECT_TRUE(server_.Hears("\"good day"));
-}
 
 TEST_F(ClientMode, StandAloneModeLetsTheClientGoAndStaysInTheGame) {
     Link();
@@ -85,35 +65,17 @@ TEST_F(ClientMode, StandAloneModeLetsTheClientGoAndStaysInTheGame) {
     EXPECT_TRUE(client_.Hears("asked to close"));
 }
 
-TEST_F(ClientMode, OneCallerIsLinkedAndEveryOtherRefused) {
-    Write("client-that-never-calls", "#!/bin/sh\n");
-    host_.bot().profile.clientPath = Path("client-that-never-calls").toStdString();
-    Connect();
-    QFile proxy(Path("proxy.ini"));
-    ASSERT_TRUE(proxy.open(QIODevice::ReadOnly));
-    const quint16 port = proxy.readAll().simplified().split(' ').value(1).toUShort();
-    QTcpSocket first, atOnce, later;
-    first.connectToHost("127.0.0.1", port);
-    atOnce.connectToHost("127.0.0.1", port);
-    ASSERT_TRUE(first.waitForConnected());
-    EXPECT_TRUE(
-        Eventually([&] { return host_.IsServerConnected() && atOnce.state() == QTcpSocket::UnconnectedState; }));
-    later.connectToHost("127.0.0.1", port);
-    EXPECT_TRUE(Eventually([&] { return later.error() == QTcpSocket::ConnectionRefusedError; }));
-    EXPECT_EQ(first.state(), QTcpSocket::ConnectedState);
-}
-
 class DyingClient : public ClientMode, public testing::WithParamInterface<const char*> {};
 
 TEST_P(DyingClient, LeavesTheBotInTheGame) {
     Link();
-    client_.Write(GetParam() + QByteArray("\n"));
-    EXPECT_TRUE(client_.Ends());
+    client_.Say(GetParam() + QByteArray("\n"));
+    EXPECT_TRUE(client_.Hears("<end>"));
     EXPECT_TRUE(Eventually([&] { return !host_.bot().status.canStandAlone; }));
     host_.session().TypeLine("still here");
     EXPECT_TRUE(server_.Hears("\"still here"));
     host_.session().Disconnect();
-    EXPECT_TRUE(server_.Ends());
+    EXPECT_TRUE(server_.Hears("<end>"));
     EXPECT_EQ(notebook_.Count("out"), 1);
 }
 
@@ -143,8 +105,7 @@ TEST_P(EndOfSession, ClosesTheClientsWindowOrLeavesIt) {
     Link();
     GetParam().end(*this);
     if (GetParam().closes) {
-        EXPECT_TRUE(client_.Hears("asked to close"));
-        EXPECT_TRUE(client_.Ends());
+        EXPECT_TRUE(client_.Hears("asked to close") && client_.Hears("<end>"));
     } else {
         EXPECT_TRUE(client_.IsLeftAlone());
     }
@@ -152,7 +113,7 @@ TEST_P(EndOfSession, ClosesTheClientsWindowOrLeavesIt) {
     host_.bot().profile.closeClient = 1;
     host_.session().Disconnect();  // the window may be gone, and its handle still known
     host_.session().Disconnect();
-    EXPECT_TRUE(client_.Ends());
+    EXPECT_TRUE(client_.Hears("<end>"));
 }
 
 INSTANTIATE_TEST_SUITE_P(ClientMode, EndOfSession, testing::ValuesIn(kEnds), kCaseName);
@@ -175,8 +136,8 @@ class WindowOwner : public ClientMode, public testing::WithParamInterface<Window
 
 TEST_P(WindowOwner, DecidesWhichWindowIsClosed) {
     const WindowCase& given = GetParam();
-    Write("wrapper", "#!/bin/sh\n" TVOREL_STAND_IN_CLIENT " \"$1\" &\n");
-    host_.bot().profile.clientPath = Path(given.program).toStdString();
+    files_.Write("wrapper", "#!/bin/sh\n" TVOREL_STAND_IN_CLIENT " \"$1\" &\n");
+    host_.bot().profile.clientPath = files_.Path(given.program).toStdString();
     Leash before, after;
     if (*given.strangerBefore) OpenStranger(before, given.strangerBefore);
     Link(given.window);
@@ -191,13 +152,11 @@ INSTANTIATE_TEST_SUITE_P(ClientMode, WindowOwner, testing::ValuesIn(kWindows), k
 
 TEST_F(ClientMode, WithoutADisplayEverythingElseWorksAndIsToldOnce) {
     display_.End();
-    for (int session = 0; session < 2; ++session) {
+    for (std::size_t session = 0; session < 2; ++session) {
         Link();
         EXPECT_EQ(notebook_.Count("window can't be found"), session == 0 ? 1 : 0);
         host_.session().Disconnect();
-        EXPECT_TRUE(client_.Hears("unlinked"));
-        client_.Restart();
-        server_.Restart();
+        EXPECT_TRUE(client_.Hears("unlinked", session));
     }
 }
 
@@ -263,11 +222,11 @@ TEST_F(ClientMode, AWindowManagerThatOffersToIsAskedToCloseTheWindow) {
 }
 
 TEST_F(ClientMode, AClientThatCantBeStartedEndsTheSessionWithAReason) {
-    Write("client.txt", "not a program");
-    host_.bot().profile.clientPath = Path("client.txt").toStdString();
+    const QString path = files_.Write("client.txt", "not a program");
+    host_.bot().profile.clientPath = path.toStdString();
     for (const auto& [permissions, reason] : {std::pair{QFile::ReadOwner | QFile::ExeOwner, "could not be started: "},
                                               {QFile::Permissions(QFile::ReadOwner), "may not be run as a program"}}) {
-        QFile::setPermissions(Path("client.txt"), permissions);
+        QFile::setPermissions(path, permissions);
         Connect();
         EXPECT_EQ(notebook_.Count(reason), 1) << testing::PrintToString(notebook_.lines);
         EXPECT_TRUE(host_.bot().status.canConnect);

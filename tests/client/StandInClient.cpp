@@ -11,6 +11,7 @@
 #include <QTcpSocket>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -101,17 +102,10 @@ class StandInClient {
         leash_.write(what + '\n');
         leash_.flush();
     }
-    void Say(const QByteArray& line) {
-        link_.write(line + '\n');
-        link_.flush();
-    }
     void Hear() {
-        while (link_.canReadLine()) {
-            Tell("heard " + link_.readLine().chopped(1));
-            if (loggedIn_) continue;
-            loggedIn_ = true;
-            Say("connect " + settings_["name"] + ' ' + settings_["password"] + "\ncolor 0123456789 !\"\ndesc Hi");
-        }
+        link_.readAll();
+        if (std::exchange(loggedIn_, true)) return;
+        link_.write("connect " + settings_["name"] + ' ' + settings_["password"] + "\ncolor 0123456789 !\"\ndesc Hi\n");
     }
     void WatchWindow() {
         if (display_ && !window_.IsOpen()) display_->setEnabled(false);
@@ -123,7 +117,6 @@ class StandInClient {
         if (order == "crash") std::_Exit(1);
         if (order == "quit") QCoreApplication::quit();
         if (order == "unlink") link_.disconnectFromHost();
-        if (order.startsWith("say ")) Say(order.mid(4));
         WatchWindow();
         Tell("done " + order);
     }

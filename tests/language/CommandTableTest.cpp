@@ -1,5 +1,3 @@
-#include <map>
-
 #include "language/GreeterBench.h"
 #include "language/VariableTable.h"
 
@@ -73,22 +71,6 @@ TEST(CommandTable, TextsKeepTheRulesOfTheLanguage) {
     }
 }
 
-/// The examples use few names, so that a value in the wrong argument shows; and columns stand before rows.
-TEST(CommandTable, ExamplesFillArgumentsWithTheirKind) {
-    const std::map<ArgumentType, std::string> values = {{ArgumentType::File, " scores diner "},
-                                                        {ArgumentType::Section, " points words guests "},
-                                                        {ArgumentType::Variable, " count guest list points word "}};
-    for (const Command* const command : AllCommands()) {
-        const auto arguments = ArgumentsOf(*command);
-        for (std::size_t i = 0; i < arguments.size(); ++i) {
-            const ArgumentType type = arguments[i]->type;
-            const std::string value = " " + std::string(command->filled[i]) + " ";
-            EXPECT_TRUE(!values.contains(type) || values.at(type).find(value) != value.npos) << ExampleLine(*command);
-            EXPECT_EQ(type == ArgumentType::Row, i > 0 && arguments[i - 1]->type == ArgumentType::Column);
-        }
-    }
-}
-
 /// Lines of a shown trigger are lines of the table with other arguments.
 TEST(CommandTable, ShownTriggersUseTheTablesWords) {
     for (const Command* const command : AllCommands()) {
@@ -103,29 +85,6 @@ TEST(CommandTable, ShownTriggersUseTheTablesWords) {
         }
         EXPECT_TRUE(showsItself) << command->trigger;
     }
-}
-
-/// And a command is of use only where one of the variables it reads has been filled.
-TEST(CommandTable, NamesVariablesThatThereAre) {
-    for (const Command* const command : AllCommands()) {
-        SCOPED_TRACE(ListLine(*command));
-        EventSet filled;
-        for (const std::string& what :
-             Split(std::string(command->reads) + ", " + std::string(command->changes), ", ")) {
-            if (what.empty()) continue;
-            if (!what.starts_with('[')) filled = EventSet::All();
-            if (!what.starts_with('[')) continue;
-            const VariableDescription* const variable = FindVariable(what.substr(0, what.find(']') + 1));
-            ASSERT_NE(variable, nullptr) << what;
-            filled = filled | variable->filledBy;
-        }
-        const bool isBound = command->category != kCauseLine && !(command->scope.events == EventSet::All());
-        if (isBound) {
-            EXPECT_EQ(command->scope.events | filled, filled);
-        }
-    }
-    EXPECT_EQ(FindVariable("[word0]"), nullptr);
-    EXPECT_EQ(FindVariable("[word]"), nullptr);
 }
 
 }  // namespace

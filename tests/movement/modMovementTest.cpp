@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "movement/modMovement.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"
@@ -40,32 +38,25 @@ constexpr Square kEven{10, 10}, kUpLeft{10, 9}, kUpRight{12, 9}, kDownLeft{10, 1
 // clang-format off
 const StepCase kSteps[] = {
     // Straight for the target
-    {"RightAndUp",             {10, 10}, {12, 9},  {}, 9},
-    {"RightInTheSameRow",      {10, 10}, {12, 10}, {}, 3},
-    {"RightAndDown",           {10, 10}, {12, 11}, {}, 3},
-    {"OneRowDown",             {10, 10}, {10, 11}, {}, 1},
-    {"TwoRowsDown",            {10, 5},  {10, 7},  {}, 3},
-    {"OneRowUp",               {10, 7},  {10, 6},  {}, 9},
-    {"ThreeRowsUp",            {10, 7},  {10, 4},  {}, 7},
-    {"LeftInTheSameRow",       {10, 10}, {8, 10},  {}, 1},
-    {"LeftAndDown",            {10, 10}, {8, 13},  {}, 1},
-    {"LeftAndOneRowUp",        {10, 10}, {8, 9},   {}, 7},
-    {"LeftAndTwoRowsUpGoesDown", {20, 10}, {10, 4}, {}, 1},
+    {"AlreadyThere", kEven, kEven, {}, 0}, {"RightAndUp", {10, 10}, {12, 9}, {}, 9},
+    {"RightInTheSameRow", {10, 10}, {12, 10}, {}, 3}, {"RightAndDown", {10, 10}, {12, 11}, {}, 3},
+    {"OneRowDown", {10, 10}, {10, 11}, {}, 1}, {"TwoRowsDown", {10, 5}, {10, 7}, {}, 3},
+    {"OneRowUp", {10, 7}, {10, 6}, {}, 9}, {"ThreeRowsUp", {10, 7}, {10, 4}, {}, 7},
+    {"LeftInTheSameRow", {10, 10}, {8, 10}, {}, 1}, {"LeftAndDown", {10, 10}, {8, 13}, {}, 1},
+    {"LeftAndOneRowUp", {10, 10}, {8, 9}, {}, 7}, {"LeftAndTwoRowsUpGoesDown", {20, 10}, {10, 4}, {}, 1},
     // Round a dream; the squares are the neighbours in an even row
-    {"DownLeftTurnsRight",     kEven, {8, 10},  {kDownLeft}, 3},
-    {"DownLeftGoesUp",         kEven, {8, 10},  {kDownLeft, kDownRight}, 7},
-    {"DownLeftGoesUpRight",    kEven, {8, 10},  {kDownLeft, kDownRight, kUpLeft}, 9},
-    {"DownRightTurnsLeft",     kEven, {12, 10}, {kDownRight}, 1},
-    {"DownRightGoesUp",        kEven, {12, 10}, {kDownRight, kDownLeft}, 9},
-    {"DownRightGoesUpLeft",    kEven, {12, 10}, {kDownRight, kDownLeft, kUpRight}, 7},
-    {"UpLeftTurnsRightAtZero", {0, 10}, {0, 4},   {{0, 9}}, 9},
-    {"UpLeftGoesDown",         kEven, {10, 4},  {kUpLeft, kUpRight}, 1},
-    {"UpLeftGoesDownRight",    kEven, {10, 4},  {kUpLeft, kUpRight, kDownLeft}, 3},
-    {"UpRightTurnsLeft",       kEven, {12, 9},  {kUpRight}, 7},
-    {"UpRightGoesDown",        kEven, {12, 9},  {kUpRight, kUpLeft}, 3},
-    {"UpRightGoesDownLeft",    kEven, {12, 9},  {kUpRight, kUpLeft, kDownRight}, 1},
+    {"DownLeftTurnsRight", kEven, {8, 10}, {kDownLeft}, 3},
+    {"DownLeftGoesUp", kEven, {8, 10}, {kDownLeft, kDownRight}, 7},
+    {"DownLeftGoesUpRight", kEven, {8, 10}, {kDownLeft, kDownRight, kUpLeft}, 9},
+    {"DownRightTurnsLeft", kEven, {12, 10}, {kDownRight}, 1},
+    {"DownRightGoesUp", kEven, {12, 10}, {kDownRight, kDownLeft}, 9},
+    {"DownRightGoesUpLeft", kEven, {12, 10}, {kDownRight, kDownLeft, kUpRight}, 7},
+    {"UpLeftTurnsRightAtZero", {0, 10}, {0, 4}, {{0, 9}}, 9}, {"UpLeftGoesDown", kEven, {10, 4}, {kUpLeft, kUpRight}, 1},
+    {"UpLeftGoesDownRight", kEven, {10, 4}, {kUpLeft, kUpRight, kDownLeft}, 3},
+    {"UpRightTurnsLeft", kEven, {12, 9}, {kUpRight}, 7}, {"UpRightGoesDown", kEven, {12, 9}, {kUpRight, kUpLeft}, 3},
+    {"UpRightGoesDownLeft", kEven, {12, 9}, {kUpRight, kUpLeft, kDownRight}, 1},
     {"UpLeftGoesDownWestOfZero", {-2, 10}, {-2, 4}, {{-2, 9}}, 1},
-    {"DreamsElsewhere",        kEven, {12, 9},  {{12, 10}, {9, 12}}, 9},
+    {"DreamsElsewhere", kEven, {12, 9}, {{12, 10}, {9, 12}}, 9},
 };
 // clang-format on
 
@@ -137,47 +128,5 @@ TEST(modMovement, NeighboursFollowTheRowsParity) {
     EXPECT_EQ(neighbours({10, -3}), (std::vector<Square>{{10, -4}, {8, -4}, {10, -2}, {8, -2}}));
     EXPECT_THROW(neighbours({32766, 10}), RuntimeFault);
 }
-
-struct WalkCase {
-    std::string name;
-    Square from, to;
-    std::vector<Square> dreams;  ///< known to the bot
-    std::vector<Square> walls;   ///< not known: they just stop it
-    int ticks;                   ///< at most, the last one of which notices the arrival
-};
-
-// clang-format off
-const WalkCase kWalks[] = {
-    {"AlreadyThere",    {10, 10}, {10, 10}, {}, {}, 1},
-    {"AlongARow",       {10, 10}, {16, 10}, {}, {}, 10},
-    {"StraightUp",      {10, 20}, {10, 8},  {}, {}, 15},
-    {"FarUpToTheLeft",  {20, 10}, {10, 4},  {}, {}, 50},
-    {"RoundADream",     {10, 10}, {16, 16}, {{12, 12}, {12, 13}}, {}, 15},
-    {"RoundAWall",      {10, 10}, {16, 16}, {}, {{12, 11}, {12, 12}}, 20},
-};
-// clang-format on
-
-class WholeWalk : public testing::TestWithParam<WalkCase> {};
-
-/// The game's part: moves the bot unless something stands in the way, and tells it where it is.
-void MoveAsTheGameDoes(Bot& bot, int direction, const std::vector<Square>& walls) {
-    const Square next = modMovement::Neighbour(bot, static_cast<std::int16_t>(direction));
-    bot.state.vorelFrom = bot.state.vorelInto;
-    if (std::find(walls.begin(), walls.end(), next) == walls.end()) bot.state.vorelInto = next;
-}
-
-TEST_P(WholeWalk, ArrivesWithoutSteppingOnADream) {
-    Walker walker(GetParam().from, GetParam().to);
-    walker.bot.state.dreams = GetParam().dreams;
-    for (int tick = 0; tick < GetParam().ticks && walker.host.IsMovementTimerEnabled(); ++tick) {
-        if (const int direction = walker.Step()) MoveAsTheGameDoes(walker.bot, direction, GetParam().walls);
-        EXPECT_FALSE(modMovement::IsBlocked(walker.bot, walker.bot.state.vorelInto));
-    }
-    EXPECT_EQ(walker.bot.state.vorelInto, GetParam().to);
-    EXPECT_FALSE(walker.host.IsMovementTimerEnabled());
-    EXPECT_EQ(walker.bot.walk.target, Square{});
-}
-
-INSTANTIATE_TEST_SUITE_P(modMovement, WholeWalk, testing::ValuesIn(kWalks), kCaseName);
 
 }  // namespace

@@ -69,7 +69,6 @@ const LineCase kLines[] = {
     {"OwnNameSpeaking",          {"(Bot: hi"}, "4 Bot: hi"},
     {"EmoteWithALateColon",      {"(An|n says: hi"}, "6 An|n: says: hi"},
     {"OwnEmote",                 {"(Bot waves"}, "10 Bot: waves"},
-    {"OwnSpeech",                {"(You say, \"hi\""}, "8 Bot: hi\""},
     {"YouAndSomethingElse",      {"(You see, nothing"}, ""},
     {"NoBlankIsOnlyShown",       {"(wh|at", "("}, ""},
     {"NoShout",                  {"({T} Ann shouts: hey"}, ""},
@@ -84,11 +83,8 @@ const LineCase kLines[] = {
     {"NoticeAndMore",            {"([*] Ann joins you. Now"}, ""},
     {"NoSummonOfOneself",        {"(* You cannot summon yourself."}, ""},
     {"NoStandardTime",           {"(* Furcadia opened"}, ""},
-    {"OnePlayer",                {"(* One player in the dream of Vale.", "show [map]<[previousmap] [visitorcount]"}, "Vale<Old 1"},
     {"OtherStarNotice",          {"(* Some players in a dream", "show [map]"}, "Old"},
-    {"CookieGiven",              {"([%] Bot has given Ann a cookie!"}, "41 Ann, Bot"},
     {"CookieFromYour",           {"([%] Your cookie"}, ""},
-    {"DiceRoll",                 {"([*] Ann rolls 2d6 and it falls: ((4) (3)) = 7."}, "45 Ann 2d6 7: 4 3"},
     {"OneDieKeepsOne",           {"([*] Ann rolls 1d6 and it falls: ((4) (3)) = 4."}, "45 Ann 1d6 4: 4 [die2]"},
     {"YourNoticeMayRoll",        {"([*] Your friend rolls 1d6 & gets 4."}, "32 4.; 44 4. 1d6 4: 4 [die2]"},
     {"NoDiceWord",               {"([*] Ann rolls over & gets 7."}, ""},
@@ -176,14 +172,6 @@ TEST(ServerLines, DreamsComeAndGoByTheirSquare) {
     EXPECT_EQ(bot.bot.state.dreams, (std::vector<Square>{{20, 5}, {2, 1}, {20, 5}}));
     bot.Hear("]t * %");
     EXPECT_EQ(bot.bot.state.dreams, std::vector<Square>(1, {2, 1}));
-}
-
-TEST(ServerLines, AnUnnamedDreamIsAskedForAndALinkedClientLoadsIt) {
-    Listener bot;
-    bot.bot.state.map = "";
-    EXPECT_EQ(bot.Hear("((Lines of DragonSpeak: 12)").front(), "sent who");
-    bot.host.SetClientConnected(true);
-    EXPECT_EQ(bot.Hear("]q"), Told{});
 }
 
 TEST(ServerLines, VisitorsAreComparedWithTheListBefore) {

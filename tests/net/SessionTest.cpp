@@ -65,7 +65,6 @@ TEST(Session, StandAloneLogsInFromTheCharacterFile) {
     EXPECT_EQ(bot.told, (Told{"sent connect Bot|One made-up", "sent color 0123456789 !\"", "sent ",
                               "sent desc Hello=you [Tandry Vorel]", "console 2 Bot|One"}));
     EXPECT_EQ(bot.bot.status.botName, "Bot One");
-    EXPECT_EQ(bot.bot.status.connection, "Connected");
 }
 
 TEST(Session, ACharacterFileMayLackItsKeysButNotTheDigitsOfAShape) {

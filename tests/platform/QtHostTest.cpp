@@ -4,22 +4,11 @@
 #include "platform/QtHost.h"
 #include "support/BotFiles.h"
 #include "support/GameServer.h"
-#include "text/Fault.h"
+#include "support/Notebook.h"
 
 using testing::ElementsAre;
 
 namespace {
-
-/// Writes down what it is told to show.
-class Screen final : public FrontEnd {
-  public:
-    std::vector<std::string> lines;
-    void ShowConsoleLine(std::string_view line) override { lines.emplace_back(line); }
-    void ClearConsole() override {}
-    void ShowMessage(std::string_view, std::string_view text) override { lines.emplace_back(text); }
-    void StatusChanged() override {}
-    void EndWithFault(const RuntimeFault& fault) override { lines.emplace_back(fault.Name()); }
-};
 
 class QtHostTest : public testing::Test {
   protected:
@@ -37,7 +26,7 @@ class QtHostTest : public testing::Test {
 
     BotFiles files;
     GameServer server;
-    Screen screen;
+    Notebook screen;
     QtHost host{screen, files.Path().toStdString()};
 };
 

@@ -23,16 +23,15 @@ struct Case {
 };
 
 // Ann and Bob stand at (20,15), which the protocol writes as " *" and " /".
+// clang-format off
 const Case kCases[] = {
     {"Speech", {"\"hi: there"}, {"(You say, \"hi: there\""}, {kAboutAnn, kNoBadge, "(Ann|Fur: hi: there"}},
     {"SpeechLikeACommand", {"\"looking"}, {"(You say, \"looking\""}, {kAboutAnn, kNoBadge, "(Ann|Fur: looking"}},
     {"EmptySpeech", {"\"", ":", "-"}, {}, {}},
     {"Shout", {"-hey"}, {"(You shout, \"hey\""}, {kAboutAnn, kNoBadge, "({S} Ann|Fur shouts: hey"}},
     {"Emote", {":waves"}, {kAboutAnn, kNoBadge, "(Ann|Fur waves"}, {kAboutAnn, kNoBadge, "(Ann|Fur waves"}},
-    {"Whisper",
-     {"wh bob a b"},
-     {kAboutBob, kNoBadge, "([ You whisper \"a b\" to Bob. ]"},
-     {kAboutAnn, kNoBadge, "([ Ann|Fur whispers, \"a b\" to you. ]"}},
+    {"Whisper", {"wh bob a b"}, {kAboutBob, kNoBadge, "([ You whisper \"a b\" to Bob. ]"},
+      {kAboutAnn, kNoBadge, "([ Ann|Fur whispers, \"a b\" to you. ]"}},
     {"WhisperToNobody", {"wh Some|One hi"}, {"(* Player Some|One is not currently here."}, {}},
     {"Emit", {"\"emit boo"}, {"([#] boo"}, {"([#] boo"}},
     {"LookByName", {"\"look ann fur"}, {"]f" + kAnnLooks + "Ann|Fur", "(> I am Ann|Fur"}, {}},
@@ -42,55 +41,38 @@ const Case kCases[] = {
     {"Who", {"who"}, {"(* Current players: Ann|Fur, Bob", "(* 2 players in the dream of Practice|Dream."}, {}},
     {"Online", {"onln BOB", "onln Some One"}, {"]%1Bob", "]%0Some|One"}, {}},
     {"Time", {"\"time"}, {"(* Furcadia Standard Time: 7:05:09PM"}, {}},
-    {"EachDie",
-     {"\"roll 3d6"},
-     {"([*] Ann|Fur rolls 3d6 and throws: ((1) (2) (3)) = 6."},
-     {"([*] Ann|Fur rolls 3d6 and throws: ((1) (2) (3)) = 6."}},
+    {"EachDie", {"\"roll 3d6"}, {"([*] Ann|Fur rolls 3d6 and throws: ((1) (2) (3)) = 6."},
+      {"([*] Ann|Fur rolls 3d6 and throws: ((1) (2) (3)) = 6."}},
     {"SumOfDice", {"\"ROLL 2d6"}, {"([*] Ann|Fur rolls 2d6 & gets 3."}, {"([*] Ann|Fur rolls 2d6 & gets 3."}},
-    {"NoDice",
-     {"\"roll 31d6", "\"roll 0d6", "\"roll -1d6", "\"ROLL 2x6", "\"roll 2d6x"},
-     Lines(5, "(* Dice are written like 2d6: up to 30 dice of up to 1000 sides."),
-     {}},
-    {"Cookies",
-     {"\"make-cookie Bob be well", "Bob> \"give-cookie Ann Fur", "Bob> \"eat-cookie", "\"eat-cookie"},
-     {"([%] Ann|Fur has given Bob a cookie.", "([%] Bob has given Ann|Fur a cookie.",
-      "([%] Your cookie tastes of honey."},
-     {"([%] Ann|Fur has given Bob a cookie.", "([%] Your cookie says: be well", "([%] Bob has given Ann|Fur a cookie.",
-      "([%] Your cookie jar is empty."}},
-    {"JoinAccepted",
-     {"join Bob", "Bob> summon"},
-     {"([*] Your request has been sent to Bob", "([*] Bob has accepted your request.", "([*] Bob summons you.",
-      "/aaaaaaaaaa * 0   * /"},
-     {kAsksToJoin, "([*] Ann|Fur joins you.", "/aaaaaaaaaa * 0   * /"}},
-    {"InvitationAccepted",
-     {"summon Bob", "Bob> join Ann|Fur"},
-     {"([*] Your request has been sent to Bob", "([*] Bob has accepted your request.", "([*] Bob joins you.",
-      "/bbbbbbbbbb * 0   * /"},
-     {kInvites, "([*] Ann|Fur summons you.", "/bbbbbbbbbb * 0   * /"}},
-    {"Declined",
-     {"summon Bob", "Bob> decline", "Bob> decline"},
-     {"([*] Your request has been sent to Bob", "([*] Bob has declined your request."},
-     {kInvites, "(* You have declined the request of Ann|Fur", "(* Nobody has asked you."}},
-    {"OneselfAskedOrNobody",
-     {"summon ann|fur", "join Ann|Fur", "join Zed", "summon"},
-     {"(* You cannot summon yourself.", "(* There is no joining oneself.", "(* Player Zed is not currently here.",
-      "(* Nobody has asked you."},
-     {}},
+    {"NoDice", {"\"roll 31d6", "\"roll 0d6", "\"roll -1d6", "\"ROLL 2x6", "\"roll 2d6x"},
+      Lines(5, "(* Dice are written like 2d6: up to 30 dice of up to 1000 sides."), {}},
+    {"Cookies", {"\"make-cookie Bob be well", "Bob> \"give-cookie Ann Fur", "Bob> \"eat-cookie", "\"eat-cookie"},
+      {"([%] Ann|Fur has given Bob a cookie.", "([%] Bob has given Ann|Fur a cookie.",
+      "([%] Your cookie tastes of honey."}, {"([%] Ann|Fur has given Bob a cookie.", "([%] Your cookie says: be well",
+      "([%] Bob has given Ann|Fur a cookie.", "([%] Your cookie jar is empty."}},
+    {"JoinAccepted", {"join Bob", "Bob> summon"}, {"([*] Your request has been sent to Bob",
+      "([*] Bob has accepted your request.", "([*] Bob summons you.", "/aaaaaaaaaa * 0   * /"}, {kAsksToJoin,
+      "([*] Ann|Fur joins you.", "/aaaaaaaaaa * 0   * /"}},
+    {"InvitationAccepted", {"summon Bob", "Bob> join Ann|Fur"}, {"([*] Your request has been sent to Bob",
+      "([*] Bob has accepted your request.", "([*] Bob joins you.", "/bbbbbbbbbb * 0   * /"}, {kInvites,
+      "([*] Ann|Fur summons you.", "/bbbbbbbbbb * 0   * /"}},
+    {"Declined", {"summon Bob", "Bob> decline", "Bob> decline"}, {"([*] Your request has been sent to Bob",
+      "([*] Bob has declined your request."}, {kInvites, "(* You have declined the request of Ann|Fur",
+      "(* Nobody has asked you."}},
+    {"OneselfAskedOrNobody", {"summon ann|fur", "join Ann|Fur", "join Zed", "summon"},
+      {"(* You cannot summon yourself.", "(* There is no joining oneself.", "(* Player Zed is not currently here.",
+      "(* Nobody has asked you."}, {}},
     {"BreathAndFlame", {"breath", "flame"}, {"]va * /", "]vb * /"}, {"]va * /", "]vb * /"}},
-    {"Postures",
-     {"sit", ">", "stand", "<", "<"},
-     {"/aaaaaaaaaa * / $    ", "/aaaaaaaaaa * / %    ", "/aaaaaaaaaa * / !    ", "/aaaaaaaaaa * /      ",
-      "/aaaaaaaaaa * / #    "},
-     {"/aaaaaaaaaa * / $    ", "/aaaaaaaaaa * / %    ", "/aaaaaaaaaa * / !    ", "/aaaaaaaaaa * /      ",
-      "/aaaaaaaaaa * / #    "}},
-    {"StepsOntoTrigger",
-     {"m 7", "use"},
-     {"/aaaaaaaaaa ) .   * /", "6 * / ) . ! ) .", "6 ) . ) . ! ) ."},
-     {"/aaaaaaaaaa ) .   * /", "7 * / ) . ! ) .", "7 ) . ) . ! ) ."}},
+    {"Postures", {"sit", ">", "stand", "<", "<"}, {"/aaaaaaaaaa * / $    ", "/aaaaaaaaaa * / %    ",
+      "/aaaaaaaaaa * / !    ", "/aaaaaaaaaa * /      ", "/aaaaaaaaaa * / #    "}, {"/aaaaaaaaaa * / $    ",
+      "/aaaaaaaaaa * / %    ", "/aaaaaaaaaa * / !    ", "/aaaaaaaaaa * /      ", "/aaaaaaaaaa * / #    "}},
+    {"StepsOntoTrigger", {"m 7", "use"}, {"/aaaaaaaaaa ) .   * /", "6 * / ) . ! ) .", "6 ) . ) . ! ) ."},
+      {"/aaaaaaaaaa ) .   * /", "7 * / ) . ! ) .", "7 ) . ) . ! ) ."}},
     {"NoDirections", {"m 0", "m 5", "m", "m 77", "m x"}, {}, {}},
     {"UnknownLines", {"xyzzy", "shield", " ", "unload all", "\"desctags", "connect Ann x"}, {}, {}},
     {"ControlCharacters", {"\"a\x1b[2Jb\r"}, {"(You say, \"a[2Jb\""}, {kAboutAnn, kNoBadge, "(Ann|Fur: a[2Jb"}},
 };
+// clang-format on
 
 class DreamCommand : public testing::TestWithParam<Case> {};
 
@@ -167,10 +149,9 @@ struct Walk {
 // The rows are shifted against each other: from an even row 3 and 9 lead to x + 2, from an odd one 1 and 7 to x - 2.
 TEST(Dream, WalksOnTheShiftedRows) {
     const Walk walks[] = {
-        {"9", {20, 14}, {20, 15}},   {"7", {18, 14}, {20, 15}},    {"3", {20, 16}, {20, 15}},
-        {"1", {18, 16}, {20, 15}},   {"99", {22, 13}, {20, 14}},   {"77", {18, 13}, {18, 14}},
-        {"33", {22, 17}, {20, 16}},  {"11", {18, 17}, {18, 16}},   {"333", {22, 17}, {22, 17}},  // a wall at (22,18)
-        {"331", {22, 17}, {22, 17}}, {"3333", {22, 17}, {22, 17}},
+        {"9", {20, 14}, {20, 15}},  {"7", {18, 14}, {20, 15}},  {"3", {20, 16}, {20, 15}},
+        {"1", {18, 16}, {20, 15}},  {"99", {22, 13}, {20, 14}}, {"77", {18, 13}, {18, 14}},
+        {"33", {22, 17}, {20, 16}}, {"11", {18, 17}, {18, 16}}, {"333", {22, 17}, {22, 17}},  // a wall at (22,18)
     };
     for (const Walk& walk : walks) {
         DreamBench bench;
@@ -197,19 +178,6 @@ TEST(Dream, StaysInsideAndEntersDreamsThroughTheirSquares) {
     EXPECT_TRUE(bench.dream.CloseDream("small pond"));
     EXPECT_FALSE(bench.dream.CloseDream("small pond"));
     EXPECT_THAT(bench.Listen(), ElementsAre(std::pair(bob, Lines{"]t * ."})));
-}
-
-TEST(Dream, BootsNotifiesAndTells) {
-    DreamBench bench;
-    const FurreId ann = bench.Client("Ann", kAnnLooks), bob = bench.Client("Bob", kBobLooks);
-    bench.Listen();
-    bench.dream.Notice("lunch");
-    EXPECT_TRUE(bench.dream.Tell("Bob", "]x"));
-    EXPECT_TRUE(bench.dream.Boot("bob"));
-    EXPECT_FALSE(bench.dream.Boot("bob"));
-    auto heard = bench.Listen();
-    EXPECT_THAT(heard[ann], ElementsAre("([#] lunch"));
-    EXPECT_THAT(heard[bob], ElementsAre("([#] lunch", "]x", "(You have been booted."));
 }
 
 TEST(Dream, OutlivesGarbageAndFloods) {

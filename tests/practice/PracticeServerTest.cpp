@@ -1,25 +1,19 @@
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
-#include <QTcpSocket>
-#include <QTest>
 
-#include "practice/Application.h"
 #include "practice/PracticeServer.h"
 #include "practice/TypedLine.h"
+#include "support/GameServer.h"
 
 namespace {
 
-constexpr int kPatienceMs = 5000;
-
 class PracticeServerTest : public testing::Test {
   protected:
-    PracticeServerTest() { EnsureApplication(); }
-
-    void Open(const char* tour = "", int secondMs = 0) {
+    void Open(const char* tour = "") {
         PracticeSettings settings;
         settings.tour = ReadTour(tour, "tour").tour;
-        settings.secondMs = secondMs;
+        settings.secondMs = 0;
         server = std::make_unique<PracticeServer>(std::move(settings));
         port = server->Listen(0).port;
         ASSERT_NE(port, 0);
@@ -41,34 +35,14 @@ class Player {
         heard.clear();
     }
     bool Hears(const QByteArray& text) {
-        return QTest::qWaitFor([&] { return heard.contains(text); }, kPatienceMs);
+        return Eventually([&] { return heard.contains(text); });
     }
     bool IsLetGo() {
-        return QTest::qWaitFor([&] { return socket.state() == QTcpSocket::UnconnectedState; }, kPatienceMs);
+        return Eventually([&] { return socket.state() == QTcpSocket::UnconnectedState; });
     }
     QTcpSocket socket;
     QByteArray heard;
 };
-
-TEST_F(PracticeServerTest, CarriesTalkBetweenClientsAndThePerson) {
-    Open();
-    ASSERT_TRUE(server->AddPerson("Visitor"));
-    EXPECT_FALSE(server->AddPerson("Second"));
-    QSignalSpy heard(server.get(), &PracticeServer::PersonHears);
-    Player ann(port), bob(port);
-    ann.LogIn("Ann");
-    bob.LogIn("Bob|Fur");
-    ann.socket.write("wh Bob|Fur a\n\"b\n");
-    EXPECT_TRUE(bob.Hears("([ Ann whispers, \"a\" to you. ]\n"));
-    EXPECT_TRUE(bob.Hears("(Ann: b\n"));
-    server->TypeAsPerson("/Ann over here");
-    EXPECT_TRUE(ann.Hears("([ Visitor whispers, \"over here\" to you. ]\n"));
-    ASSERT_GE(heard.count(), 2);
-    EXPECT_EQ(heard[heard.count() - 2][0].toString(), "Ann: b");
-    EXPECT_EQ(heard[heard.count() - 1][0].toString(), "[ You whisper \"over here\" to Ann. ]");
-    bob.socket.write(":na\xEFve\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return heard.last()[0].toString() == QStringLiteral("Bob Fur naïve"); }));
-}
 
 TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
     Open();
@@ -103,25 +77,16 @@ TEST_F(PracticeServerTest, LetsClientsGo) {
     ann->LogIn("Ann");
 }
 
-TEST_F(PracticeServerTest, PlaysItsTourByTheClock) {
-    Open("wait for Ann\nafter 2 Bob arrives\nafter 1 Bob says hi", 1);
-    QSignalSpy ended(server.get(), &PracticeServer::TourEnded);
-    Player ann(port);
-    ann.LogIn("Ann");
-    EXPECT_TRUE(ann.Hears("(Bob: hi\n"));
-    EXPECT_TRUE(ended.count() == 1 || ended.wait(kPatienceMs));
-    PracticeServer second;
-    const auto listening = second.Listen(port);
-    EXPECT_EQ(listening.port, 0) << "the port is taken";
-    EXPECT_FALSE(listening.fault.isEmpty());
-}
-
 TEST(TypedLine, BecomesACommand) {
-    const struct {
-        const char *typed, *command;
-    } cases[] = {{"", ""},        {"hi", "\"hi"},     {"-hey", "-hey"}, {":x", ":x"},
-                 {"`who", "who"}, {"/A b", "wh A b"}, {"`", ""}};
-    for (const auto& c : cases) EXPECT_EQ(CommandOfTypedLine(c.typed), c.command);
+    for (const auto& [typed, command] : {std::pair{"", ""},
+                                         {"hi", "\"hi"},
+                                         {"-hey", "-hey"},
+                                         {":x", ":x"},
+                                         {"`who", "who"},
+                                         {"/A b", "wh A b"},
+                                         {"`", ""}}) {
+        EXPECT_EQ(CommandOfTypedLine(typed), command);
+    }
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ TEST(FormattedNumber, HasFifteenDigitsAndNoExponent) {
                                                    {2.0 / 3, "0.666666666666667"},
                                                    {999999999999999.9, "1000000000000000"},
                                                    {-0.0, "0"},
-                                                   {-1234.500, "-1234.5"},
+                                                   {-1234.5, "-1234.5"},
                                                    {1e20, "100000000000000000000"},
                                                    {-1.25e-7, "-0.000000125"}};
     for (const auto& [number, text] : rows) EXPECT_EQ(FormatNumber(number), text);

