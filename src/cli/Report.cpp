@@ -7,7 +7,8 @@
 std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
     std::string text(fault.Name());
     if (!fault.Detail().empty()) text += ": " + fault.Detail();
-    if (!bot.place.file.empty()) text += ", at " + bot.place.file + " line " + std::to_string(bot.place.line);
+    if (!bot.place.file.empty()) text += ", at " + bot.place.file;
+    if (bot.place.line > 0) text += " line " + std::to_string(bot.place.line);
     return text;
 }
 

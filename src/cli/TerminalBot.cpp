@@ -47,9 +47,7 @@ void TerminalBot::Connect() {
     host_.RunHandler([this] { host_.Connect(); });
 }
 
-void TerminalBot::Disconnect() {
-    host_.RunHandler([this] { host_.Disconnect(); });
-}
+void TerminalBot::Leave() { host_.Leave(); }
 
 void TerminalBot::TypeLine(const std::string& line) {
     host_.RunHandler([&] { host_.session().TypeLine(line); });
@@ -62,9 +60,6 @@ void TerminalBot::ShowMessage(std::string_view title, std::string_view text) {
 }
 
 void TerminalBot::StatusChanged() {
-    // On its way to a connection, what came of the one before no longer counts.
-    if (!IsIdle()) wasConnected_ = host_.IsServerConnected();
-    failed_ = IsIdle() && !wasConnected_;
     // Whether this is the end shows only when the script has had its turn: it may connect again.
     QTimer::singleShot(0, &host_, [this] {
         if (IsIdle()) owner_.onIdle();

@@ -37,13 +37,16 @@ class TerminalBot final : public FrontEnd {
     std::string Label() const;
 
     void Connect();
-    void Disconnect();
+
+    /// Disconnects for good: the script hears of the end, but can't connect again.
+    void Leave();
+
     void TypeLine(const std::string& line);
 
     bool IsIdle() const { return host_.bot().status.canConnect; }
 
-    /// Whether its last connection failed, instead of coming to an orderly end.
-    bool HasFailed() const { return failed_; }
+    /// Whether an error has ended its last connection, or kept it from being made, instead of an orderly end.
+    bool HasFailed() const { return host_.bot().status.end == SessionStatus::End::ByError; }
 
     Session& session() { return host_.session(); }
 
@@ -58,7 +61,7 @@ class TerminalBot final : public FrontEnd {
     std::string profilePath_;
     ConsoleOutput& output_;
     Owner owner_;
-    bool hasLabel_ = false, wasConnected_ = false, failed_ = false;
+    bool hasLabel_ = false;
     QFile recordFile_;
     bool recordBroken_ = false;
     std::unique_ptr<Recording> recording_;

@@ -1,3 +1,6 @@
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <string>
 
@@ -22,9 +25,18 @@ std::string UsageLine(const CLI::App* app, const CLI::Error& error) {
     return command + ": " + what + " (" + command + " --help tells more)\n";
 }
 
+/// A program started without the three usual descriptors would take the first sockets it opens for them.
+void OpenMissingDescriptors() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // The lowest free descriptor is the one that is missing.
+        if (fcntl(descriptor, F_GETFD) == -1 && open("/dev/null", O_RDWR) == -1) return;
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    OpenMissingDescriptors();
     CLI::App app(std::string(kProductName) + " " + kProductVersion + " in the terminal: bots for Furcadia", "vorel");
     app.set_version_flag("--version", std::string(kProductName) + " " + kProductVersion);
     app.require_subcommand(1);

@@ -17,6 +17,7 @@
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
 #include "engine/Compare.h"
+#include "platform/DiskFiles.h"
 #include "practice/PracticeServer.h"
 #include "text/Text.h"
 
@@ -35,6 +36,11 @@ struct RunOptions {
 int Refuse(int status, const std::string& why) {
     std::cerr << "vorel run: " << why << std::endl;
     return status;
+}
+
+/// The tour that lies beside a profile; empty when there is none.
+std::string TourBeside(const std::string& profile) {
+    return DiskFiles().Find(JoinPath(FolderOf(profile), "tour.txt")).value_or("");
 }
 
 /// The bots of one process, from loading to the exit status.
@@ -96,18 +102,21 @@ class TerminalRun {
     int practicePort_ = 0;
 
     int OpenPractice() {
-        TourReading reading = ReadTourFile(options_.tour);
+        TourReading reading =
+            ReadTourFile(options_.tour.empty() ? TourBeside(options_.profiles.front()) : options_.tour);
         if (!reading.fault.empty()) return Refuse(kUsageExit, reading.fault);
         PracticeSettings settings;
         settings.tour = std::move(reading.tour);
+        const bool noTour = settings.tour.steps.empty();
         practice_ = std::make_unique<PracticeServer>(std::move(settings));
         const auto listening = practice_->Listen(0);
         if (listening.port == 0)
             return Refuse(kUnavailableExit, "the practice dream: " + listening.fault.toStdString());
         practicePort_ = listening.port;
         if (isatty(STDIN_FILENO) == 0) {
-            QObject::connect(practice_.get(), &PracticeServer::TourEnded, practice_.get(),
-                             [this] { QTimer::singleShot(kLastAnswersMs, practice_.get(), [this] { End(0); }); });
+            const auto endSoon = [this] { QTimer::singleShot(kLastAnswersMs, practice_.get(), [this] { End(0); }); };
+            QObject::connect(practice_.get(), &PracticeServer::TourEnded, practice_.get(), endSoon);
+            if (noTour) endSoon();
         }
         return 0;
     }
@@ -139,14 +148,17 @@ class TerminalRun {
     void OnFault(const std::string& why) {
         std::cerr << "vorel run: " << why << std::endl;
         End(kFaultExit);
+        // A fault on the way out counts too.
+        exit_ = kFaultExit;
+        QCoreApplication::exit(kFaultExit);
     }
 
     /// Disconnects every bot, so that its script hears of it, and leaves.
     void End(int status) {
         if (exit_) return;
         exit_ = status;
-        for (const auto& bot : bots_) bot->Disconnect();
-        QCoreApplication::exit(status);
+        for (const auto& bot : bots_) bot->Leave();
+        QCoreApplication::exit(*exit_);
     }
 };
 
@@ -166,8 +178,12 @@ void AddRunVerb(CLI::App& app, VerbAction& action) {
     verb->add_option("PROFILE", options->profiles, "the bots' profiles (.tvm)")->required();
     auto* const practice =
         verb->add_flag("--practice", options->practice, "open the practice dream in this process and connect there");
-    verb->add_option("--tour", options->tour, "the tour that visitors of the practice dream play")->needs(practice);
-    verb->add_option("--server", options->server, "connect to this host, in both modes")->excludes(practice);
+    verb->add_option("--tour", options->tour, "the tour that its visitors play (default: tour.txt beside the profile)")
+        ->needs(practice);
+    const auto notEmpty = [](const std::string& host) { return host.empty() ? "wants the name of a host" : ""; };
+    verb->add_option("--server", options->server, "connect to this host, in both modes")
+        ->check(CLI::Validator(notEmpty, "HOST"))
+        ->excludes(practice);
     verb->add_option("--port", options->port, "connect to this port")->check(CLI::Range(1, 65535))->excludes(practice);
     verb->add_option("--log", options->log, "append the console to this file, with times");
     verb->add_option("--record", options->record, "write what comes and goes as a session for `vorel try`");

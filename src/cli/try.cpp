@@ -79,6 +79,11 @@ int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& 
 int Try(const TryOptions& options) {
     DiskFiles disk;
     if (!disk.Find(options.profile)) return Unreadable("there is no profile " + options.profile);
+    try {
+        disk.Read(*disk.Find(options.profile));
+    } catch (const RuntimeFault&) {
+        return Unreadable("the profile " + options.profile + " can't be read");
+    }
     WrittenSession session;
     try {
         session = ParseSession(ReadSession(disk, options.session));

@@ -33,9 +33,12 @@ class Link {
     virtual void WriteProxyFile(const std::string& path, std::string_view text) = 0;
 
     /// Starts the client's program with the character file, its window shown as usual.
-    virtual void StartClient(const std::string& program, const std::string& characterFile) = 0;
+    /// @return why that can't be done, in plain words; empty when it was started
+    virtual std::string StartClient(const std::string& program, const std::string& characterFile) = 0;
 
-    /// The handle of the game client's window; 0 when there is none.
+    /// The handle of the window of the client that was started last; 0 when it has none, or none yet.
     virtual std::int64_t FindClientWindow() = 0;
+
+    /// Asks that window to close; nothing happens when it is gone.
     virtual void CloseClientWindow(std::int64_t window) = 0;
 };

@@ -104,13 +104,25 @@ void Session::ConnectThroughClient() {
     link_.EnterFolder(folder);
     const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
     if (!port) {
-        bot_.host.ShowConsoleLine("No port on this computer is free for the Furcadia client to connect to.");
-        ShowIdle(SessionStatus::End::ByError);
+        GiveUpClient("No port on this computer is free for the Furcadia client to connect to.");
         return;
     }
     link_.WriteProxyFile(JoinPath(folder, "proxy.ini"), "localhost " + std::to_string(*port) + "\r\n");
-    link_.StartClient(program, character);
-    clientWindow_ = link_.FindClientWindow();
+    if (const std::string refusal = link_.StartClient(program, character); !refusal.empty()) {
+        GiveUpClient("The Furcadia client could not be started: " + refusal);
+        return;
+    }
+    clientWindow_ = 0;
+    awaitsClientWindow_ = true;
+    LookForClientWindow();
+}
+
+void Session::GiveUpClient(const std::string& why) {
+    link_.CloseClient();
+    awaitsClientWindow_ = false;
+    bot_.host.ShowConsoleLine(why);
+    bot_.status.reason = why;
+    ShowIdle(SessionStatus::End::ByError);
 }
 
 void Session::ConnectServer(const std::string& address) {
@@ -160,6 +172,7 @@ void Session::OnServerConnected() {
     ShowMenus(true, bot_.host.IsClientConnected());
     bot_.host.ClearConsole();
     if (!bot_.profile.IsClientMode()) LogIn();
+    LookForClientWindow();
     RunScript(bot_, EventConnected);
 }
 
@@ -265,12 +278,22 @@ void Session::ShowIdle(SessionStatus::End end) {
     ShowMenus(false, false);
 }
 
+/// A program takes its time to open its window, so what was not there when the client was started is looked for again.
+void Session::LookForClientWindow() {
+    if (!awaitsClientWindow_) return;
+    clientWindow_ = link_.FindClientWindow();
+    awaitsClientWindow_ = clientWindow_ <= 0;
+}
+
 void Session::CloseClientWindow() {
-    if (clientWindow_ > 0 && bot_.profile.closeClient == 1) link_.CloseClientWindow(clientWindow_);
+    if (bot_.profile.closeClient != 1) return;
+    LookForClientWindow();
+    if (clientWindow_ > 0) link_.CloseClientWindow(clientWindow_);
 }
 
 void Session::ForgetClientWindow() {
-    if (clientWindow_ <= 0 || bot_.profile.closeClient != 1) return;
-    link_.CloseClientWindow(clientWindow_);
+    if (bot_.profile.closeClient != 1) return;
+    CloseClientWindow();
     clientWindow_ = 0;
+    awaitsClientWindow_ = false;
 }

@@ -68,6 +68,7 @@ class Session {
     Bot& bot_;
     Link& link_;
     std::int64_t clientWindow_ = 0;
+    bool awaitsClientWindow_ = false;  ///< the client was started, and its window had not opened yet
     std::string serverAddress_;
     int serverPort_ = 0;
     PacketLines serverLines_, clientLines_;
@@ -80,6 +81,8 @@ class Session {
     void LogIn();
     void ShowMenus(bool inSession, bool canStandAlone);
     void ShowIdle(SessionStatus::End end);
+    void GiveUpClient(const std::string& why);
+    void LookForClientWindow();
     void CloseClientWindow();
     void ForgetClientWindow();
 };

@@ -1,6 +1,7 @@
 #include "platform/QtHost.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QHostAddress>
 #include <QLocale>
 #include <QPointer>
@@ -31,8 +32,20 @@ std::string ToBotText(QString text) {
 }
 
 QString LongTimeFormat(const QLocale& locale) {
-    // Without the time zone: the marker of the half day comes last, as scripts expect.
-    return locale.timeFormat(QLocale::LongFormat).remove(u't').trimmed();
+    // The locale's long format ends with the time zone, in many forms; its short one with seconds has none, so that the
+    // marker of the half day comes last, as scripts expect.
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    const qsizetype minutes = format.indexOf("mm");
+    if (minutes > 0 && !format.contains('s')) format.insert(minutes + 2, format.mid(minutes - 1, 1) + "ss");
+    return format;
+}
+
+/// Why a program that is there could not be started.
+std::string StartRefusal(const std::string& program, const QProcess& process) {
+    if (!QFileInfo(FromUtf8Text(program)).isExecutable()) {
+        return FromUtf8(program) + " may not be run as a program. Its file's permissions must allow that.";
+    }
+    return FromUtf8(program) + ": " + ToBotText(process.errorString());
 }
 
 /// One packet: what has arrived, or in a flood as many whole lines as fit the limit.
@@ -81,6 +94,11 @@ void QtHost::RunHandler(const std::function<void()>& handler) {
         ended_ = true;
         frontEnd_.EndWithFault(fault);
     }
+}
+
+void QtHost::Leave() {
+    leaving_ = true;
+    RunHandler([this] { session_.Disconnect(); });
 }
 
 bool QtHost::IsConnected(const QTcpSocket* socket) const {
@@ -169,11 +187,29 @@ void QtHost::AcceptClient() {
     Watch(sckClient_, &Session::OnClientData, &Session::OnClientClosed, &Session::OnClientError);
 }
 
-void QtHost::StartClient(const std::string& program, const std::string& characterFile) {
-    const QString name = FromUtf8Text(program);
-    if (!QProcess::startDetached(name, {FromUtf8Text(characterFile)}, FromUtf8Text(currentFolder_))) {
-        frontEnd_.ShowConsoleLine("The Furcadia client could not be started: " + FromUtf8(program));
+std::string QtHost::StartClient(const std::string& program, const std::string& characterFile) {
+    clientWindow_->BeforeStart();
+    QProcess client;
+    client.setProgram(FromUtf8Text(program));
+    client.setArguments({FromUtf8Text(characterFile)});
+    client.setWorkingDirectory(FromUtf8Text(currentFolder_));
+    // What is typed at the terminal is for the bot, and what is printed there is the bot's.
+    client.setStandardInputFile(QProcess::nullDevice());
+    client.setStandardOutputFile(QProcess::nullDevice());
+    qint64 process = 0;
+    if (!client.startDetached(&process)) return StartRefusal(program, client);
+    clientWindow_->AfterStart(process);
+    return {};
+}
+
+std::int64_t QtHost::FindClientWindow() {
+    const std::optional<std::int64_t> window = clientWindow_->Find();
+    // Told once the server is connected, for that is when the console is cleared.
+    if (!window && !toldNoWindows_ && IsServerConnected()) {
+        toldNoWindows_ = true;
+        ShowConsoleLine("On this desktop the Furcadia client's window can't be found, so it can't be closed either.");
     }
+    return window.value_or(0);
 }
 
 void QtHost::Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)(), ErrorHandler onError) {

@@ -5,6 +5,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "engine/Bot.h"
@@ -12,6 +13,7 @@
 #include "net/Link.h"
 #include "net/Session.h"
 #include "net/SessionObserver.h"
+#include "platform/ClientWindow.h"
 #include "platform/DiskFiles.h"
 #include "platform/FrontEnd.h"
 
@@ -37,12 +39,17 @@ class QtHost final : public QObject, public Host, public Link {
     /// caught; after it nothing runs any more.
     void RunHandler(const std::function<void()>& handler);
 
+    /// Disconnects for good: the script hears of the end, but can't connect again.
+    void Leave();
+
     // Host
     bool IsServerConnected() const override { return IsConnected(sckServer_); }
     bool IsClientConnected() const override { return IsConnected(sckClient_); }
     void WriteToServer(std::string_view bytes) override;
     void WriteToClient(std::string_view bytes) override;
-    void Connect() override { session_.Connect(); }
+    void Connect() override {
+        if (!leaving_) session_.Connect();
+    }
     void Disconnect() override { session_.Disconnect(); }
     void ShowConsoleLine(std::string_view line) override { frontEnd_.ShowConsoleLine(line); }
     void ClearConsole() override { frontEnd_.ClearConsole(); }
@@ -64,9 +71,9 @@ class QtHost final : public QObject, public Host, public Link {
     void AcceptClient() override;
     void EnterFolder(const std::string& folder) override { currentFolder_ = folder; }
     void WriteProxyFile(const std::string& path, std::string_view text) override { disk_.Write(path, text); }
-    void StartClient(const std::string& program, const std::string& characterFile) override;
-    std::int64_t FindClientWindow() override { return 0; }
-    void CloseClientWindow(std::int64_t) override {}
+    std::string StartClient(const std::string& program, const std::string& characterFile) override;
+    std::int64_t FindClientWindow() override;
+    void CloseClientWindow(std::int64_t window) override { clientWindow_->Close(window); }
 
     /// The folder that programs are started from; empty before a client was started.
     const std::string& CurrentFolder() const { return currentFolder_; }
@@ -75,7 +82,7 @@ class QtHost final : public QObject, public Host, public Link {
     FrontEnd& frontEnd_;
     std::string programFolder_, currentFolder_;
     DiskFiles disk_;
-    bool ended_ = false;
+    bool ended_ = false, leaving_ = false;
     AddressResolver resolver_;
     SessionObserver* observer_ = nullptr;
 
@@ -84,6 +91,8 @@ class QtHost final : public QObject, public Host, public Link {
     const QTcpSocket* draining_ = nullptr;  ///< closed by the other side, what it sent not read yet
     QTcpServer listener_;
     QTimer tmrScript_, tmrMove_;
+    std::unique_ptr<ClientWindow> clientWindow_ = MachineClientWindow();
+    bool toldNoWindows_ = false;
 
     Bot bot_{*this};
     Session session_{bot_, *this};

@@ -40,16 +40,30 @@ void ProvideCommandList(const QString& folder) {
     if (file.open(QIODevice::WriteOnly) && file.write(QByteArray::fromStdString(CommandListFile())) > 0) file.commit();
 }
 
+/// Texts in the language that was chosen, or else in the desktop's, as far as there is a translation.
+void LoadTranslations(QApplication& application, const QString& folder) {
+    const QString chosen = Options(QDir(folder).filePath("tvorel-options.ini")).Language();
+    const QLocale locale = chosen.isEmpty() ? QLocale::system() : QLocale(chosen);
+    const auto load = [&](const QString& file, const QString& place) {
+        auto* const translator = new QTranslator(&application);
+        if (translator->load(locale, file, "_", place)) QApplication::installTranslator(translator);
+    };
+    load("qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    load("tvorel", ":/i18n");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("tvorel");
     QApplication::setApplicationVersion(kProductVersion);
+    QApplication::setDesktopFileName("org.tandryvorel.tvorel");
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QString folder = ProgramFolder();
     ProvideCommandList(folder);
+    LoadTranslations(application, folder);
     QtDialogs dialogs;
     frmVorel window(dialogs, folder);
     window.Start();

@@ -40,7 +40,21 @@ void Recording::Note(Happening happening, std::string_view text) {
     const std::string_view word = WordFor(happening);
     if (happening == Happening::ScriptTick || happening == Happening::WalkStep) return Repeat(word);
     WriteRepeated();
-    WriteLine(std::string(word) + WithoutPassword(text));
+    WriteLine(std::string(word) + Recorded(happening, text));
+}
+
+/// What of a line may be written. A client's login may come in two pieces, of which the second is half a password:
+/// until a whole login has come, nothing that the client says is written, nor what goes on of it to the server.
+std::string Recording::Recorded(Happening happening, std::string_view text) {
+    if (happening == Happening::Linked) awaitsLogin_ = true;
+    const std::string shown = WithoutPassword(text);
+    if (shown != text) {
+        if (happening == Happening::ClientLine) awaitsLogin_ = false;
+        return shown;
+    }
+    if (happening == Happening::ClientLine && awaitsLogin_) hidden_.emplace(text);
+    const bool fromClient = happening == Happening::ClientLine || happening == Happening::Sent;
+    return fromClient && hidden_.contains(shown) ? "********" : shown;
 }
 
 void Recording::Repeat(std::string_view word) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 
 #include "net/SessionObserver.h"
@@ -24,6 +25,10 @@ class Recording final : public SessionObserver {
     std::function<void(const std::string&)> write_;
     std::string repeated_;  ///< the timer instruction held back until something else happens
     int times_ = 0;
+    bool awaitsLogin_ = false;      ///< a client is linked and has not logged in yet
+    std::set<std::string> hidden_;  ///< what it has said until then
+
+    std::string Recorded(Happening happening, std::string_view text);
 
     void Repeat(std::string_view word);
     void WriteRepeated();

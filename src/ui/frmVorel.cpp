@@ -1,5 +1,6 @@
 #include "ui/frmVorel.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -286,8 +287,30 @@ void frmVorel::BuildMenus() {
     AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
               [this] { ShowConfiguration(); });
 
+    BuildLanguageMenu(configuration->addMenu(tr("&Language")));
+
     QMenu* const help = menuBar()->addMenu(tr("&Help"));
     AddAction(help, "mnuGHelp", "Vorel &Help", QKeySequence::HelpContents, [this] { cmdHelp_Click(); });
+}
+
+void frmVorel::BuildLanguageMenu(QMenu* menu) {
+    struct Language {
+        const char *code, *name;
+    };
+    // Each language by its own name; the empty code is the desktop's language.
+    constexpr Language kLanguages[] = {{"", QT_TR_NOOP("The desktop's")}, {"en", "English"}, {"de", "Deutsch"}};
+    menu->setObjectName("mnuLanguage");
+    auto* const group = new QActionGroup(menu);
+    for (const auto& [code, name] : kLanguages) {
+        QAction* const action = group->addAction(*code == '\0' ? tr(name) : QString(name));
+        action->setCheckable(true);
+        action->setChecked(options_.Language() == code);
+        menu->addAction(action);
+        connect(action, &QAction::triggered, this, [this, code = QString(code)] {
+            options_.Set("desktop/language", code);
+            panelReason_->setText(tr("The language changes with the next start."));
+        });
+    }
 }
 
 void frmVorel::BuildStatusBar() {
@@ -530,7 +553,7 @@ void frmVorel::closeEvent(QCloseEvent* event) {
     if (!faulted_) {
         recovery_.KeepScript(std::nullopt);
         recovery_.KeepProfile(std::nullopt);
-        host_.RunHandler([this] { host_.Disconnect(); });
+        host_.Leave();
     }
     reconnector_.Stop();
     editor_->Unload();

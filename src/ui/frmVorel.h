@@ -85,6 +85,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QWidget* BuildConsole();
     QWidget* BuildRightSide();
     void BuildMenus();
+    void BuildLanguageMenu(QMenu* menu);
     void BuildStatusBar();
     QAction* AddAction(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
                        std::function<void()> run);

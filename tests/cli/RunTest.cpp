@@ -98,7 +98,8 @@ while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; d
     EXPECT_TRUE(server.Hears("\"none\n"));
     server.Close();
     EXPECT_EQ(vorel->Ends(), 0);
-    EXPECT_EQ(vorel->out, "any news?\ngone\n");
+    // Without a display a line before these says that the client's window can't be found.
+    EXPECT_TRUE(vorel->out.endsWith("any news?\ngone\n")) << vorel->out.toStdString();
     ExpectNoPassword(*vorel);
 }
 

@@ -23,21 +23,16 @@ TEST(Base95, EveryPrintableNumberComesBack) {
     }
 }
 
-TEST(Base95, EncodesTheTruncatedQuotient) {
-    std::int16_t divisor = 0;
-    EXPECT_EQ(EncodeBase95Pair(98, divisor), "!#");
-    EXPECT_EQ(divisor, 1);  // for the caller, too
-    divisor = 2;
-    EXPECT_EQ(EncodeBase95Pair(21, divisor), " *");
-    EXPECT_EQ(EncodeBase95Pair(-1, divisor), "  ");
-}
-
-TEST(Base95, WhatHasNoCharacterIsAFault) {
-    std::int16_t divisor = 1;
-    EXPECT_EQ(EncodeBase95Pair(21279, divisor), "\xff~");
-    EXPECT_THROW(EncodeBase95Pair(21280, divisor), RuntimeFault);
-    EXPECT_EQ(EncodeBase95Pair(-32, divisor), std::string({' ', '\0'}));
-    EXPECT_THROW(EncodeBase95Pair(-33, divisor), RuntimeFault);
+TEST(Base95, EncodesTheTruncatedQuotientUnlessItHasNoCharacter) {
+    std::int16_t one = 0, two = 2;
+    EXPECT_EQ(EncodeBase95Pair(98, one), "!#");
+    EXPECT_EQ(one, 1);  // for the caller, too
+    EXPECT_EQ(EncodeBase95Pair(21, two), " *");
+    EXPECT_EQ(EncodeBase95Pair(-1, two), "  ");
+    EXPECT_EQ(EncodeBase95Pair(21279, one), "\xff~");
+    EXPECT_THROW(EncodeBase95Pair(21280, one), RuntimeFault);
+    EXPECT_EQ(EncodeBase95Pair(-32, one), std::string({' ', '\0'}));
+    EXPECT_THROW(EncodeBase95Pair(-33, one), RuntimeFault);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ class RecordingLink final : public Link {
     explicit RecordingLink(RehearsalHost& host) : host_(host) {}
 
     int takenPorts = 0;  ///< so many draws of a port meet a taken one
+    std::string startRefusal;
     std::int64_t window = 0;
 
     void ConnectServer(const std::string& address, int port) override {
@@ -34,8 +35,9 @@ class RecordingLink final : public Link {
     void WriteProxyFile(const std::string& path, std::string_view text) override {
         Tell("write " + path + "=" + std::string(text));
     }
-    void StartClient(const std::string& program, const std::string& characterFile) override {
+    std::string StartClient(const std::string& program, const std::string& characterFile) override {
         Tell("start " + program + " " + characterFile);
+        return startRefusal;
     }
     std::int64_t FindClientWindow() override { return window; }
     void CloseClientWindow(std::int64_t handle) override { Tell("close window " + std::to_string(handle)); }
