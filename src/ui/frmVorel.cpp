@@ -298,7 +298,7 @@ void frmVorel::BuildLanguageMenu(QMenu* menu) {
         const char *code, *name;
     };
     // Each language by its own name; the empty code is the desktop's language.
-    constexpr Language kLanguages[] = {{"", QT_TR_NOOP("The desktop's")}, {"en", "English"}, {"de", "Deutsch"}};
+    constexpr Language kLanguages[] = {{"", QT_TR_NOOP("&The desktop's")}, {"en", "&English"}, {"de", "&Deutsch"}};
     menu->setObjectName("mnuLanguage");
     auto* const group = new QActionGroup(menu);
     for (const auto& [code, name] : kLanguages) {
