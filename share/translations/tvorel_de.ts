@@ -892,7 +892,7 @@ Einstellungen und Datendateien liegen in %1.</translation>
     </message>
     <message>
         <source>&amp;The desktop&apos;s</source>
-        <translation>D&amp;ie des Desktops</translation>
+        <translation>Die de&amp;s Desktops</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <utility>
 
 namespace {
 
@@ -29,12 +30,12 @@ std::optional<QString> Chosen(const QString& path) { return path.isEmpty() ? std
 
 std::optional<QString> AskSaveName(Dialogs& dialogs, QWidget* parent, const QString& title, const QString& filter,
                                    const QString& folder, const QString& extension) {
-    const auto chosen = dialogs.AskSaveFile(parent, title, filter, folder);
+    auto chosen = dialogs.AskSaveFile(parent, title, filter, folder);
     if (!chosen || chosen->endsWith(extension, Qt::CaseInsensitive)) return chosen;
-    const QString path = *chosen + extension;
+    QString path = *chosen + extension;
     const QString question = QCoreApplication::translate("Dialogs", "%1 already exists. Replace it?").arg(path);
     const bool free = !QFileInfo::exists(path) || dialogs.Ask(parent, question, title) == Dialogs::Answer::Yes;
-    return free ? std::optional(path) : std::nullopt;
+    return free ? std::optional(std::move(path)) : std::nullopt;
 }
 
 void QtDialogs::ShowMessage(QWidget* parent, const QString& text, const QString& title, Icon icon) {

@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QSet>
 #include <QTabBar>
+#include <QTranslator>
 #include <map>
 
 #include "ui/Desk.h"
@@ -116,7 +117,22 @@ void ExpectAccessible(QWidget& window, const QString& page) {
     ExpectNoClashInWindow(window);
 }
 
-TEST(Accessibility, TheMainWindow) {
+/// In English, and in German, whose words have mnemonics of their own.
+class Accessibility : public testing::TestWithParam<const char*> {
+  protected:
+    QTranslator german;
+
+    void SetUp() override {
+        if (GetParam() == std::string("English")) return;
+        ASSERT_TRUE(german.load(TVOREL_GERMAN));
+        QCoreApplication::installTranslator(&german);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Windows, Accessibility, testing::Values("English", "German"),
+                         [](const auto& language) { return language.param; });
+
+TEST_P(Accessibility, TheMainWindow) {
     Desk desk;
     desk.Start();
     desk.window->show();
@@ -128,7 +144,7 @@ TEST(Accessibility, TheMainWindow) {
     ExpectNoClashInMenu(desk.The<QMenu>("mnuTray"));
 }
 
-TEST(Accessibility, TheEditor) {
+TEST_P(Accessibility, TheEditor) {
     Desk desk;
     desk.Write("vslist.vs", "(0:0) When the script is loaded,\r\n");
     desk.Start();
@@ -137,7 +153,7 @@ TEST(Accessibility, TheEditor) {
     ExpectAccessible(desk.Editor(), "with the find bar");
 }
 
-TEST(Accessibility, TheConfiguration) {
+TEST_P(Accessibility, TheConfiguration) {
     Profile profile;
     RecordingDialogs dialogs;
     frmCfg form(profile, {{"First", "a.example"}}, dialogs);

@@ -12,7 +12,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// The buttons of one array: what they send or add, a blank line for the tool launchers, and their captions in
+/// The buttons of one array: what they send or add (tool launchers nothing), and their captions in
 /// parentheses; without one they show a picture.
 struct ButtonArray {
     const char* name;
@@ -54,23 +54,16 @@ TEST(Controls, HaveTheirNamesTagsCaptionsAndPictures) {
         }
         EXPECT_EQ(desk.The(frame).findChildren<QToolButton*>().size(), tagsAndCaptions.size()) << array;
     }
-    for (const auto& [name, title] :
-         {std::pair{"fmeBot", "Console"}, {"fmeControls", "Control Panel"}, {"fmeTab_0", "A"}, {"fmeTab_4", "E"}}) {
-        EXPECT_EQ(desk.The<QGroupBox>(name).title(), title);
+    QStringList captions = {desk.The<QMenu>("mnuScript").title(), desk.The<QLabel>("lblLogo").text()};
+    for (const char* const frame : {"fmeBot", "fmeControls"}) captions << desk.The<QGroupBox>(frame).title();
+    for (const char* const button : {"cmdHelp", "cmdExit"}) captions << desk.The<QPushButton>(button).text();
+    for (const char* const item : {"mnuConnect", "mnuDisconnect", "mnuSAM", "mnuRun", "mnuGHelp"}) {
+        captions << desk.The<QAction>(item).text();
     }
-    for (const auto& [name, caption] : {std::pair{"mnuConnect", "&Connect"},
-                                        {"mnuDisconnect", "&Disconnect"},
-                                        {"mnuSAM", "Stand Alone &Mode"},
-                                        {"mnuRun", "&Run"},
-                                        {"mnuGHelp", "Vorel &Help"},
-                                        {"mnuTrayRestore", "&Restore"},
-                                        {"mnuTrayMinimize", "&Minimize"},
-                                        {"mnuTrayExit", "E&xit"}}) {
-        EXPECT_EQ(desk.The<QAction>(name).text(), caption);
-    }
-    EXPECT_EQ(desk.The<QMenu>("mnuScript").title(), "&Script");
-    EXPECT_EQ(desk.The<QPushButton>("cmdHelp").text() + desk.The<QPushButton>("cmdExit").text(), "HelpE&xit");
-    EXPECT_EQ(desk.The<QLabel>("lblLogo").text(), "Vorel");
+    for (const QAction* const item : desk.The<QMenu>("mnuTray").actions()) captions << item->text();
+    EXPECT_EQ(captions.join('|'),
+              "&Script|Vorel|Console|Control Panel|Help|E&xit|&Connect|&Disconnect|Stand Alone &Mode|&Run|Vorel &Help|"
+              "&Restore|&Minimize||E&xit");
 }
 
 TEST(Controls, ShowOneTabAtATime) {
@@ -143,7 +136,7 @@ TEST_F(InSession, ButtonsSendTheirTagWhileConnected) {
     EXPECT_EQ(sent, Lines()) << "not connected";
     ASSERT_TRUE(Connect());
     for (const auto& [array, frame, tagsAndCaptions] : kArrays) {
-        for (qsizetype i = 0; i < tagsAndCaptions.size() && *array && array != std::string("cmdC"); ++i) {
+        for (qsizetype i = 0; i < tagsAndCaptions.size() && array != std::string("cmdC"); ++i) {
             sent.clear();
             Button(desk, array, i).click();
             const bool emoticon = array == std::string("cmdEmoticon");
@@ -202,11 +195,6 @@ TEST(Reconnector, PausesGrowToFiveMinutesAndVaryByAQuarter) {
     EXPECT_EQ(Reconnector::PauseMs(0, 0.5), 5625);
     EXPECT_EQ(Reconnector::PauseMs(5, 0), 160000);
     EXPECT_EQ(Reconnector::PauseMs(1000, 0.8), 360000);
-    Reconnector reconnector([] { return 0.0; });
-    reconnector.Schedule();
-    EXPECT_EQ(reconnector.Schedule(), 10000);
-    reconnector.Stop();
-    EXPECT_EQ(reconnector.Schedule(), 5000) << "a short one again";
 }
 
 }  // namespace
