@@ -170,7 +170,7 @@
     </message>
     <message>
         <source>Replace &amp;all</source>
-        <translation>A&amp;lle ersetzen</translation>
+        <translation>Alle erse&amp;tzen</translation>
     </message>
 </context>
 <context>
@@ -506,7 +506,7 @@
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>Aus&amp;schneiden</translation>
+        <translation>Auss&amp;chneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -887,12 +887,12 @@ Einstellungen und Datendateien liegen in %1.</translation>
         <translation>S&amp;prache</translation>
     </message>
     <message>
-        <source>The language changes with the next start.</source>
-        <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
-    </message>
-    <message>
         <source>&amp;The desktop&apos;s</source>
         <translation>Die de&amp;s Desktops</translation>
+    </message>
+    <message>
+        <source>The language changes with the next start.</source>
+        <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
     </message>
 </context>
 </TS>
