@@ -894,5 +894,9 @@ Einstellungen und Datendateien liegen in %1.</translation>
         <source>The language changes with the next start.</source>
         <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
     </message>
+    <message>
+        <source>%1 was not opened, because opening it ended the program the last time. Mend its script, then open it again.</source>
+        <translation>%1 wurde nicht geöffnet, weil das Öffnen das Programm das letzte Mal beendet hat. Bring das Skript in Ordnung und öffne es dann wieder.</translation>
+    </message>
 </context>
 </TS>

@@ -29,5 +29,8 @@ std::string CommandPreview(std::string_view line) {
     const LineReading reading = ScriptLine(line).asCause;
     const Command* const command = FindCommand(reading.category, reading.number);
     if (!command || ListLine(*command) != line) return std::string(line);
-    return std::string(line).append("\n\n").append(command->explanation).append("\n\n").append(ExampleLine(*command));
+    std::string preview(line);
+    preview.append("\n\n").append(command->explanation);
+    const std::string example = ExampleLine(*command);
+    return example == line ? preview : preview.append("\n\n").append(example);
 }

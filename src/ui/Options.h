@@ -22,6 +22,9 @@ class Options {
     bool NotifyWhispers() const { return Flag("desktop/notifyWhispers", false); }
     bool TrayExplained() const { return Flag("desktop/trayExplained", false); }
     QString Language() const { return file_.value("desktop/language").toString(); }
+    /// The profile that a start has begun to open and not got through with; empty when none.
+    QString ProfileBeingOpened() const { return file_.value("recent/beingOpened").toString(); }
+
     QStringList RecentProfiles() const { return file_.value("recent/profiles").toStringList(); }
 
     template <typename Value>

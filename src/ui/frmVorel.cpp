@@ -422,7 +422,7 @@ void frmVorel::BeginWork() {
     editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
     const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
     if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
-    if (!settings.recent.empty()) OpenProfileFile(settings.recent);
+    if (!settings.recent.empty()) OpenMostRecent(settings.recent);
     if (faulted_) return;
     const QString log = options_.LogFile();
     if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
@@ -430,6 +430,20 @@ void frmVorel::BeginWork() {
     keepUnsaved_.start(kKeepUnsavedMs);
     updates_.Look();
     if (options_.ConnectAtStart()) host_.Connect();
+}
+
+/// Opens the profile of the last run, unless it ended the program then: it would do so at every start.
+void frmVorel::OpenMostRecent(const std::string& path) {
+    if (options_.ProfileBeingOpened() == ShownPath(path)) {
+        options_.Set("recent/beingOpened", QString());
+        Announce(tr("%1 was not opened, because opening it ended the program the last time. Mend its script, then open "
+                    "it again.")
+                     .arg(ShownPath(path)));
+        return;
+    }
+    options_.Set("recent/beingOpened", ShownPath(path));
+    OpenProfileFile(path);
+    if (!faulted_) options_.Set("recent/beingOpened", QString());
 }
 
 void frmVorel::OpenDocument(const std::string& path) {

@@ -101,6 +101,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
 
     void NewProfile();
     void OpenProfileByMenu();
+    void OpenMostRecent(const std::string& path);
     void OpenProfileFile(const std::string& path);
     bool SaveProfile();
     bool SaveProfileAs();

@@ -124,6 +124,7 @@ int main(int argc, char** argv) {
     QFile::copy(arguments[4], folder.filePath("vslist.vs"));
     QtDialogs dialogs;
     frmVorel window(dialogs, folder.path());
+    window.Start();
     window.OpenDocument(TypedPath(arguments[3]));
     window.host().bot().profile.serverAddress = kPracticeAddress;
     window.show();
