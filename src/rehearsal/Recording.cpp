@@ -47,7 +47,7 @@ void Recording::Note(Happening happening, std::string_view text) {
 /// until a whole login has come, nothing that the client says is written, nor what goes on of it to the server.
 std::string Recording::Recorded(Happening happening, std::string_view text) {
     if (happening == Happening::Linked) awaitsLogin_ = true;
-    const std::string shown = WithoutPassword(text);
+    std::string shown = WithoutPassword(text);
     if (shown != text) {
         if (happening == Happening::ClientLine) awaitsLogin_ = false;
         return shown;
