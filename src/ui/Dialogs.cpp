@@ -40,6 +40,7 @@ std::optional<QString> AskSaveName(Dialogs& dialogs, QWidget* parent, const QStr
 
 void QtDialogs::ShowMessage(QWidget* parent, const QString& text, const QString& title, Icon icon) {
     QMessageBox box(BoxIcon(icon), title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);  // a script and the game may say "<b>" too
     box.exec();
 }
 
@@ -47,6 +48,7 @@ Dialogs::Answer QtDialogs::Ask(QWidget* parent, const QString& text, const QStri
     QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
     if (offersCancel) buttons |= QMessageBox::Cancel;
     QMessageBox box(QMessageBox::Question, title, text, buttons, parent);
+    box.setTextFormat(Qt::PlainText);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

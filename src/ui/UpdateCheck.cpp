@@ -8,6 +8,20 @@
 
 #include "Version.h"
 
+namespace {
+
+constexpr qint64 kBufferBytes = qint64{1024} * 1024;  // more than a notice may have
+constexpr int kShownLines = 20;
+constexpr int kShownCharacters = 2000;
+
+/// As much of a text as a message box can show on a small screen.
+QString Shortened(const QString& text) {
+    const QString shown = text.section('\n', 0, kShownLines - 1).left(kShownCharacters);
+    return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
+}
+
+}  // namespace
+
 std::optional<UpdateNotice> UpdateNotice::Read(const QByteArray& bytes) {
     const QString text = QString::fromUtf8(bytes);
     const QString first = text.section('\n', 0, 0).trimmed();
@@ -17,35 +31,41 @@ std::optional<UpdateNotice> UpdateNotice::Read(const QByteArray& bytes) {
         return c == QChar::ReplacementCharacter || (c < u' ' && c != u'\n' && c != u'\r' && c != u'\t');
     });
     if (version.isNull() || end != first.size() || rubbish) return std::nullopt;
-    return UpdateNotice{version, text.section('\n', 1).trimmed()};
+    return UpdateNotice{version, Shortened(text.section('\n', 1).trimmed())};
 }
 
-UpdateCheck::UpdateCheck(QUrl base, QObject* parent) : QObject(parent), base_(std::move(base)) {}
+UpdateCheck::UpdateCheck(QUrl base, UpdateLimits limits, QObject* parent)
+    : QObject(parent), base_(std::move(base)), limits_(limits) {}
 
-QNetworkReply* UpdateCheck::Get(const QString& path, qint64 limit) {
+QNetworkReply* UpdateCheck::Get(const QString& path) {
     QUrl url = base_;
     url.setPath(base_.path() + path);
     QNetworkRequest request(url);
     // Only within the same server: an update comes from where it is expected, or not at all.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    request.setTransferTimeout(kStallMs);
+    request.setMaximumRedirectsAllowed(3);
+    // Compressed, a few bytes could unfold to any number.
+    request.setRawHeader("Accept-Encoding", "identity");
+    request.setTransferTimeout(static_cast<int>(limits_.silence.count()));
     QNetworkReply* const reply = network_.get(request);
-    reply->setReadBufferSize(limit + 1);
-    connect(reply, &QNetworkReply::downloadProgress, reply, [reply, limit](qint64 received, qint64 total) {
-        if (received > limit || total > limit) reply->abort();
-    });
+    reply->setReadBufferSize(kBufferBytes);
     connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
     return reply;
 }
 
 void UpdateCheck::Look() {
     if (base_.isEmpty()) return;
-    QNetworkReply* const reply = Get("/tandryvorel.txt", kNoticeLimit);
-    connect(reply, &QNetworkReply::finished, this, [this, reply] {
-        if (reply->error() != QNetworkReply::NoError) return;
-        const auto notice = UpdateNotice::Read(reply->read(kNoticeLimit));
-        if (!notice || notice->version <= QVersionNumber::fromString(QLatin1String(kProductVersion))) return;
-        emit NewerFound(notice->version.toString(), notice->text);
+    QNetworkReply* const reply = Get("/tandryvorel.txt");
+    const auto tooLong = [this, reply] { return reply->bytesAvailable() > limits_.noticeBytes; };
+    connect(reply, &QNetworkReply::readyRead, this, [reply, tooLong] {
+        if (tooLong()) reply->abort();
+    });
+    connect(reply, &QNetworkReply::finished, this, [this, reply, tooLong] {
+        const bool whole = reply->error() == QNetworkReply::NoError && !tooLong();
+        const auto notice = whole ? UpdateNotice::Read(reply->readAll()) : std::nullopt;
+        if (notice && notice->version > QVersionNumber::fromString(QLatin1String(kProductVersion)))
+            emit NewerFound(notice->version.toString(), notice->text);
+        emit Looked();
     });
 }
 
@@ -56,10 +76,10 @@ void UpdateCheck::FetchArchive(const QString& path) {
         emit ArchiveDone(file->errorString());
         return;
     }
-    QNetworkReply* const reply = Get("/software/tvupdate.zip", kArchiveLimit);
-    connect(reply, &QNetworkReply::readyRead, file.get(), [reply, file] {
+    QNetworkReply* const reply = Get("/software/tvupdate.zip");
+    connect(reply, &QNetworkReply::readyRead, this, [this, reply, file] {
         const QByteArray piece = reply->readAll();
-        if (file->write(piece) != piece.size()) reply->abort();
+        if (file->write(piece) != piece.size() || file->pos() > limits_.archiveBytes) reply->abort();
     });
     connect(reply, &QNetworkReply::finished, this, [this, reply, file] {
         const bool whole = reply->error() == QNetworkReply::NoError && file->error() == QFileDevice::NoError;

@@ -4,20 +4,28 @@
 #include <QObject>
 #include <QUrl>
 #include <QVersionNumber>
+#include <chrono>
 #include <functional>
 #include <optional>
 
 class QNetworkReply;
-class QSaveFile;
 
 /// The notice of a newer version: the first line is the version, the rest the text shown.
 struct UpdateNotice {
     QVersionNumber version;
     QString text;
 
+    /// @param bytes  UTF-8
     /// @return nothing for what is no notice: an empty one, one without a version in its first line, or control
-    ///         characters in it
+    ///         characters in it; a text too long for a message box is cut and ends with an ellipsis
     static std::optional<UpdateNotice> Read(const QByteArray& bytes);
+};
+
+/// What an update server may take of this computer.
+struct UpdateLimits {
+    qint64 noticeBytes = qint64{64} * 1024;
+    qint64 archiveBytes = qint64{256} * 1024 * 1024;
+    std::chrono::milliseconds silence{15000};  ///< how long it may stay silent
 };
 
 /// Fetches the notice of a newer version, and its archive to a place that the user chooses. What is fetched is never
@@ -27,27 +35,25 @@ class UpdateCheck final : public QObject {
 
   public:
     /// @param base  where "/tandryvorel.txt" and "/software/tvupdate.zip" lie; when empty nothing is ever fetched
-    explicit UpdateCheck(QUrl base, QObject* parent = nullptr);
+    explicit UpdateCheck(QUrl base, UpdateLimits limits = {}, QObject* parent = nullptr);
 
-    /// Looks for a notice; NewerFound comes only for a version newer than ours.
+    /// Looks for a notice; NewerFound comes only for a version newer than ours, Looked in every case.
     void Look();
 
     /// Fetches the archive to a file. The file appears when it is complete, or not at all.
     void FetchArchive(const QString& file);
 
-    static constexpr qint64 kNoticeLimit = qint64{64} * 1024;
-    static constexpr qint64 kArchiveLimit = qint64{256} * 1024 * 1024;
-    static constexpr int kStallMs = 15000;
-
   signals:
     void NewerFound(const QString& version, const QString& text);
+    void Looked();
 
     /// @param why  empty when the archive lies in its place
     void ArchiveDone(const QString& why);
 
   private:
     QUrl base_;
+    UpdateLimits limits_;
     QNetworkAccessManager network_;
 
-    QNetworkReply* Get(const QString& path, qint64 limit);
+    QNetworkReply* Get(const QString& path);
 };
