@@ -1,5 +1,3 @@
-#include "ui/UpdateCheck.h"
-
 #include <gmock/gmock.h>
 
 #include <QDir>
@@ -8,6 +6,7 @@
 
 #include "support/Cases.h"
 #include "support/GameServer.h"
+#include "ui/UpdateCheck.h"
 
 namespace {
 
@@ -77,8 +76,7 @@ INSTANTIATE_TEST_SUITE_P(
         UpdateCase{"Newer", Ok("99.1\r\nBetter walks.\nAnd more.\n"), kClose, "99.1:Better walks.\nAnd more."},
         UpdateCase{"LongText", Ok("99.1\n" + QByteArray(30, '\n') + QByteArray("a\n").repeated(30)), kClose,
                    "99.1:" + QString("a\n").repeated(19) + QString::fromUtf8("a…")},
-        UpdateCase{"Ours", Ok("1.0.0\nThis one."), kClose, ""},
-        UpdateCase{"Older", Ok("0.9.9\nLong ago."), kClose, ""},
+        UpdateCase{"Ours", Ok("1.0.0\nThis one."), kClose, ""}, UpdateCase{"Older", Ok("0.9.9\nLong ago."), kClose, ""},
         UpdateCase{"NoVersion", Ok("<html>99.1</html>"), kClose, ""},
         UpdateCase{"VersionAndMore", Ok("99.1 <b>\ntext"), kClose, ""},
         UpdateCase{"Binary", Ok(QByteArray("99.1\n\x01\x02\xff", 8)), kClose, ""},
@@ -88,8 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
         UpdateCase{"NotFound", "HTTP/1.1 404 No\r\nContent-Length: 4\r\n\r\n99.1", kClose, ""},
         UpdateCase{"NoHttp", "99.1\n\n", kClose, ""},
         UpdateCase{"LeadsElsewhere", "HTTP/1.1 302 Go\r\nLocation: ELSEWHERE\r\nContent-Length: 0\r\n\r\n", kClose, ""},
-        UpdateCase{"LeadsInACircle",
-                   "HTTP/1.1 302 Go\r\nLocation: /base/tandryvorel.txt\r\nContent-Length: 0\r\n\r\n", kClose, ""},
+        UpdateCase{"LeadsInACircle", "HTTP/1.1 302 Go\r\nLocation: /base/tandryvorel.txt\r\nContent-Length: 0\r\n\r\n",
+                   kClose, ""},
         UpdateCase{"Silent", "", kStayOpen, ""},
         UpdateCase{"StopsHalfway", "HTTP/1.1 200 OK\r\n\r\n99.1\nhalf", kStayOpen, ""},
         UpdateCase{"Endless", "HTTP/1.1 200 OK\r\n\r\n99.1\n", kNeverEnd, ""},
