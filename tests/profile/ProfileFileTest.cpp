@@ -13,7 +13,7 @@ namespace {
 using Told = std::vector<std::string>;
 
 constexpr char kProfile[] =
-    "Port=1\r\n[General]\r\nFURCADIACLIENT=game/client.exe\r\nFurcadiaCharacter=bot.ini\r\nOwners=Ann, Bob\r\n"
+    "Port=1\r\n[General]\r\nFURCADIACLIENT=game/v=2.exe\r\nFurcadiaCharacter=bot.ini\r\nOwners=Ann, Bob\r\n"
     "Maps=Vale\r\nConnectClient=1x\r\nCloseClient=none\r\nPort=80\r\nport =7\r\nScript=Greet.VS\r\nnothing\r\n"
     "[Other]\r\nOwners=Zed\r\n[IGNORES]\r\nMean One\r\n\r\nOwners=Eve\r\n";
 
@@ -33,7 +33,7 @@ TEST(LoadProfile, ReadsTheSectionsItKnows) {
     const Profile& profile = bot.bot.profile;
     const std::vector<std::string> texts = {profile.path,   profile.clientPath, profile.characterPath,
                                             profile.owners, profile.maps,       profile.scriptPath};
-    EXPECT_EQ(Join(texts, "; "), "bots/bot.tvm; game/client.exe; bot.ini; Ann, Bob; Vale; Greet.VS");
+    EXPECT_EQ(Join(texts, "; "), "bots/bot.tvm; game/v=2.exe; bot.ini; Ann, Bob; Vale; Greet.VS");
     EXPECT_FALSE(profile.signatureFirst);
     EXPECT_EQ(std::tuple(profile.connectClient, profile.closeClient, profile.port), std::tuple(1, 0, 80));
     EXPECT_EQ(profile.ignores, (std::vector<std::string>{"Mean One", "", "Owners=Eve"}));
