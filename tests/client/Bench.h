@@ -22,7 +22,9 @@ class HiddenDisplay {
         qputenv("DISPLAY", ":" + number.trimmed());
     }
     ~HiddenDisplay() { End(); }
+    /// From now on there is none; under its number another test's may come up.
     void End() {
+        qunsetenv("DISPLAY");
         server_.kill();
         server_.waitForFinished();
     }

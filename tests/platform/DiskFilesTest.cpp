@@ -10,15 +10,6 @@
 
 namespace {
 
-std::string FaultOf(const std::function<void()>& work) {
-    try {
-        work();
-    } catch (const RuntimeFault& fault) {
-        return std::string(fault.Name()) + ": " + fault.Detail();
-    }
-    return "";
-}
-
 /// As on a full disk: no file grows beyond this size.
 void LimitFileSizes(rlim_t size) {
     std::signal(SIGXFSZ, SIG_IGN);
@@ -28,41 +19,46 @@ void LimitFileSizes(rlim_t size) {
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-TEST(DiskFiles, AreWrittenWholeOrNotAtAll) {
+TEST(DiskFiles, AreWrittenWholeOrNotAtAllAndNamedInFaults) {
     const BotFiles files;
     DiskFiles disk;
     const std::string path = files.Path("pets.ini").toStdString(), bytes("a\0\r\n\xE9", 5), much(200000, 'x');
-    disk.Write(path, much);
+    const auto faultOf = [&](auto work, const std::string& file) {
+        try {
+            work(file);
+        } catch (const RuntimeFault& fault) {
+            return std::string(fault.Name()) + (fault.Detail() == file ? "" : " of another file");
+        }
+        return std::string("none");
+    };
+    const auto write = [&](const std::string& file) { disk.Write(file, much); };
+    const auto read = [&](const std::string& file) { disk.Read(file); };
+    EXPECT_EQ(faultOf(write, path), "none");
     disk.Write(path, bytes);
     EXPECT_EQ(disk.Read(path), bytes) << "nothing of the longer file is left";
     LimitFileSizes(1000);
-    EXPECT_EQ(FaultOf([&] { disk.Write(path, much); }), "Path or file access error: " + path);
+    EXPECT_EQ(faultOf(write, path), "Path or file access error");
     LimitFileSizes(RLIM_INFINITY);
     EXPECT_EQ(disk.Read(path), bytes);
     EXPECT_EQ(QDir(files.Path()).entryList(QDir::Files | QDir::Hidden), QStringList("pets.ini"));
-}
-
-TEST(DiskFiles, AreNamedWhenTheyCantBeReadOrWritten) {
-    const BotFiles files;
-    DiskFiles disk;
-    const std::string folder = files.Path().toStdString(), opensAndThenFails = "/proc/self/mem";
-    EXPECT_EQ(FaultOf([&] { disk.Read(folder + "/none"); }), "File not found: " + folder + "/none");
-    EXPECT_EQ(FaultOf([&] { disk.Read(folder); }), "Path or file access error: " + folder);
-    EXPECT_EQ(FaultOf([&] { disk.Read(opensAndThenFails); }), "Path or file access error: " + opensAndThenFails);
+    EXPECT_EQ(faultOf(read, path + "none"), "File not found");
+    EXPECT_EQ(faultOf(read, files.Path().toStdString()), "Path or file access error");
+    EXPECT_EQ(faultOf(read, "/proc/self/mem"), "Path or file access error") << "which opens, and fails then";
 }
 
 TEST(DiskFiles, AreFoundWithoutRegardToCase) {
     const BotFiles files;
     for (const char* name : {"Pets.INI", "twin.ini", "Twin.ini"}) files.Write(name, "");
     ASSERT_TRUE(QDir(files.Path()).mkdir("folder"));
-    const struct {
-        const char *wanted, *found;
-    } cases[] = {{"pets.ini", "Pets.INI"}, {"twin.ini", "twin.ini"}, {"Twin.ini", "Twin.ini"},
-                 {"pets", nullptr},        {"FOLDER", nullptr},      {"", nullptr},
-                 {"no/such", nullptr}};
-    for (const auto& c : cases) {
-        const auto found = DiskFiles().Find(files.Path(c.wanted).toStdString());
-        EXPECT_EQ(found, c.found ? std::optional(files.Path(c.found).toStdString()) : std::nullopt) << c.wanted;
+    for (const auto& [wanted, found] : {std::pair{"pets.ini", "Pets.INI"},
+                                        {"twin.ini", "twin.ini"},
+                                        {"Twin.ini", "Twin.ini"},
+                                        {"pets", ""},
+                                        {"FOLDER", ""},
+                                        {"", ""},
+                                        {"no/such", ""}}) {
+        const std::string path = DiskFiles().Find(files.Path(wanted).toStdString()).value_or("");
+        EXPECT_EQ(path, *found ? files.Path(found).toStdString() : "") << wanted;
     }
 }
 
