@@ -81,18 +81,13 @@ class Leaving : public Program, public testing::WithParamInterface<const char*> 
                                        "[Save Vorel] Do you want to save any changes to your bot's configuration?"};
         const QString expected = "yes-no-cancel " + questions.mid(0, answers.size()).join("|yes-no-cancel ");
         if (leaves && way == "mnuOpen") answers << Path("other.tvm");
-        const auto leave = [this] {
-            if (way == "Recent") {
-                OpenRecent(1);
-            } else if (way == "Drop") {
-                Drop("other.tvm");
-            } else if (way == "CloseBox") {
-                window->close();
-            } else {
-                RecordingDialogs::Choose(*window, GetParam());
-            }
-        };
-        EXPECT_TRUE(dialogs.During(answers, leave).startsWith(expected));
+        const std::map<std::string, std::function<void()>> others = {{"Recent", [this] { OpenRecent(1); }},
+                                                                     {"Drop", [this] { Drop("other.tvm"); }},
+                                                                     {"CloseBox", [this] { window->close(); }}};
+        const auto other = others.find(way);
+        const QString told =
+            other == others.end() ? Choose(GetParam(), answers) : dialogs.During(answers, other->second);
+        EXPECT_TRUE(told.startsWith(expected)) << told;
         EXPECT_EQ(window->isVisible() && bot().profile.dirty, !leaves);
         EXPECT_EQ(window->isVisible() && bot().profile.owners == "Eve" && Editor().IsDirty(), !leaves);
     }
