@@ -19,31 +19,28 @@ void LimitFileSizes(rlim_t size) {
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
+/// A fault of this kind that names this file.
+auto Fails(FaultKind kind, const std::string& file) {
+    return testing::Throws<RuntimeFault>(
+        testing::AllOf(testing::Property(&RuntimeFault::Kind, kind), testing::Property(&RuntimeFault::Detail, file)));
+}
+
 TEST(DiskFiles, AreWrittenWholeOrNotAtAllAndNamedInFaults) {
     const BotFiles files;
     DiskFiles disk;
-    const std::string path = files.Path("pets.ini").toStdString(), bytes("a\0\r\n\xE9", 5), much(200000, 'x');
-    const auto faultOf = [&](auto work, const std::string& file) {
-        try {
-            work(file);
-        } catch (const RuntimeFault& fault) {
-            return std::string(fault.Name()) + (fault.Detail() == file ? "" : " of another file");
-        }
-        return std::string("none");
-    };
-    const auto write = [&](const std::string& file) { disk.Write(file, much); };
-    const auto read = [&](const std::string& file) { disk.Read(file); };
-    EXPECT_EQ(faultOf(write, path), "none");
+    const std::string folder = files.Path().toStdString(), path = folder + "/pets.ini", memory = "/proc/self/mem";
+    const std::string bytes("a\0\r\n\xE9", 5), much(200000, 'x');
+    disk.Write(path, much);
     disk.Write(path, bytes);
     EXPECT_EQ(disk.Read(path), bytes) << "nothing of the longer file is left";
     LimitFileSizes(1000);
-    EXPECT_EQ(faultOf(write, path), "Path or file access error");
+    EXPECT_THAT([&] { disk.Write(path, much); }, Fails(FaultKind::PathOrFileAccess, path));
     LimitFileSizes(RLIM_INFINITY);
     EXPECT_EQ(disk.Read(path), bytes);
     EXPECT_EQ(QDir(files.Path()).entryList(QDir::Files | QDir::Hidden), QStringList("pets.ini"));
-    EXPECT_EQ(faultOf(read, path + "none"), "File not found");
-    EXPECT_EQ(faultOf(read, files.Path().toStdString()), "Path or file access error");
-    EXPECT_EQ(faultOf(read, "/proc/self/mem"), "Path or file access error") << "which opens, and fails then";
+    EXPECT_THAT([&] { disk.Read(path + "none"); }, Fails(FaultKind::FileNotFound, path + "none"));
+    EXPECT_THAT([&] { disk.Read(folder); }, Fails(FaultKind::PathOrFileAccess, folder));
+    EXPECT_THAT([&] { disk.Read(memory); }, Fails(FaultKind::PathOrFileAccess, memory)) << "opens, and fails then";
 }
 
 TEST(DiskFiles, AreFoundWithoutRegardToCase) {
