@@ -1,236 +1,156 @@
-#include <gtest/gtest.h>
-#include <xcb/xcb.h>
+#include <optional>
 
 #include "client/Bench.h"
-#include "engine/Script.h"
-#include "platform/QtHost.h"
-#include "support/BotFiles.h"
 #include "support/Cases.h"
-#include "support/Notebook.h"
+#include "support/HostBench.h"
 
 namespace {
 
-class ClientMode : public testing::Test {
+/// A stand-in for the game's client, %1 a port of the test's, the leash. It links to the bot when its window is there,
+/// logs in, leaves when the server says so, and lives on until the test is gone.
+constexpr char kClient[] = R"(#!/bin/bash
+exec 4<> /dev/tcp/127.0.0.1/%1
+echo "process $$." >&4
+read -r <&4
+read -r host port < proxy.ini
+exec 3<> "/dev/tcp/127.0.0.1/${port%$'\r'}"
+printf 'connect Bot|One made-up\n' >&3
+while read -r line <&3; do
+    [ "$line" = '(crash' ] && exit
+    [ "$line" = '(unlink' ] && break
+done
+exec 3>&-
+echo unlinked >&4
+read -r <&4
+)";
+
+class ClientMode : public HostBench {
   public:
     ClientMode() {
-        QFile::link(TVOREL_STAND_IN_CLIENT, files_.Path("client"));
-        Profile& profile = host_.bot().profile;
-        profile.connectClient = profile.closeClient = 1;
-        profile.owners = "Ann";
-        profile.characterPath = files_.Path("bot.ini").toStdString();
-        profile.clientPath = files_.Path("client").toStdString();
-        host_.bot().script = std::make_shared<Script>(ScriptText("(0:2) out,\r\n(5:2) {out}").toStdString());
-        host_.session().SetServer("127.0.0.1", server_.listener.serverPort());
+        files.Write("client", QString(kClient).arg(leash.listener.serverPort()).toLatin1());
+        files.Write("wrapper", "#!/bin/sh\n./client &\n");
+        SetClient("client");
     }
-
-    void Connect(const QByteArray& window = "class=Furcadia") {
-        files_.Write("bot.ini", client_.Character(window));
-        host_.session().Connect();
+    void SetClient(const QString& program) {
+        Profile& profile = host.bot().profile;
+        profile.connectClient = profile.closeClient = 1;
+        profile.clientPath = files.Path(program).toStdString();
     }
     /// Up to the point where the client has logged in.
-    void Link(const QByteArray& window = "class=Furcadia") {
-        const std::size_t number = server_.bots.size();
-        Connect(window);
-        ASSERT_TRUE(Eventually([&] { return server_.bots.size() > number && host_.IsServerConnected(); }));
-        server_.Say("Welcome\n", number);
-        ASSERT_TRUE(server_.Hears("connect Bot|One made-up\n", number));
-    }
-    /// Opens a window that has nothing to do with the bot.
-    void OpenStranger(Leash& leash, const QByteArray& window) {
-        files_.Write("stranger.ini", leash.Character(window));
-        QProcess stranger;
-        stranger.setProgram(TVOREL_STAND_IN_CLIENT);
-        stranger.setArguments({files_.Path("stranger.ini")});
-        stranger.setWorkingDirectory("/");
-        ASSERT_TRUE(stranger.startDetached());
-        ASSERT_TRUE(leash.Hears("ready"));
+    void Link(const QByteArray& className = "Furcadia", bool tellsProcess = true) {
+        const std::size_t session = server.bots.size();
+        host.Connect();
+        ASSERT_TRUE(leash.Hears(".\n", session));
+        const std::uint32_t process = leash.heard[session].mid(8).chopped(2).toUInt();
+        window.emplace(className, tellsProcess ? process : 0);
+        leash.Say("go\n", session);
+        ASSERT_TRUE(server.Hears("connect Bot|One made-up\n", session));
     }
 
-    BotFiles files_;
-    HiddenDisplay display_;
-    GameServer server_;
-    Leash client_;
-    Notebook notebook_;
-    QtHost host_{notebook_, files_.Path().toStdString()};
+    HiddenDisplay display;
+    GameServer leash;
+    std::optional<Window> window;  ///< the client's
 };
 
-TEST_F(ClientMode, StandAloneModeLetsTheClientGoAndStaysInTheGame) {
-    Link();
-    host_.session().StandAlone();
-    EXPECT_TRUE(client_.Hears("unlinked"));
-    host_.session().TypeLine("still here");
-    EXPECT_TRUE(server_.Hears("\"still here"));
-    EXPECT_TRUE(client_.IsLeftAlone());
-    host_.session().Disconnect();
-    EXPECT_TRUE(client_.Hears("asked to close"));
-}
-
-class DyingClient : public ClientMode, public testing::WithParamInterface<const char*> {};
-
-TEST_P(DyingClient, LeavesTheBotInTheGame) {
-    Link();
-    client_.Say(GetParam() + QByteArray("\n"));
-    EXPECT_TRUE(client_.Hears("<end>"));
-    EXPECT_TRUE(Eventually([&] { return !host_.bot().status.canStandAlone; }));
-    host_.session().TypeLine("still here");
-    EXPECT_TRUE(server_.Hears("\"still here"));
-    host_.session().Disconnect();
-    EXPECT_TRUE(server_.Hears("<end>"));
-    EXPECT_EQ(notebook_.Count("out"), 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(ClientMode, DyingClient, testing::Values("quit", "crash"),
-                         [](const auto& test) { return std::string(test.param); });
-
-struct EndCase {
+struct PartingCase {
     const char* name;
-    void (*end)(ClientMode&);
-    bool closes;
-    int eventsOut;
+    void (*part)(ClientMode&);
+    const char* clientTells;
+    bool closesWindow, staysInGame;
 };
 
 // clang-format off
-const EndCase kEnds[] = {
-    {"Disconnect",    [](ClientMode& b) { b.host_.session().Disconnect(); }, true, 1},
-    {"ServerCloses",  [](ClientMode& b) { b.server_.Close(); EXPECT_TRUE(Eventually([&] { return !b.host_.IsServerConnected(); })); }, true, 1},
-    {"ClientUnlinks", [](ClientMode& b) { EXPECT_TRUE(b.client_.Does("unlink")); EXPECT_TRUE(b.client_.Hears("asked to close")); }, true, 0},
-    {"WindowIsKept",  [](ClientMode& b) { b.host_.bot().profile.closeClient = 0; b.host_.session().Disconnect(); }, false, 1},
-    {"ServerFails",   [](ClientMode& b) { b.host_.session().OnServerError({}); }, false, 0},
+const PartingCase kPartings[] = {
+    {"ServerCloses",  [](ClientMode& b) { b.server.Close(); }, "", true, false},
+    {"ClientUnlinks", [](ClientMode& b) { b.server.Say("(unlink\n"); }, "unlinked", true, true},
+    {"ClientCrashes", [](ClientMode& b) { b.server.Say("(crash\n(and leaves this unread\n"); }, "<end>", true, true},
+    {"StandAlone",    [](ClientMode& b) { b.host.session().StandAlone(); }, "unlinked", false, true},
+    {"WindowIsKept",  [](ClientMode& b) { b.host.bot().profile.closeClient = 0; b.host.Disconnect(); }, "unlinked", false, false},
 };
 // clang-format on
 
-class EndOfSession : public ClientMode, public testing::WithParamInterface<EndCase> {};
+class Parting : public ClientMode, public testing::WithParamInterface<PartingCase> {};
 
-TEST_P(EndOfSession, ClosesTheClientsWindowOrLeavesIt) {
+TEST_P(Parting, EndsTheClientOrTheSessionOrBoth) {
     Link();
-    GetParam().end(*this);
-    if (GetParam().closes) {
-        EXPECT_TRUE(client_.Hears("asked to close") && client_.Hears("<end>"));
-    } else {
-        EXPECT_TRUE(client_.IsLeftAlone());
-    }
-    EXPECT_EQ(notebook_.Count("out"), GetParam().eventsOut);
-    host_.bot().profile.closeClient = 1;
-    host_.session().Disconnect();  // the window may be gone, and its handle still known
-    host_.session().Disconnect();
-    EXPECT_TRUE(client_.Hears("<end>"));
+    GetParam().part(*this);
+    EXPECT_TRUE(Eventually([&] { return !host.bot().status.canStandAlone; }));
+    EXPECT_TRUE(leash.Hears(GetParam().clientTells));
+    EXPECT_EQ(window->IsAskedToClose(), GetParam().closesWindow);
+    EXPECT_EQ(host.IsServerConnected(), GetParam().staysInGame);
+    host.session().TypeLine("still here");
+    EXPECT_TRUE(!GetParam().staysInGame || server.Hears("\"still here"));
+    if (GetParam().closesWindow) window.reset();  // its handle may be known still
+    host.bot().profile.closeClient = 1;
+    host.Disconnect();
+    EXPECT_TRUE(!window || window->IsAskedToClose());
+    EXPECT_TRUE(server.Hears("<end>"));
+    EXPECT_EQ(screen.Count("gone"), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(ClientMode, EndOfSession, testing::ValuesIn(kEnds), kCaseName);
+INSTANTIATE_TEST_SUITE_P(ClientMode, Parting, testing::ValuesIn(kPartings), kCaseName);
 
+/// The classes of the client's window and of a stranger's before and after it. They tell their process, or none does.
 struct WindowCase {
-    const char *name, *window, *program, *strangerBefore, *strangerAfter;
-    bool closes;
+    const char *name, *program, *strangerBefore, *window, *strangerAfter;
+    bool tellProcess, closes;
 };
 
-// The window's class as the client or a stranger gives it; "anonymous" ones don't tell their process.
 const WindowCase kWindows[] = {
-    {"OfTheProgramBeforeOthersAlike", "class=Furcadia", "client", "class=Furcadia", "class=Furcadia", true},
-    {"OfAWrappersProgram", "class=furcadia.exe", "wrapper", "", "", true},
-    {"AnonymousButExact", "class=Furcadia\nanonymous=1", "client", "class=Furcadia\nanonymous=1", "", true},
-    {"AnonymousAndInexact", "class=furcadia.exe\nanonymous=1", "client", "", "class=furcadia.exe", false},
-    {"OfAnotherClass", "class=Editor", "client", "class=Furcadia", "class=Editor", false},
+    {"OfTheProgramBeforeOthersAlike", "client", "Furcadia", "Furcadia", "Furcadia", true, true},
+    {"OfAWrappersProgram", "wrapper", "Other", "furcadia.exe", "Other", true, true},
+    {"AnonymousButExact", "client", "Furcadia", "Furcadia", "Other", false, true},
+    {"AnonymousAndInexact", "client", "Other", "furcadia.exe", "furcadia.exe", false, false},
+    {"OfAnotherClass", "client", "Furcadia", "Editor", "Editor", true, false},
 };
 
 class WindowOwner : public ClientMode, public testing::WithParamInterface<WindowCase> {};
 
 TEST_P(WindowOwner, DecidesWhichWindowIsClosed) {
     const WindowCase& given = GetParam();
-    files_.Write("wrapper", "#!/bin/sh\n" TVOREL_STAND_IN_CLIENT " \"$1\" &\n");
-    host_.bot().profile.clientPath = files_.Path(given.program).toStdString();
-    Leash before, after;
-    if (*given.strangerBefore) OpenStranger(before, given.strangerBefore);
-    Link(given.window);
-    if (*given.strangerAfter) OpenStranger(after, given.strangerAfter);
-    host_.session().Disconnect();
-    EXPECT_TRUE(given.closes ? client_.Hears("asked to close") : client_.IsLeftAlone());
-    EXPECT_TRUE(!*given.strangerBefore || before.IsLeftAlone());
-    EXPECT_TRUE(!*given.strangerAfter || after.IsLeftAlone());
+    const auto nobodysClient = static_cast<std::uint32_t>(given.tellProcess ? getpid() : 0);
+    SetClient(given.program);
+    Window before(given.strangerBefore, nobodysClient);
+    Link(given.window, given.tellProcess);
+    Window after(given.strangerAfter, nobodysClient);
+    host.Disconnect();
+    EXPECT_EQ(window->IsAskedToClose(), given.closes);
+    EXPECT_FALSE(before.IsAskedToClose() || after.IsAskedToClose());
 }
 
 INSTANTIATE_TEST_SUITE_P(ClientMode, WindowOwner, testing::ValuesIn(kWindows), kCaseName);
 
 TEST_F(ClientMode, WithoutADisplayEverythingElseWorksAndIsToldOnce) {
-    display_.End();
-    for (std::size_t session = 0; session < 2; ++session) {
+    for (std::size_t session = 0; session < 3; ++session) {
         Link();
-        EXPECT_EQ(notebook_.Count("window can't be found"), session == 0 ? 1 : 0);
-        host_.session().Disconnect();
-        EXPECT_TRUE(client_.Hears("unlinked", session));
+        EXPECT_EQ(screen.Count("window can't be found"), session == 1 ? 1 : 0);
+        display.End();  // under the eyes of the first session
+        host.Disconnect();
+        EXPECT_TRUE(leash.Hears("unlinked", session));
     }
 }
-
-TEST_F(ClientMode, ADisplayThatGoesAwayHarmsNothing) {
-    Link();
-    display_.End();
-    host_.session().Disconnect();
-    EXPECT_TRUE(client_.Hears("unlinked"));
-}
-
-/// Takes the place of a window manager that closes windows on request, and counts the requests.
-class Manager {
-  public:
-    Manager() {
-        const xcb_window_t window = xcb_generate_id(connection_);
-        xcb_create_window(connection_, 0, window, root_, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, 0, 0, nullptr);
-        const std::uint32_t requests = XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT;
-        xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &requests);
-        Set(window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW, window);
-        Set(root_, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW, window);
-        Set(root_, "_NET_SUPPORTED", XCB_ATOM_ATOM, Atom("_NET_CLOSE_WINDOW"));
-    }
-    ~Manager() { xcb_disconnect(connection_); }
-    Manager(const Manager&) = delete;
-
-    int CloseRequests() {
-        const xcb_atom_t close = Atom("_NET_CLOSE_WINDOW");
-        int count = 0;
-        while (xcb_generic_event_t* const event = xcb_poll_for_event(connection_)) {
-            if (reinterpret_cast<const xcb_client_message_event_t*>(event)->type == close) ++count;
-            std::free(event);
-        }
-        return count;
-    }
-
-  private:
-    xcb_connection_t* connection_ = xcb_connect(nullptr, nullptr);
-    xcb_window_t root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-
-    xcb_atom_t Atom(std::string_view name) {
-        const auto asked = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
-        xcb_intern_atom_reply_t* const reply = xcb_intern_atom_reply(connection_, asked, nullptr);
-        const xcb_atom_t atom = reply->atom;
-        std::free(reply);
-        return atom;
-    }
-    void Set(xcb_window_t window, std::string_view property, xcb_atom_t type, std::uint32_t value) {
-        xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, Atom(property), type, 32, 1, &value);
-    }
-};
 
 TEST_F(ClientMode, AWindowManagerThatOffersToIsAskedToCloseTheWindow) {
     Link();
     {
         Manager manager;
-        ASSERT_EQ(manager.CloseRequests(), 0);
-        host_.session().OnServerClosed();
+        host.session().OnServerClosed();
         EXPECT_EQ(manager.CloseRequests(), 1);
-        EXPECT_TRUE(client_.IsLeftAlone());
+        EXPECT_FALSE(window->IsAskedToClose());
     }
-    host_.session().Disconnect();  // what the manager left behind when it ended is no offer
-    EXPECT_TRUE(client_.Hears("asked to close"));
+    host.Disconnect();  // what the manager left behind when it ended is no offer
+    EXPECT_TRUE(window->IsAskedToClose());
 }
 
 TEST_F(ClientMode, AClientThatCantBeStartedEndsTheSessionWithAReason) {
-    const QString path = files_.Write("client.txt", "not a program");
-    host_.bot().profile.clientPath = path.toStdString();
+    files.Write("client.txt", "not a program");
+    SetClient("client.txt");
     for (const auto& [permissions, reason] : {std::pair{QFile::ReadOwner | QFile::ExeOwner, "could not be started: "},
                                               {QFile::Permissions(QFile::ReadOwner), "may not be run as a program"}}) {
-        QFile::setPermissions(path, permissions);
-        Connect();
-        EXPECT_EQ(notebook_.Count(reason), 1) << testing::PrintToString(notebook_.lines);
-        EXPECT_TRUE(host_.bot().status.canConnect);
-        notebook_.lines.clear();
+        QFile::setPermissions(files.Path("client.txt"), permissions);
+        host.Connect();
+        EXPECT_EQ(screen.Count(reason), 1) << testing::PrintToString(screen.lines);
+        EXPECT_TRUE(host.bot().status.canConnect);
     }
 }
 

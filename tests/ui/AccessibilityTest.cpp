@@ -1,17 +1,7 @@
 #include <Qsci/qsciscintilla.h>
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QAccessible>
-#include <QComboBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenuBar>
-#include <QSet>
-#include <QTabBar>
-#include <QTranslator>
+#include <algorithm>
 #include <map>
 
 #include "ui/Desk.h"
@@ -19,150 +9,111 @@
 
 namespace {
 
-/// The controls that a person works with, and not those that are parts of others.
-QList<QWidget*> VisibleControls(const QWidget& window) {
-    QList<QWidget*> controls;
-    for (QWidget* const widget : window.findChildren<QWidget*>()) {
-        const bool part = widget->objectName().startsWith("qt_") || qobject_cast<QHeaderView*>(widget) ||
-                          qobject_cast<QComboBox*>(widget->parent()) || qobject_cast<QTabBar*>(widget->parent()) ||
-                          qobject_cast<QLineEdit*>(widget->parent());
-        const bool takesPart = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget) ||
-                               qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractItemView*>(widget) ||
-                               qobject_cast<QTabBar*>(widget) || qobject_cast<QsciScintilla*>(widget);
-        if (takesPart && !part && widget->isVisible() && widget->window() == &window) controls << widget;
-    }
-    return controls;
+bool IsOneOf(const QObject* object, std::initializer_list<const char*> classes) {
+    return std::any_of(classes.begin(), classes.end(), [&](const char* name) { return object->inherits(name); });
 }
 
-void ExpectNames(const QWidget& window) {
-    for (QWidget* const control : VisibleControls(window)) {
-        QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(control);
-        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
-        EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << control->objectName();
-        EXPECT_FALSE(told->text(QAccessible::Description).isEmpty() && control->accessibleDescription().isEmpty())
-            << control->objectName();
-    }
+/// Whether a person works with it: a control that can be seen, and no part of another one.
+bool TakesPart(const QWidget* widget) {
+    const bool part = widget->objectName().startsWith("qt_") || widget->inherits("QHeaderView") ||
+                      IsOneOf(widget->parent(), {"QComboBox", "QTabBar", "QLineEdit"});
+    return widget->isVisible() && !part &&
+           IsOneOf(widget,
+                   {"QAbstractButton", "QLineEdit", "QComboBox", "QAbstractItemView", "QTabBar", "QsciScintilla"});
 }
 
 /// Goes around a window by Tab, as far as it leads. In the script, where Tab is a blank, F6 leads on. A label's key
 /// leads to its control as well.
-void ExpectReachable(QWidget& window) {
+QSet<QWidget*> Reachable(QWidget& window) {
     Front(window);
     QSet<QWidget*> reached;
     for (QWidget* at = QApplication::focusWidget(); at && !reached.contains(at); at = QApplication::focusWidget()) {
         reached << at;
-        // Of radio buttons the chosen one is reached, and the arrow keys lead to the others.
-        if (auto* const button = qobject_cast<QAbstractButton*>(at); button && button->autoExclusive()) {
-            for (auto* const other : at->parentWidget()->findChildren<QAbstractButton*>()) {
-                if (other->autoExclusive()) reached << other;
-            }
+        // Of radio buttons one is reached, and the arrow keys lead to the others.
+        for (auto* const other : at->parentWidget()->findChildren<QRadioButton*>()) {
+            if (at->inherits("QRadioButton")) reached << other;
         }
         QTest::keyClick(at, qobject_cast<QsciScintilla*>(at) ? Qt::Key_F6 : Qt::Key_Tab);
     }
     for (const auto* const label : window.findChildren<QLabel*>()) {
         if (!QKeySequence::mnemonic(label->text()).isEmpty()) reached << label->buddy();
     }
-    for (QWidget* const control : VisibleControls(window)) {
-        EXPECT_TRUE(reached.contains(control)) << control->objectName() << " of " << window.objectName();
-    }
+    return reached;
 }
 
-using TextsByKey = std::map<QString, QStringList>;
+/// What keys lead to; none may lead to two.
+using Keys = std::map<QString, QString>;
 
-void AddMnemonic(TextsByKey& keys, const QString& text) {
-    const QKeySequence key = QKeySequence::mnemonic(text);
-    if (!key.isEmpty()) keys[key.toString()] << text;
+void Add(Keys& keys, const QString& text, const QKeySequence& key) {
+    if (key.isEmpty()) return;
+    const auto [taken, isFree] = keys.emplace(key.toString(), text);
+    EXPECT_TRUE(isFree) << key.toString() << ": " << taken->second << ", " << text;
 }
+void AddMnemonic(Keys& keys, const QString& text) { Add(keys, text, QKeySequence::mnemonic(text)); }
 
-void ExpectNoClash(const TextsByKey& keys) {
-    for (const auto& [key, texts] : keys) EXPECT_EQ(texts.size(), 1) << key << ": " << texts.join(", ");
-}
-
-void ExpectNoClashInMenu(const QMenu& menu) {
-    TextsByKey keys;
+void ExpectNoClash(const QMenu& menu) {
+    Keys keys;
     for (const QAction* const action : menu.actions()) {
         AddMnemonic(keys, action->text());
-        if (action->menu()) ExpectNoClashInMenu(*action->menu());
+        if (action->menu()) ExpectNoClash(*action->menu());
         EXPECT_TRUE(action->isSeparator() || action->text().contains('&')) << action->text() << " has no mnemonic";
     }
-    ExpectNoClash(keys);
 }
 
 /// The menu bar, the buttons and the labels that can be seen share one set of keys; the shortcuts have another.
-void ExpectNoClashInWindow(const QWidget& window) {
-    TextsByKey mnemonics, shortcuts;
-    for (const auto* const bar : window.findChildren<QMenuBar*>()) {
-        for (const QAction* const action : bar->actions()) {
-            AddMnemonic(mnemonics, action->text());
-            ExpectNoClashInMenu(*action->menu());
-        }
+void ExpectAccessible(QWidget& window) {
+    const QSet<QWidget*> reachable = Reachable(window);
+    Keys mnemonics, shortcuts;
+    for (const QAction* const action : window.findChildren<QAction*>()) {
+        for (const QKeySequence& key : action->shortcuts()) Add(shortcuts, action->objectName(), key);
+        if (!qobject_cast<QMenuBar*>(action->menu() ? action->menu()->parent() : nullptr)) continue;
+        AddMnemonic(mnemonics, action->text());
+        ExpectNoClash(*action->menu());
     }
-    for (const auto* const button : window.findChildren<QAbstractButton*>()) {
-        if (button->isVisible()) AddMnemonic(mnemonics, button->text());
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        SCOPED_TRACE(widget->objectName().toStdString() + " " + widget->metaObject()->className());
+        const auto* const button = qobject_cast<QAbstractButton*>(widget);
+        const auto* const label = qobject_cast<QLabel*>(widget);
+        if (button && button->isVisible()) AddMnemonic(mnemonics, button->text());
+        if (label && label->isVisible() && label->buddy()) AddMnemonic(mnemonics, label->text());
+        if (!TakesPart(widget) || widget->window() != &window) continue;
+        EXPECT_TRUE(reachable.contains(widget));
+        QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(widget->objectName().isEmpty() || told->text(QAccessible::Name).isEmpty());
+        EXPECT_FALSE(told->text(QAccessible::Description).isEmpty() && widget->accessibleDescription().isEmpty());
     }
-    for (const auto* const label : window.findChildren<QLabel*>()) {
-        if (label->isVisible() && label->buddy()) AddMnemonic(mnemonics, label->text());
-    }
-    for (const auto* const action : window.findChildren<QAction*>()) {
-        for (const QKeySequence& key : action->shortcuts()) shortcuts[key.toString()] << action->objectName();
-    }
-    ExpectNoClash(mnemonics);
-    ExpectNoClash(shortcuts);
 }
 
-void ExpectAccessible(QWidget& window, const QString& page) {
-    SCOPED_TRACE(page.toStdString());
-    ExpectReachable(window);
-    ExpectNames(window);
-    ExpectNoClashInWindow(window);
-}
+class Accessibility : public Desk, public testing::WithParamInterface<const char*> {};
 
 /// In English, and in German, whose words have mnemonics of their own.
-class Accessibility : public testing::TestWithParam<const char*> {
-  protected:
+TEST_P(Accessibility, OfEveryWindow) {
     QTranslator german;
-
-    void SetUp() override {
-        if (GetParam() == std::string("English")) return;
-        ASSERT_TRUE(german.load(TVOREL_GERMAN));
-        QCoreApplication::installTranslator(&german);
+    if (GetParam() == std::string("German")) {
+        ASSERT_TRUE(german.load(TVOREL_GERMAN) && QCoreApplication::installTranslator(&german));
     }
-};
-
-INSTANTIATE_TEST_SUITE_P(Windows, Accessibility, testing::Values("English", "German"),
-                         [](const auto& language) { return language.param; });
-
-TEST_P(Accessibility, TheMainWindow) {
-    Desk desk;
-    desk.Start();
-    desk.window->show();
-    auto& tabs = desk.The<QTabBar>("tsControls");
+    Write("vslist.vs", "(0:0) When the script is loaded,\r\n");
+    Start();
+    auto& tabs = The<QTabBar>("tsControls");
     for (int tab = 0; tab < tabs.count(); ++tab) {
         tabs.setCurrentIndex(tab);
-        ExpectAccessible(*desk.window, tabs.tabText(tab));
+        ExpectAccessible(*window);
     }
-    ExpectNoClashInMenu(desk.The<QMenu>("mnuTray"));
-}
+    ExpectNoClash(The<QMenu>("mnuTray"));
 
-TEST_P(Accessibility, TheEditor) {
-    Desk desk;
-    desk.Write("vslist.vs", "(0:0) When the script is loaded,\r\n");
-    desk.Start();
-    ExpectAccessible(desk.Editor(), "without the find bar");
-    Named<QAction>(desk.Editor(), "mnuFind").trigger();
-    ExpectAccessible(desk.Editor(), "with the find bar");
-}
+    ExpectAccessible(Editor());
+    ChooseInEditor("mnuFind");
+    ExpectAccessible(Editor());
 
-TEST_P(Accessibility, TheConfiguration) {
-    Profile profile;
-    RecordingDialogs dialogs;
-    frmCfg form(profile, {{"First", "a.example"}}, dialogs);
-    form.show();
+    frmCfg form(bot().profile, {{"First", "a.example"}}, dialogs);
     auto& pages = Named<QListWidget>(form, "lstCfg");
     for (int page = 0; page < pages.count(); ++page) {
         pages.setCurrentRow(page);
-        ExpectAccessible(form, pages.item(page)->text());
+        ExpectAccessible(form);
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Windows, Accessibility, testing::Values("English", "German"),
+                         [](const auto& language) { return language.param; });
 
 }  // namespace

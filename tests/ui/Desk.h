@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QAction>
-#include <QDir>
-#include <QMenu>
+#include <QtWidgets>
 #include <memory>
 
 #include "support/BotFiles.h"
@@ -11,14 +9,6 @@
 #include "ui/RecordingDialogs.h"
 #include "ui/frmGS.h"
 #include "ui/frmVorel.h"
-
-/// A control of a window by its name; without it the test ends.
-template <typename Control = QWidget>
-Control& Named(const QObject& window, const QString& name) {
-    auto* const control = window.findChild<Control*>(name);
-    if (!control) throw std::runtime_error("no control " + name.toStdString());
-    return *control;
-}
 
 /// Brings a window to the front, with the keyboard.
 inline void Front(QWidget& window) {
@@ -29,40 +19,50 @@ inline void Front(QWidget& window) {
 
 /// The program in a folder of its own, with nobody but the test to answer its questions. In the folder lies the bot
 /// "bot", which shows "ready" when it is loaded; its server is the practice dream.
-class Desk : public BotFiles {
+class Desk : public testing::Test, public BotFiles {
   public:
-    RecordingDialogs dialogs;
-    std::unique_ptr<frmVorel> window;
-
     Desk() {
         WriteBot("bot", "(0:0) loaded,\r\n(5:2) show {ready}", "[Ignores]\nMean One\n");
         Options(Path("tvorel-options.ini")).Set("connection/address", QString(kPracticeAddress));
     }
 
-    /// Starts the program; one that ran before gets no chance to do anything.
-    void Start() {
+    RecordingDialogs dialogs;
+    std::unique_ptr<frmVorel> window;
+
+    /// Starts the program; one that ran before gets no chance to do anything. Like the next ones it takes the answers
+    /// to what is asked, and returns what was told and asked.
+    QString Start(const QStringList& answers = {}) {
         window.reset();
         window = std::make_unique<frmVorel>(dialogs, Path());
-        window->Start();
+        return dialogs.During(answers, [this] { window->Start(); });
+    }
+    QString Open(const QString& file, const QStringList& answers = {}) {
+        return dialogs.During(answers, [&] { window->OpenDocument(Path(file).toStdString()); });
+    }
+    QString Close(const QStringList& answers = {}) {
+        return dialogs.During(answers, [this] { window->close(); });
+    }
+    QString Choose(const QString& item, const QStringList& answers = {}) {
+        return dialogs.During(answers, [&] { dialogs.Choose(*window, item); });
+    }
+    QString ChooseInEditor(const QString& item, const QStringList& answers = {}) {
+        return dialogs.During(answers, [&] { dialogs.Choose(Editor(), item); });
     }
     void StartWithBot() {
         Start();
         Open("bot.tvm");
         Front(*window);
     }
-    void Open(const QString& file) const { window->OpenDocument(Path(file).toStdString()); }
 
     template <typename Control = QWidget>
     Control& The(const QString& name) const {
         return Named<Control>(*window, name);
     }
-    void Choose(const QString& menuItem) const { The<QAction>(menuItem).trigger(); }
-
     frmGS& Editor() const { return window->editor(); }
     void TypeInEditor(const QString& text) const { QTest::keyClicks(&Named(Editor(), "txtScript"), text); }
     Bot& bot() const { return window->host().bot(); }
 
-    QString Console() const {
+    QString ConsoleText() const {
         auto& lines = The<ConsoleView>("lstView").Lines();
         lines.Flush();
         return lines.AllText();

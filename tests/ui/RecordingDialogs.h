@@ -2,59 +2,71 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QStringList>
-#include <deque>
+#include <functional>
 #include <ostream>
-#include <utility>
+#include <stdexcept>
 
 #include "ui/Dialogs.h"
 
 inline std::ostream& operator<<(std::ostream& out, const QString& text) { return out << text.toStdString(); }
 
+/// A control of a window by its name; without it the test ends.
+template <typename Control = QWidget>
+Control& Named(const QObject& window, const QString& name) {
+    auto* const control = window.findChild<Control*>(name);
+    if (!control) throw std::runtime_error("no control " + name.toStdString());
+    return *control;
+}
+
 /// Stands in for the user: notes what was asked, "kind [title] text", and gives the answers that were laid out. A
-/// question without an answer fails the test.
+/// question without an answer fails the test, and so does an answer that nobody asks for.
 class RecordingDialogs final : public Dialogs {
   public:
-    std::deque<Answer> answers;
-    std::deque<std::optional<QString>> texts;  ///< typed texts and chosen files
-
-    /// What was told and asked since the last call.
-    QStringList Take() { return std::exchange(told_, {}); }
+    /// Does something that tells and asks.
+    /// @param answers  "Yes", "No", "Cancel", a typed text or a chosen file
+    /// @return what was told and asked, "|" between
+    QString During(const QStringList& answers, const std::function<void()>& doing) {
+        answers_ = answers;
+        told_.clear();
+        doing();
+        EXPECT_EQ(answers_.join('|'), "") << "not asked for";
+        return told_.join('|');
+    }
+    /// Chooses a menu item or presses a button.
+    static void Choose(const QObject& window, const QString& name) {
+        auto* const action = window.findChild<QAction*>(name);
+        action ? action->trigger() : Named<QAbstractButton>(window, name).click();
+    }
 
     void ShowMessage(QWidget*, const QString& text, const QString& title, Icon icon) override {
         constexpr const char* kKinds[] = {"message", "information", "critical"};
-        Note(kKinds[static_cast<int>(icon)], title, text);
+        told_ << QStringLiteral("%1 [%2] %3").arg(kKinds[static_cast<int>(icon)], title, text);
     }
     Answer Ask(QWidget*, const QString& text, const QString& title, bool offersCancel) override {
-        Note(offersCancel ? "yes-no-cancel" : "yes-no", title, text);
-        return Next(answers, Answer::Cancel);
+        const auto answer = Next(offersCancel ? "yes-no-cancel" : "yes-no", title, text);
+        return answer ? *answer == "Yes" ? Answer::Yes : Answer::No : Answer::Cancel;
     }
     std::optional<QString> AskText(QWidget*, const QString& prompt, const QString& title) override {
-        Note("text", title, prompt);
-        return Next(texts, {});
+        return Next("text", title, prompt);
     }
     std::optional<QString> AskOpenFile(QWidget*, const QString& title, const QString& filter,
                                        const QString& folder) override {
-        Note("open", title, filter + " in " + folder);
-        return Next(texts, {});
+        return Next("open", title, filter + " in " + folder);
     }
     std::optional<QString> AskSaveFile(QWidget*, const QString& title, const QString& filter, const QString&) override {
-        Note("save", title, filter);
-        return Next(texts, {});
+        return Next("save", title, filter);
     }
 
   private:
-    QStringList told_;
+    QStringList answers_, told_;
 
-    void Note(const char* kind, const QString& title, const QString& text) {
+    std::optional<QString> Next(const char* kind, const QString& title, const QString& text) {
         told_ << QStringLiteral("%1 [%2] %3").arg(kind, title, text);
-    }
-    template <typename Value>
-    Value Next(std::deque<Value>& from, Value without) {
-        if (from.empty()) ADD_FAILURE() << "nobody answers: " << told_.last();
-        if (from.empty()) return without;
-        Value value = std::move(from.front());
-        from.pop_front();
-        return value;
+        EXPECT_FALSE(answers_.isEmpty()) << "nobody answers: " << told_.last();
+        const QString answer = answers_.isEmpty() ? "Cancel" : answers_.takeFirst();
+        return answer == "Cancel" ? std::nullopt : std::optional(answer);
     }
 };

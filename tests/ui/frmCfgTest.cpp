@@ -1,156 +1,100 @@
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTimer>
-
+#include "profile/ProfileFile.h"
 #include "ui/Desk.h"
 #include "ui/frmCfg.h"
 
 namespace {
 
-using Answer = Dialogs::Answer;
-
-template <typename List>
-QStringList Entries(const List& list) {
+QString Entries(const QAbstractItemModel& list) {
     QStringList entries;
-    for (int i = 0; i < list.count(); ++i) entries << list.model()->index(i, 0).data().toString();
-    return entries;
+    for (int i = 0; i < list.rowCount(); ++i) entries << list.index(i, 0).data().toString();
+    return entries.join(", ");
 }
 
-class Configuration : public testing::Test {
+constexpr char kBefore[] =
+    "[General]\r\nFurcadiaClient=/games/client.exe\r\nFurcadiaCharacter=/bots/bot.ini\r\nOwners=Ann, Bob|Two\r\n"
+    "Maps=Vale\r\nConnectClient=0\r\nCloseClient=1\r\nLogo=False\r\nPort=80\r\nScript=bot.vs\r\n\r\n"
+    "[Ignores]\r\nMean One\r\n";
+
+class Configuration : public Desk {
   protected:
-    Profile profile;
-    RecordingDialogs dialogs;
     std::unique_ptr<frmCfg> form;
 
     void SetUp() override {
-        profile.clientPath = "/games/client.exe";
-        profile.characterPath = "/bots/bot.ini";
-        profile.owners = "Ann, Bob|Two";
-        profile.maps = "Vale";
-        profile.port = 80;
-        profile.closeClient = 1;
-        profile.ignores = {"Mean One"};
-        profile.serverAddress = "b.example";
+        Write("configured.tvm", kBefore);
+        Start();
+        Desk::Open("configured.tvm");
+        bot().profile.serverAddress = "b.example";
         Open();
     }
     void Open() {
-        form = std::make_unique<frmCfg>(profile, QList<ServerChoice>{{"First", "a.example"}, {"Second", "b.example"}},
-                                        dialogs);
+        const QList<ServerChoice> servers = {{"First", "a.example"}, {"Second", "b.example"}};
+        form = std::make_unique<frmCfg>(bot().profile, servers, dialogs);
         form->show();
     }
     template <typename Control>
     Control& The(const QString& name) const {
         return Named<Control>(*form, name);
     }
-    /// @return what was told and asked
-    QStringList Click(const QString& name, std::optional<QString> typed = {}, Answer answer = Answer::Cancel) {
-        dialogs.texts.assign(1, typed);
-        dialogs.answers.assign(1, answer);
-        The<QPushButton>(name).click();
-        return dialogs.Take();
+    QString Click(const QString& name, const QStringList& answers = {}) {
+        return dialogs.During(answers, [&] { dialogs.Choose(*form, name); });
     }
-    /// What the controls hold.
-    QString Shown() const {
-        return QStringList{The<QLineEdit>("txtClient").text(),
-                           The<QLineEdit>("txtINI").text(),
-                           Entries(The<QComboBox>("cmbOwner")).join(", "),
-                           Entries(The<QComboBox>("cmbMaps")).join(", "),
-                           The<QComboBox>("cmbAddress").currentText(),
-                           The<QComboBox>("cmbPort").currentText(),
-                           The<QCheckBox>("chkClient").isChecked() ? "link" : "alone",
-                           The<QCheckBox>("chkClose").isChecked() ? "close" : "leave",
-                           The<QRadioButton>("optSignature_0").isChecked() ? "first" : "last",
-                           Entries(The<QListWidget>("lstIgnores")).join(", ")}
-            .join("; ");
+    QString Lists() const {
+        return Entries(*The<QComboBox>("cmbOwner").model()) + "; " + Entries(*The<QComboBox>("cmbMaps").model()) +
+               "; " + Entries(*The<QListWidget>("lstIgnores").model());
     }
+    std::string Written() const { return ProfileBytes(bot().profile) + bot().profile.serverAddress; }
 };
 
-TEST_F(Configuration, ShowsTheProfileOnItsPages) {
-    EXPECT_EQ(form->windowTitle(), "Tandry Vorel Configuration");
-    EXPECT_EQ(Shown(),
-              "/games/client.exe; /bots/bot.ini; Ann, Bob|Two; Vale; Second; 80; alone; close; last; Mean One");
-    EXPECT_EQ(The<QCheckBox>("chkClient").text() + The<QPushButton>("cmdRI").text(),
-              "Connect with Furcadia client. &Remove");
-    QStringList frames;
-    for (const QGroupBox* const frame : form->findChildren<QGroupBox*>()) frames << frame->title();
-    for (const char* const caption : {"Furcadia Character File (*.ini)", "Bot Owner(s)", "Connection",
-                                      "Quiet mode is turned off on the following maps/dreams: "}) {
-        EXPECT_TRUE(frames.contains(caption)) << caption;
-    }
-    auto& pages = The<QListWidget>("lstCfg");
-    for (int page = pages.count() - 1; page >= 0; --page) {
-        QTest::mouseClick(pages.viewport(), Qt::LeftButton, {}, pages.visualItemRect(pages.item(page)).center());
-        QStringList visible;
-        for (int i = 0; i < pages.count(); ++i) {
-            const auto& frame = Named<QGroupBox>(*form, QStringLiteral("fmeCfg_%1").arg(i));
-            if (frame.isVisible()) visible << frame.title();
-        }
-        EXPECT_EQ(visible, QStringList{pages.item(page)->text()});
-    }
-}
+struct Step {
+    const char* button;
+    QStringList answers;
+    const char *told, *lists;  ///< the last that is told, and the lists after it, none when they are as before
+};
 
-TEST_F(Configuration, AsksAndRefusesInTheseWords) {
-    struct {
-        const char *button, *typed, *told;
-    } const cases[] = {
-        {"cmdAdd_Owner", "", "text [New Bot Owner] Enter the name of the new bot owner"},
-        {"cmdAdd_Owner", "ann", "message [Invalid] ann is already on the bot owner list"},
-        {"cmdAdd_Map", "", "text [New Active Map] Enter the name of the new active map"},
-        {"cmdAdd_Map", "vale", "message [Invalid] vale is already on the active map list"},
-        {"cmdAI", "undefined",
-         "text [Tandry Vorel - Ignore List] What is the name of the furre you want your bot to ignore?"},
-        {"cmdAI", "mean|one",
-         "information [Tandry Vorel - Ignore List] mean one is already on the Tandry Vorel ignore list."},
-        {"cmdRI", "", "message [Invalid Selection] Select a furre to remove from the ignore list."},
-        {"cmdClient", nullptr,
-         "open [Select a Furcadia client] Furcadia Client (Furcadia.exe) | Furcadia.exe in /games"},
-        {"cmdINI", nullptr, "open [Select a Furcadia character] Furcadia Character (*.ini) | *.ini in /bots"},
-    };
-    const QString before = Shown();
-    The<QComboBox>("cmbOwner").setCurrentIndex(0);
-    for (const auto& [button, typed, told] : cases) {
-        EXPECT_EQ(Click(button, typed ? std::optional<QString>(typed) : std::nullopt).last(), told);
-    }
-    EXPECT_EQ(Shown(), before);
-    EXPECT_EQ(The<QComboBox>("cmbOwner").currentIndex(), 0) << "a refusal changes nothing";
-    EXPECT_FALSE(profile.dirty);
-}
+// clang-format off
+const Step kSteps[] = {
+    {"cmdAdd_Owner", {""},            "text [New Bot Owner] Enter the name of the new bot owner", ""},
+    {"cmdAdd_Owner", {"ann"},         "message [Invalid] ann is already on the bot owner list", ""},
+    {"cmdAdd_Owner", {"Pillow Wars"}, "", "Ann, Bob|Two, Pillow|Wars; Vale; Mean One"},
+    {"cmdDel_Owner", {},              "", "Ann, Bob|Two; Vale; Mean One"},
+    {"cmdAdd_Map",   {""},            "text [New Active Map] Enter the name of the new active map", ""},
+    {"cmdAdd_Map",   {"vale"},        "message [Invalid] vale is already on the active map list", ""},
+    {"cmdAdd_Map",   {"A B"},         "", "Ann, Bob|Two; Vale, A|B; Mean One"},
+    {"cmdDel_Map",   {},              "", "Ann, Bob|Two; Vale; Mean One"},
+    {"cmdDel_Map",   {},              "", "Ann, Bob|Two; ; Mean One"},
+    {"cmdDel_Map",   {},              "", ""},
+    {"cmdRI",        {},              "message [Invalid Selection] Select a furre to remove from the ignore list.", ""},
+    {"cmdAI",        {"undefined"},   "[Tandry Vorel - Ignore List] What is the name of the furre you want your bot to ignore?", ""},
+    {"cmdAI",        {"mean|one"},    "information [Tandry Vorel - Ignore List] mean one is already on the Tandry Vorel ignore list.", ""},
+    {"cmdAI",        {"Other|One"},   "", "Ann, Bob|Two; ; Mean One, Other One"},
+    {"cmdRI",        {"No"},          "Are you sure you want to remove Mean One from the Tandry Vorel Ignore List?", ""},
+    {"cmdRI",        {"Yes"},         "", "Ann, Bob|Two; ; Other One"},
+    {"cmdClient",    {"Cancel"},      "open [Select a Furcadia client] Furcadia Client (Furcadia.exe) | Furcadia.exe in /games", ""},
+    {"cmdINI",       {"Cancel"},      "open [Select a Furcadia character] Furcadia Character (*.ini) | *.ini in /bots", ""},
+};
+// clang-format on
 
-TEST_F(Configuration, EditsItsLists) {
-    for (const char* const list : {"Owner", "Map"}) {
-        auto& box = The<QComboBox>(list == std::string("Map") ? "cmbMaps" : "cmbOwner");
-        Click(QStringLiteral("cmdAdd_%1").arg(list), "Pillow Wars");
-        EXPECT_EQ(box.currentText(), "Pillow|Wars");
-        box.setCurrentIndex(0);
-        while (box.count() > 1) Click(QStringLiteral("cmdDel_%1").arg(list));
-        EXPECT_EQ(box.currentIndex(), 0) << "the last one is chosen";
-        for (int i = 0; i < 2; ++i) EXPECT_EQ(Click(QStringLiteral("cmdDel_%1").arg(list)), QStringList());
-        EXPECT_EQ(box.count(), 0);
+TEST_F(Configuration, AsksRefusesAndEditsItsLists) {
+    QString lists = Lists();
+    for (const auto& [button, answers, told, changed] : kSteps) {
+        EXPECT_TRUE(Click(button, answers).contains(told)) << told;
+        if (*changed) lists = changed;
+        EXPECT_EQ(Lists(), lists) << button << answers.join('|');
+        if (button == std::string("cmdAI")) The<QListWidget>("lstIgnores").setCurrentRow(0);
     }
-    Click("cmdAI", "Other|One");
-    The<QListWidget>("lstIgnores").setCurrentRow(0);
-    EXPECT_EQ(
-        Click("cmdRI", {}, Answer::No),
-        QStringList{"yes-no [Tandry Vorel - Ignore List] Are you sure you want to remove Mean One from the Tandry "
-                    "Vorel Ignore List?"});
-    EXPECT_EQ(profile.ignores, (std::vector<std::string>{"Mean One", "Other One"}));
-    Click("cmdRI", {}, Answer::Yes);
-    EXPECT_EQ(profile.ignores, std::vector<std::string>{"Other One"});
-    Click("cmdClient", "/new/Furcadia.exe");
-    Click("cmdINI", "/new/bot.ini");
-    EXPECT_TRUE(Shown().startsWith("/new/Furcadia.exe; /new/bot.ini; ") && Shown().endsWith("; Other One")) << Shown();
+    EXPECT_EQ(bot().profile.ignores, std::vector<std::string>{"Other One"}) << "at once";
 }
 
 TEST_F(Configuration, OnlyOKWritesIntoTheProfile) {
     const auto change = [this] {
-        The<QLineEdit>("txtClient").setText("/c");
-        The<QLineEdit>("txtINI").setText("/i");
-        Click("cmdAdd_Owner", "Eve");
+        The<QComboBox>("cmbOwner").setCurrentIndex(0);
+        EXPECT_TRUE(Click("cmdAdd_Owner", {"ann"}).contains("already"));
+        EXPECT_EQ(The<QComboBox>("cmbOwner").currentIndex(), 0) << "a refusal changes nothing";
+        EXPECT_FALSE(bot().profile.dirty);
+        Click("cmdAdd_Owner", {"Eve"});
+        EXPECT_EQ(The<QComboBox>("cmbOwner").currentText(), "Eve");
+        Click("cmdClient", {"/c/client.exe"});
+        Click("cmdINI", {"/c/bot.ini"});
         Click("cmdDel_Map");
         The<QCheckBox>("chkClient").setChecked(true);
         The<QCheckBox>("chkClose").setChecked(false);
@@ -158,33 +102,45 @@ TEST_F(Configuration, OnlyOKWritesIntoTheProfile) {
         The<QComboBox>("cmbPort").setCurrentText("6000");
         The<QComboBox>("cmbAddress").setCurrentIndex(0);
     };
-    const QString before = Shown();
-    change();
-    Click("cmdCancel");
-    Open();
-    EXPECT_EQ(Shown(), before);
-    change();
+    const std::string before = kBefore + std::string("b.example");
     Click("cmdOK");
-    EXPECT_FALSE(form->isVisible());
-    EXPECT_TRUE(profile.dirty);
-    Open();
-    EXPECT_EQ(Shown(), "/c; /i; Ann, Bob|Two, Eve; ; First; 6000; link; leave; first; Mean One");
+    EXPECT_EQ(Written(), before) << "as it was shown";
+    for (const char* const leave : {"cmdCancel", "cmdOK"}) {
+        bot().profile.dirty = false;
+        Open();
+        change();
+        EXPECT_EQ(Written(), before);
+        Click(leave);
+        EXPECT_FALSE(form->isVisible());
+        EXPECT_EQ(Written() == before, leave == std::string("cmdCancel"));
+    }
+    EXPECT_TRUE(bot().profile.dirty);
+    EXPECT_EQ(
+        Written(),
+        "[General]\r\nFurcadiaClient=/c/client.exe\r\nFurcadiaCharacter=/c/bot.ini\r\nOwners=Ann, Bob|Two, Eve\r\n"
+        "Maps=\r\nConnectClient=1\r\nCloseClient=0\r\nLogo=True\r\nPort=6000\r\nScript=bot.vs\r\n\r\n"
+        "[Ignores]\r\nMean One\r\na.example");
 }
 
-TEST(ConfigurationInTheWindow, OffersTheGameFirstThenThePracticeDream) {
-    Desk desk;
-    desk.Start();
+TEST_F(Configuration, ShowsItsPagesAndOffersTheGameFirstThenThePracticeDream) {
     QTimer::singleShot(0, qApp, [] {
-        QWidget* const form = QApplication::activeModalWidget();
-        ASSERT_NE(form, nullptr);
-        auto& address = Named<QComboBox>(*form, "cmbAddress");
-        EXPECT_EQ(Entries(address), (QStringList{kGameServer, "Practice dream on this computer"}));
+        QWidget* const shown = QApplication::activeModalWidget();
+        ASSERT_NE(shown, nullptr);
+        auto& pages = Named<QListWidget>(*shown, "lstCfg");
+        for (int page = pages.count() - 1; page >= 0; --page) {
+            QTest::mouseClick(pages.viewport(), Qt::LeftButton, {}, pages.visualItemRect(pages.item(page)).center());
+            for (int i = 0; i < pages.count(); ++i) {
+                EXPECT_EQ(Named(*shown, QStringLiteral("fmeCfg_%1").arg(i)).isVisible(), i == page);
+            }
+        }
+        auto& address = Named<QComboBox>(*shown, "cmbAddress");
+        EXPECT_EQ(Entries(*address.model()), QString(kGameServer) + ", Practice dream on this computer");
         address.setCurrentIndex(0);
-        Named<QPushButton>(*form, "cmdOK").click();
+        Named<QPushButton>(*shown, "cmdOK").click();
     });
-    desk.The<QAbstractButton>("cmdC_2").click();
-    desk.Start();
-    EXPECT_EQ(desk.bot().profile.serverAddress, kGameServer) << "kept for the next start";
+    Choose("cmdC_2");
+    Start();
+    EXPECT_EQ(bot().profile.serverAddress, kGameServer) << "kept for the next start";
 }
 
 }  // namespace

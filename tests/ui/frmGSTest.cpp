@@ -1,189 +1,159 @@
 #include <Qsci/qscilexer.h>
 #include <Qsci/qsciscintilla.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTreeWidget>
-
 #include "engine/Script.h"
 #include "ui/Desk.h"
-#include "ui/frmGS.h"
 
 namespace {
 
-using Answer = Dialogs::Answer;
-
-class ScriptEditor : public testing::Test {
+class ScriptEditor : public Desk {
   protected:
-    Desk desk;
     frmGS* editor = nullptr;
     QsciScintilla* text = nullptr;
-    QTreeWidget* tree = nullptr;
     std::string saved;
 
     void SetUp() override {
-        desk.Write(
+        Write(
             "VsList.VS",
             "(0:7) loaded?\r\n(5:3) say nothing,\r\n (5:4) skipped,\r\n(1:1) and {it} holds,\r\n"
             "(0:8) caf\xe9 is said,\r\nremark\r\n(5:5)skipped\r\n(5 5) skipped\r\n(:5) skipped\r\n(2:0) skipped\r\n(");
-        desk.StartWithBot();
-        editor = &desk.Editor();
+        StartWithBot();
+        editor = &Editor();
         text = &Named<QsciScintilla>(*editor, "txtScript");
-        tree = &Named<QTreeWidget>(*editor, "tvwCmds");
         saved = editor->ScriptText();
     }
     void Show() {
-        desk.Choose("mnuEdit");
+        Choose("mnuEdit");
         Front(*editor);
     }
-    void Do(const char* menuItem) const { Named<QAction>(*editor, menuItem).trigger(); }
-    std::pair<int, int> Caret() const {
-        int line = 0, column = 0;
-        text->getCursorPosition(&line, &column);
-        return {line, column};
-    }
+    /// Counted in bytes.
+    long Caret() const { return text->SendScintilla(QsciScintilla::SCI_GETCURRENTPOS); }
 };
 
-TEST_F(ScriptEditor, SavesTheTextForTheBot) {
-    Do("mnuNew");
+TEST_F(ScriptEditor, OpensSavesAndRunsTheTextForTheBot) {
+    const QString save = "save [Save VorelSpeak Script As...] VorelSpeak Script (*.vs) | *.vs";
+    ChooseInEditor("mnuNew");
     EXPECT_EQ(editor->windowTitle(), "VorelSpeak Script Editor[*]");
     EXPECT_EQ(editor->ScriptText(), kNewScript);
-    EXPECT_EQ(desk.bot().script->Text(), saved) << "until it is saved";
+    EXPECT_EQ(bot().script->Text(), saved) << "until it is saved";
     text->insertAt("(0:0) loaded,\r\n(5:2) {caf\u00e9}\r\n", 1, 0);
-    desk.dialogs.texts = {std::nullopt, desk.Path("new"), desk.Path("no/such/folder/x.vs")};
-    Do("mnuSave");
-    EXPECT_TRUE(editor->IsDirty()) << "cancelled";
-    Do("mnuSave");
-    EXPECT_EQ(desk.dialogs.Take(),
-              QStringList(2, "save [Save VorelSpeak Script As...] VorelSpeak Script (*.vs) | *.vs"));
-    EXPECT_EQ(editor->windowTitle(), "VorelSpeak Script Editor - [new.vs][*]");
-    EXPECT_EQ(desk.Console(), "ready\ncaf\u00e9\n") << "run, as it is loaded anew";
-    EXPECT_TRUE(desk.Read("new.vs").startsWith("VSPK 01.00 Vorel\r\n(0:0) loaded,\r\n(5:2) {caf\xe9}\r\n"));
-    EXPECT_EQ(QString::fromStdString(desk.bot().profile.scriptPath), desk.Path("new.vs"));
-    EXPECT_TRUE(desk.bot().profile.dirty);
-    desk.bot().profile.dirty = false;
-    Do("mnuSave");
-    EXPECT_FALSE(desk.bot().profile.dirty) << "the profile has named it already";
-    Do("mnuSaveAs");
-    EXPECT_TRUE(desk.dialogs.Take().last().startsWith("critical [Save Script] "));
-}
-
-TEST_F(ScriptEditor, OpensAScriptAndRunsIt) {
-    desk.Write("Other.vs", "VSPK 01.00 Vorel\n(0:0) loaded,\n(5:2) {other}\n*Endtriggers* 9999 *Endtriggers*\n");
-    desk.dialogs.texts = {desk.Path("other.VS"), desk.Path("missing.vs")};
-    Do("mnuOpen");
-    Do("mnuOpen");
-    EXPECT_TRUE(
-        desk.dialogs.Take()[0].startsWith("open [Select a VorelSpeak Script to Open] VorelSpeak Script (*.vs) "));
-    EXPECT_EQ(editor->windowTitle(), "VorelSpeak Script Editor - [Other.vs][*]") << "what is missing is not opened";
-    EXPECT_EQ(desk.Console(), "ready\nother\n");
-}
-
-TEST_F(ScriptEditor, AsksBeforeOtherTextTakesThePlaceOfUnsavedText) {
-    desk.TypeInEditor("x");
-    desk.dialogs.answers = {Answer::Cancel, Answer::Cancel, Answer::Cancel};
-    Do("mnuNew");
-    Do("mnuOpen");
-    desk.Open("bot.vs");
-    const QString question = "yes-no-cancel [Save Script] Do you want to save any changes to your script?";
-    EXPECT_EQ(desk.dialogs.Take(), QStringList(3, question));
-    EXPECT_EQ(editor->ScriptText(), "x" + saved);
+    EXPECT_EQ(ChooseInEditor("mnuSave", {"Cancel"}), save);
     EXPECT_TRUE(editor->IsDirty());
+    EXPECT_EQ(ChooseInEditor("mnuSave", {Path("new")}), save);
+    EXPECT_EQ(editor->windowTitle(), "VorelSpeak Script Editor - [new.vs][*]");
+    EXPECT_EQ(ConsoleText(), "ready\ncaf\u00e9\n") << "run, as it is loaded anew";
+    EXPECT_TRUE(Read("new.vs").startsWith("VSPK 01.00 Vorel\r\n(0:0) loaded,\r\n(5:2) {caf\xe9}\r\n"));
+    EXPECT_EQ(QString::fromStdString(bot().profile.scriptPath), Path("new.vs"));
+    EXPECT_TRUE(bot().profile.dirty);
+    bot().profile.dirty = false;
+    ChooseInEditor("mnuSave");
+    EXPECT_FALSE(bot().profile.dirty) << "the profile has named it already";
+    EXPECT_TRUE(ChooseInEditor("mnuSaveAs", {Path("no/folder/x.vs")}).startsWith(save + "|critical [Save Script] "));
+
+    Write("Other.vs", "VSPK 01.00 Vorel\n(0:0) loaded,\n(5:2) {other}\n*Endtriggers* 9999 *Endtriggers*\n");
+    EXPECT_TRUE(ChooseInEditor("mnuOpen", {Path("other.VS")})
+                    .startsWith("open [Select a VorelSpeak Script to Open] VorelSpeak Script (*.vs) "));
+    ChooseInEditor("mnuOpen", {Path("missing.vs")});
+    EXPECT_EQ(editor->windowTitle(), "VorelSpeak Script Editor - [Other.vs][*]") << "what is missing is not opened";
+    EXPECT_TRUE(ConsoleText().endsWith("\nother\n"));
 }
 
 TEST_F(ScriptEditor, TheMarkOfChangesTellsTheTruthThroughUndo) {
-    desk.TypeInEditor("a");
-    EXPECT_TRUE(editor->isWindowModified());
-    Do("mnuUndo");
-    EXPECT_FALSE(editor->isWindowModified());
-    desk.TypeInEditor("b");
-    Do("mnuSave");
-    EXPECT_FALSE(editor->isWindowModified());
-    Do("mnuUndo");
-    EXPECT_TRUE(editor->isWindowModified() && editor->IsDirty()) << "back behind what was saved";
-    Do("mnuRedo");
-    EXPECT_FALSE(editor->isWindowModified() || editor->IsDirty());
+    QString marks;
+    for (const QString step : {"typed", "mnuUndo", "again", "mnuSave", "mnuUndo", "mnuRedo"}) {
+        if (step.startsWith("mnu")) {
+            ChooseInEditor(step);
+        } else {
+            TypeInEditor(step);
+        }
+        EXPECT_EQ(editor->IsDirty(), editor->isWindowModified()) << step;
+        marks += editor->IsDirty() ? '+' : '-';
+    }
+    EXPECT_EQ(marks, "+-+-+-");
 }
 
-TEST_F(ScriptEditor, ClosingHidesIt) {
+TEST_F(ScriptEditor, AsksBeforeUnsavedTextGoesAndHidesWhenClosed) {
     EXPECT_FALSE(editor->isVisible()) << "made hidden";
-    const auto close = [this](std::deque<Answer> answers) {
+    const auto close = [this](const QStringList& answers) {
         Show();
-        desk.dialogs.answers = std::move(answers);
-        editor->close();
-        return desk.dialogs.Take().value(0);
+        return dialogs.During(answers, [this] { editor->close(); });
     };
-    const QString question = "yes-no [Save Script] Do you want to save any changes to your script?";
-    EXPECT_EQ(close({}), "") << "nothing to ask";
+    EXPECT_EQ(close({}), "");
     EXPECT_FALSE(editor->isVisible());
-    desk.TypeInEditor("x");
-    EXPECT_EQ(close({Answer::No}), question);
+    TypeInEditor("x");
+    const QString question = " [Save Script] Do you want to save any changes to your script?";
+    EXPECT_EQ(ChooseInEditor("mnuNew", {"Cancel"}), "yes-no-cancel" + question);
+    EXPECT_EQ(ChooseInEditor("mnuOpen", {"Cancel"}), "yes-no-cancel" + question);
+    EXPECT_EQ(Open("bot.vs", {"Cancel"}), "yes-no-cancel" + question);
+    EXPECT_EQ(close({"No"}), "yes-no" + question);
     EXPECT_FALSE(editor->isVisible());
-    EXPECT_EQ(editor->ScriptText(), "x" + saved) << "kept";
-    EXPECT_EQ(desk.bot().script->Text(), saved);
-    EXPECT_EQ(close({Answer::Yes}), question);
-    EXPECT_EQ(desk.bot().script->Text(), "x" + saved);
-    Do("mnuNew");
-    desk.TypeInEditor("y");
-    desk.dialogs.texts = {std::nullopt};
-    close({Answer::Yes});
+    EXPECT_TRUE(editor->IsDirty() && editor->ScriptText() == "x" + saved) << "kept";
+    EXPECT_EQ(bot().script->Text(), saved);
+    EXPECT_EQ(close({"Yes"}), "yes-no" + question);
+    EXPECT_EQ(bot().script->Text(), "x" + saved);
+    ChooseInEditor("mnuNew");
+    TypeInEditor("y");
+    close({"Yes", "Cancel"});
     EXPECT_TRUE(editor->isVisible()) << "saving was cancelled";
 }
 
 TEST_F(ScriptEditor, ChoosingACommandOfTheTreePutsItInAtTheCaret) {
-    QStringList rows;
-    for (QTreeWidgetItemIterator item(tree); *item; ++item) rows << (*item)->text(0);
-    EXPECT_EQ(rows.join('|'),
-              "Causes|(0:7) loaded?|(0:8) caf\u00e9 is said,|Additional Conditions|"
-              "(1:1) and {it} holds,|Effects|(5:3) say nothing,");
+    auto& tree = Named<QTreeWidget>(*editor, "tvwCmds");
+    const auto rows = [&tree] {
+        QStringList shown;
+        for (QTreeWidgetItemIterator item(&tree, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
+            shown << (*item)->text(0);
+        }
+        return shown.join('|');
+    };
+    const QString all =
+        "Causes|(0:7) loaded?|(0:8) caf\u00e9 is said,|Additional Conditions|(1:1) and {it} holds,|Effects|"
+        "(5:3) say nothing,";
+    EXPECT_EQ(rows(), all);
     Show();
     text->setText("caf\u00e9\r\nrest");
     text->setCursorPosition(1, 0);
-    tree->setFocus();
-    for (QTreeWidgetItem* const item : {tree->topLevelItem(0)->child(1), tree->topLevelItem(1)->child(0),
-                                        tree->topLevelItem(2)->child(0), tree->topLevelItem(2)}) {
-        tree->setCurrentItem(item);
-        QTest::keyClick(tree, Qt::Key_Return);
+    tree.setFocus();
+    for (QTreeWidgetItem* const item : {tree.topLevelItem(0)->child(1), tree.topLevelItem(1)->child(0),
+                                        tree.topLevelItem(2)->child(0), tree.topLevelItem(2)}) {
+        tree.setCurrentItem(item);
+        QTest::keyClick(&tree, Qt::Key_Return);
         EXPECT_EQ(Named<QLabel>(*editor, "lblPreview").text(), item->parent() ? item->text(0) : "");
     }
     EXPECT_EQ(text->text(),
-              "caf\u00e9\r\n(0:8) caf\u00e9 is said,\r\n (1:1) and {it} holds,\r\n"
-              "     (5:3) say nothing,\r\nrest");
-    EXPECT_EQ(Caret(), std::pair(4, 0));
-    QTest::keyClick(tree, Qt::Key_F6);
+              "caf\u00e9\r\n(0:8) caf\u00e9 is said,\r\n (1:1) and {it} holds,\r\n     (5:3) say nothing,\r\nrest");
+    EXPECT_EQ(Caret(), text->text().toUtf8().indexOf("rest"));
+    QTest::keyClick(&tree, Qt::Key_F6);
     EXPECT_TRUE(text->hasFocus());
-
     Named<QLineEdit>(*editor, "txtFilter").setText("SAID  caf");
-    EXPECT_TRUE(tree->topLevelItem(0)->child(0)->isHidden() && tree->topLevelItem(2)->child(0)->isHidden());
-    EXPECT_FALSE(tree->topLevelItem(0)->child(1)->isHidden()) << "holds both words";
+    EXPECT_EQ(rows(), "Causes|(0:8) caf\u00e9 is said,|Additional Conditions|Effects") << "both words";
     Named<QLineEdit>(*editor, "txtFilter").clear();
-    EXPECT_FALSE(tree->topLevelItem(2)->child(0)->isHidden());
+    EXPECT_EQ(rows(), all);
 }
 
 TEST_F(ScriptEditor, FindsReplacesAndGoesToALine) {
     Show();
     text->setText("one two\r\nTWO\r\ntwo two");
-    Do("mnuFind");
+    ChooseInEditor("mnuFind");
     auto& find = Named<QLineEdit>(*editor, "txtFind");
     ASSERT_TRUE(find.hasFocus());
     QTest::keyClicks(&find, "two");
     QTest::keyClick(&find, Qt::Key_Return);
-    Do("mnuFindNext");
-    EXPECT_EQ(Caret(), std::pair(1, 3));
-    Do("mnuFindPrevious");
-    EXPECT_EQ(Caret(), std::pair(0, 7));
+    ChooseInEditor("mnuFindNext");
+    EXPECT_EQ(Caret(), 12);
+    ChooseInEditor("mnuFindPrevious");
+    EXPECT_EQ(Caret(), 7);
     Named<QLineEdit>(*editor, "txtReplace").setText("twofold");
-    Named<QPushButton>(*editor, "cmdReplace").click();
+    ChooseInEditor("cmdReplace");
     EXPECT_EQ(text->text(), "one twofold\r\nTWO\r\ntwo two");
-    Named<QPushButton>(*editor, "cmdReplaceAll").click();
+    ChooseInEditor("cmdReplaceAll");
     EXPECT_EQ(text->text(), "one twofoldfold\r\ntwofold\r\ntwofold twofold");
-    Do("mnuUndo");
+    ChooseInEditor("mnuUndo");
     EXPECT_EQ(text->text(), "one twofold\r\nTWO\r\ntwo two") << "all in one step";
     QTest::keyClick(&find, Qt::Key_Escape);
     EXPECT_FALSE(find.isVisible());
     editor->GoToLine(3);
-    EXPECT_EQ(Caret(), std::pair(2, 0));
+    EXPECT_EQ(Caret(), text->text().indexOf("two two"));
 }
 
 TEST_F(ScriptEditor, ColoursLinesByTheirKind) {
