@@ -3,24 +3,14 @@
 #include <QSignalSpy>
 
 #include "practice/PracticeServer.h"
-#include "practice/TypedLine.h"
 #include "support/GameServer.h"
 
 namespace {
 
 class PracticeServerTest : public testing::Test {
   protected:
-    void Open(const char* tour = "") {
-        PracticeSettings settings;
-        settings.tour = ReadTour(tour, "tour").tour;
-        settings.secondMs = 0;
-        server = std::make_unique<PracticeServer>(std::move(settings));
-        port = server->Listen(0).port;
-        ASSERT_NE(port, 0);
-    }
-
-    std::unique_ptr<PracticeServer> server;
-    quint16 port = 0;
+    PracticeServer server{{ReadTour("wait for Ann\nboot Ann", "tour").tour, MachinePorts(), 0}};
+    quint16 port = server.Listen(0).port;
 };
 
 class Player {
@@ -45,7 +35,6 @@ class Player {
 };
 
 TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
-    Open();
     Player ann(port), bob(port);
     ann.LogIn("Ann");
     bob.LogIn("Bob");
@@ -60,33 +49,20 @@ TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
 }
 
 TEST_F(PracticeServerTest, LetsClientsGo) {
-    Open("wait for Ann\nboot Ann");
-    QSignalSpy ended(server.get(), &PracticeServer::TourEnded);
+    QSignalSpy ended(&server, &PracticeServer::TourEnded);
     auto ann = std::make_unique<Player>(port);
     ann->LogIn("Ann");
     Player again(port);
     again.socket.write("connect ann x\n");
     EXPECT_TRUE(again.IsLetGo());
     EXPECT_TRUE(again.heard.contains("A furre of this name is in the dream already."));
-    server->PassSecond();
-    server->PassSecond();
+    server.PassSecond();
+    server.PassSecond();
     EXPECT_TRUE(ann->IsLetGo());
     EXPECT_TRUE(ann->heard.endsWith("(You have been booted.\n"));
     EXPECT_EQ(ended.count(), 1);
     ann = std::make_unique<Player>(port);
     ann->LogIn("Ann");
-}
-
-TEST(TypedLine, BecomesACommand) {
-    for (const auto& [typed, command] : {std::pair{"", ""},
-                                         {"hi", "\"hi"},
-                                         {"-hey", "-hey"},
-                                         {":x", ":x"},
-                                         {"`who", "who"},
-                                         {"/A b", "wh A b"},
-                                         {"`", ""}}) {
-        EXPECT_EQ(CommandOfTypedLine(typed), command);
-    }
 }
 
 }  // namespace
