@@ -88,6 +88,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     if (!found) return {};
     bot.profile = Profile();
     bot.profile.path = bot.host.Disk().Absolute(*found);
+    bot.script.reset();  // a profile without a script is not to run another one's
 
     ProfileLoad load{true};
     std::string section;
