@@ -23,11 +23,6 @@ std::string JoinedEntries(const ProfileEdit::NameList& list) {
     return Join(entries, kSeparator);
 }
 
-std::optional<std::int16_t> UsablePort(const std::string& text) {
-    const double number = LeadingNumber(text);
-    return number >= 1 && number <= 32767 ? std::optional(RoundTo16(number)) : std::nullopt;
-}
-
 }  // namespace
 
 ProfileEdit::ProfileEdit(Profile& profile)
@@ -79,6 +74,11 @@ void ProfileEdit::RemoveIgnore(std::size_t index) {
     MarkChanged();
 }
 
+bool ProfileEdit::IsUsablePort(const std::string& text) {
+    const double number = LeadingNumber(text);
+    return number >= 1 && number <= 32767;
+}
+
 void ProfileEdit::Apply(const Fields& fields) {
     const Profile before = profile_;
     profile_.clientPath = fields.clientPath;
@@ -88,7 +88,7 @@ void ProfileEdit::Apply(const Fields& fields) {
     profile_.connectClient = fields.connectClient ? 1 : 0;
     profile_.closeClient = fields.closeClient ? 1 : 0;
     profile_.signatureFirst = fields.signatureFirst;
-    profile_.port = UsablePort(fields.port).value_or(profile_.port);
+    if (IsUsablePort(fields.port)) profile_.port = RoundTo16(LeadingNumber(fields.port));
     profile_.serverAddress = fields.serverAddress;
     if (profile_ != before) MarkChanged();
 }

@@ -47,6 +47,9 @@ class ProfileEdit {
         std::string serverAddress;
     };
 
+    /// Whether a text begins with a number from 1 to 32767, which is what a profile can hold as its port.
+    static bool IsUsablePort(const std::string& text);
+
     /// Writes everything into the profile. An unusable port leaves the old one.
     void Apply(const Fields& fields);
 

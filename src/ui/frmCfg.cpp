@@ -279,6 +279,9 @@ void frmCfg::cmdINI_Click() {
 }
 
 void frmCfg::cmdOK_Click() {
+    if (!ProfileEdit::IsUsablePort(Typed(cmbPort_->currentText()))) {
+        return dialogs_.ShowMessage(this, tr("The port is a number from 1 to 32767."), "Invalid");
+    }
     edit_.Apply({Typed(txtClient_->text()), Typed(txtINI_->text()), chkClient_->isChecked(), chkClose_->isChecked(),
                  optSignatureFirst_->isChecked(), Typed(cmbPort_->currentText()),
                  TypedPath(cmbAddress_->currentData().toString())});

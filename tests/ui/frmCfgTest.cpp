@@ -105,6 +105,10 @@ TEST_F(Configuration, OnlyOKWritesIntoTheProfile) {
     const std::string before = kBefore + std::string("b.example");
     Click("cmdOK");
     EXPECT_EQ(Written(), before) << "as it was shown";
+    Open();
+    The<QComboBox>("cmbPort").setCurrentText("65536");
+    EXPECT_EQ(Click("cmdOK"), "message [Invalid] The port is a number from 1 to 32767.");
+    EXPECT_TRUE(form->isVisible() && Written() == before);
     for (const char* const leave : {"cmdCancel", "cmdOK"}) {
         bot().profile.dirty = false;
         Open();
