@@ -23,6 +23,13 @@ void UserVariables::Set(std::string_view name, std::string_view value) {
     NoteChange();
 }
 
+void UserVariables::Rename(std::string_view name, std::string_view newName) {
+    if (name == newName || !Find(name)) return;
+    std::erase_if(rows_, HasName(newName));
+    std::find_if(rows_.begin(), rows_.end(), HasName(name))->name = newName;
+    NoteChange();
+}
+
 void UserVariables::SetAll(std::string_view value) {
     for (UserVariable& row : rows_) row.value = value;
     NoteChange();

@@ -20,6 +20,9 @@ class UserVariables {
     /// Replaces the variable's value, or adds the variable at the end.
     void Set(std::string_view name, std::string_view value);
 
+    /// Gives a variable another name in the same place; one that has that name already goes.
+    void Rename(std::string_view name, std::string_view newName);
+
     void SetAll(std::string_view value);
     void Remove(std::string_view name);
     void Clear();

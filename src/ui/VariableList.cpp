@@ -48,10 +48,12 @@ void VariableList::Refresh() {
 void VariableList::TakeOver(QTreeWidgetItem* item, int column) {
     if (refreshing_) return;
     const std::string before = Typed(item->data(0, kNameRole).toString());
-    const std::string typed = Typed(item->text(0));
-    const std::string name = typed.empty() ? before : BracketedName(typed);
-    if (column == 0 && name != before) variables_.Remove(before);
-    variables_.Set(name, Typed(item->text(1)));
+    // Only what was typed counts: the script may have changed the other column meanwhile.
+    if (column == 1) {
+        variables_.Set(before, Typed(item->text(1)));
+    } else if (!item->text(0).isEmpty()) {
+        variables_.Rename(before, BracketedName(Typed(item->text(0))));
+    }
     shown_ = 0;
 }
 
