@@ -64,6 +64,8 @@ QtHost::QtHost(FrontEnd& frontEnd, std::string programFolder)
     connect(&listener_, &QTcpServer::newConnection, this,
             [this] { RunHandler([this] { session_.OnClientRequest(); }); });
 
+    tmrScript_.setObjectName("tmrScript");
+    tmrMove_.setObjectName("tmrMove");
     tmrScript_.setTimerType(Qt::PreciseTimer);
     tmrScript_.start(kScriptTimerMs);
     connect(&tmrScript_, &QTimer::timeout, this, [this] {

@@ -90,7 +90,7 @@ class QtHost final : public QObject, public Host, public Link {
     QTcpSocket* sckClient_ = nullptr;
     const QTcpSocket* draining_ = nullptr;  ///< closed by the other side, what it sent not read yet
     QTcpServer listener_;
-    QTimer tmrScript_, tmrMove_;
+    QTimer tmrScript_{this}, tmrMove_{this};
     std::unique_ptr<ClientWindow> clientWindow_ = MachineClientWindow();
     bool toldNoWindows_ = false;
 
