@@ -425,6 +425,10 @@
         <source>Hears the chosen furre again</source>
         <translation>Hört den gewählten Furre wieder</translation>
     </message>
+    <message>
+        <source>The port is a number from 1 to 32767.</source>
+        <translation>Der Port ist eine Zahl von 1 bis 32767.</translation>
+    </message>
 </context>
 <context>
     <name>frmGS</name>
@@ -565,6 +569,10 @@ Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translatio
     <message>
         <source>Line:</source>
         <translation>Zeile:</translation>
+    </message>
+    <message>
+        <source>Line %1 holds characters that the game does not have. Save them as question marks?</source>
+        <translation>Zeile %1 enthält Zeichen, die das Spiel nicht kennt. Sollen sie als Fragezeichen gesichert werden?</translation>
     </message>
 </context>
 <context>
@@ -835,14 +843,6 @@ An einem Ort deiner Wahl speichern?</translation>
         <translation>%1 konnte nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>How to make a bot is told in docs/guide.md, and every command in docs/language.md, which come with the program. Other makers are glad to help in the game&apos;s own bot-making dreams.
-
-Settings and data files are kept in %1.</source>
-        <translation>Wie man einen Bot macht, steht in docs/guide.md, und jeder Befehl in docs/language.md, die mit dem Programm kommen. Andere Bot-Bauer helfen gern in den Träumen des Spiels.
-
-Einstellungen und Datendateien liegen in %1.</translation>
-    </message>
-    <message>
         <source>Find this in the console:</source>
         <translation>In der Konsole suchen:</translation>
     </message>
@@ -897,6 +897,22 @@ Einstellungen und Datendateien liegen in %1.</translation>
     <message>
         <source>%1 was not opened, because opening it ended the program the last time. Mend its script, then open it again.</source>
         <translation>%1 wurde nicht geöffnet, weil das Öffnen das Programm das letzte Mal beendet hat. Bring das Skript in Ordnung und öffne es dann wieder.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written in %1: neither settings nor unsaved work will be kept.</source>
+        <translation>In %1 kann nichts geschrieben werden: Weder Einstellungen noch ungesicherte Arbeit bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>How to make a bot is told in guide.md, and every command in language.md, both in %1. Other makers are glad to help in the game&apos;s own bot-making dreams.
+
+Settings and data files are kept in %2.</source>
+        <translation>Wie man einen Bot baut, steht in guide.md, und jeder Befehl in language.md, beide in %1. Andere helfen gern in den Träumen des Spiels, in denen Bots gebaut werden.
+
+Einstellungen und Datendateien liegen in %2.</translation>
     </message>
 </context>
 </TS>

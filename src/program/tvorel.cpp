@@ -1,11 +1,9 @@
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QTranslator>
 
 #include "Version.h"
 #include "language/Commands.h"
@@ -13,6 +11,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Options.h"
 #include "ui/ShownText.h"
+#include "ui/Translations.h"
 #include "ui/frmVorel.h"
 
 namespace {
@@ -40,18 +39,6 @@ void ProvideCommandList(const QString& folder) {
     if (file.open(QIODevice::WriteOnly) && file.write(QByteArray::fromStdString(CommandListFile())) > 0) file.commit();
 }
 
-/// Texts in the language that was chosen, or else in the desktop's, as far as there is a translation.
-void LoadTranslations(QApplication& application, const QString& folder) {
-    const QString chosen = Options(QDir(folder).filePath("tvorel-options.ini")).Language();
-    const QLocale locale = chosen.isEmpty() ? QLocale::system() : QLocale(chosen);
-    const auto load = [&](const QString& file, const QString& place) {
-        auto* const translator = new QTranslator(&application);
-        if (translator->load(locale, file, "_", place)) QApplication::installTranslator(translator);
-    };
-    load("qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    load("tvorel", ":/i18n");
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -61,13 +48,23 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName("org.tandryvorel.tvorel");
     QApplication::setQuitOnLastWindowClosed(false);
 
+    QCommandLineParser arguments;
+    arguments.setApplicationDescription("Makes bots for the online game Furcadia.");
+    const QCommandLineOption practice("practice", "Connect to the practice dream on this computer at once.");
+    arguments.addOption(practice);
+    arguments.addPositionalArgument("document", "Profiles (.tvm) and scripts (.vs) to open.", "[document...]");
+    arguments.addHelpOption();
+    arguments.addVersionOption();
+    arguments.process(application);
+    std::vector<std::string> documents;
+    for (const QString& document : arguments.positionalArguments()) documents.push_back(TypedPath(document));
+
     const QString folder = ProgramFolder();
     ProvideCommandList(folder);
-    LoadTranslations(application, folder);
+    LoadTranslations(application, Options(QDir(folder).filePath("tvorel-options.ini")).Language());
     QtDialogs dialogs;
     frmVorel window(dialogs, folder);
-    window.Start();
+    window.Start(documents, arguments.isSet(practice));
     window.show();
-    for (const QString& document : QApplication::arguments().mid(1)) window.OpenDocument(TypedPath(document));
     return QApplication::exec();
 }

@@ -16,6 +16,10 @@ ConsoleView::ConsoleView(QWidget* parent) : QListView(parent) {
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setTabKeyNavigation(false);
 
+    // A reader further up keeps what is before the eyes while the oldest lines go.
+    connect(&lines_, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex&, int first, int last) {
+        if (!IsAtEnd()) verticalScrollBar()->setValue(verticalScrollBar()->value() - (last - first + 1));
+    });
     // Whether the view is at its end is asked before lines come, and used after.
     connect(&lines_, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] { following_ = IsAtEnd(); });
     connect(&lines_, &QAbstractItemModel::rowsInserted, this, [this] {

@@ -69,10 +69,16 @@ QToolButton* NewButton(const QString& name, const QString& caption, const QStrin
     }
     button->setToolTip(tip);
     button->setAccessibleName(caption.isEmpty() ? tip : caption);
-    button->setAccessibleDescription(tip);
     button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     return button;
+}
+
+/// Keys that click a button as long as it can be seen.
+void SetKeys(QToolButton& button, const QKeySequence& keys) {
+    button.setShortcut(keys);
+    button.setToolTip(QStringLiteral("%1 (%2)").arg(button.toolTip(), keys.toString(QKeySequence::NativeText)));
+    button.setAccessibleDescription(button.toolTip());
 }
 
 QString ArrayName(const char* letter, int index) { return QStringLiteral("cmd%1_%2").arg(letter).arg(index); }
@@ -102,7 +108,9 @@ ControlPanel::ControlPanel(QWidget* parent) : QGroupBox(parent), tsControls_(new
 
     std::vector<int> counts(kTabCount, 0);
     const auto place = [&](int tab, QToolButton* button, int columns) {
+        constexpr char kKeys[] = "1234567890-";  // for as many as the fullest tab has
         const int index = counts[static_cast<std::size_t>(tab)]++;
+        SetKeys(*button, QKeySequence(QStringLiteral("Alt+") + QChar(kKeys[index])));
         grids[static_cast<std::size_t>(tab)]->addWidget(button, index / columns, index % columns);
     };
     for (const PanelButton& row : kButtons) {
@@ -144,6 +152,7 @@ EmoticonRow::EmoticonRow(QWidget* parent) : QWidget(parent) {
                                               tr("Emoticon %1: adds %2 to the line").arg(letter, tag));
         button->setProperty("tag", tag);
         button->setAutoRaise(true);
+        SetKeys(*button, QKeySequence(QStringLiteral("Alt+Shift+") + letter));
         connect(button, &QToolButton::clicked, this, [this, tag] { emit EmoticonChosen(tag); });
         layout->addWidget(button, 0, i);
     }

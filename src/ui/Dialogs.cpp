@@ -1,9 +1,11 @@
 #include "ui/Dialogs.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <utility>
 
@@ -20,6 +22,29 @@ QMessageBox::Icon BoxIcon(Dialogs::Icon icon) {
     }
     return QMessageBox::NoIcon;
 }
+
+/// A question. Without Cancel neither Escape nor the window's frame answers it, for they would answer "No".
+class Question final : public QMessageBox {
+  public:
+    Question(const QString& title, const QString& text, bool offersCancel, QWidget* parent)
+        : QMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent),
+          offersCancel_(offersCancel) {
+        setTextFormat(Qt::PlainText);
+        if (offersCancel) addButton(QMessageBox::Cancel);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (offersCancel_ || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (offersCancel_) return QMessageBox::closeEvent(event);
+        event->ignore();
+    }
+
+  private:
+    bool offersCancel_;
+};
 
 /// Qt's own form of a filter has the patterns in parentheses, where the description has them already.
 QString QtFilter(const QString& filter) { return filter.section('|', 0, 0).trimmed(); }
@@ -45,10 +70,7 @@ void QtDialogs::ShowMessage(QWidget* parent, const QString& text, const QString&
 }
 
 Dialogs::Answer QtDialogs::Ask(QWidget* parent, const QString& text, const QString& title, bool offersCancel) {
-    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
-    if (offersCancel) buttons |= QMessageBox::Cancel;
-    QMessageBox box(QMessageBox::Question, title, text, buttons, parent);
-    box.setTextFormat(Qt::PlainText);
+    Question box(title, text, offersCancel, parent);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

@@ -16,7 +16,7 @@ class Dialogs {
 
     virtual void ShowMessage(QWidget* parent, const QString& text, const QString& title, Icon icon = Icon::None) = 0;
 
-    /// Asks with Yes and No, and with Cancel too when that is offered.
+    /// Asks with Yes and No, and with Cancel too when that is offered; otherwise one of the two must be chosen.
     virtual Answer Ask(QWidget* parent, const QString& text, const QString& title, bool offersCancel = false) = 0;
 
     /// @return what was typed; nothing when cancelled

@@ -3,11 +3,13 @@
 #include <algorithm>
 
 Reconnector::Reconnector(std::function<double()> draw, QObject* parent) : QObject(parent), draw_(std::move(draw)) {
+    timer_.setObjectName("tmrReconnect");
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &Reconnector::TryNow);
 }
 
-int Reconnector::Schedule() {
+int Reconnector::Schedule(std::chrono::milliseconds stood) {
+    if (stood >= std::chrono::minutes(1)) attempt_ = 0;
     const int pause = PauseMs(attempt_++, draw_());
     timer_.start(pause);
     return pause;

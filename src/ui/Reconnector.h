@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTimer>
+#include <chrono>
 #include <functional>
 
 /// Calls for another try after a lost or refused connection, with growing pauses that vary a little, so that many
@@ -12,9 +13,10 @@ class Reconnector final : public QObject {
     /// @param draw  a uniform draw, at least 0 and below 1
     explicit Reconnector(std::function<double()> draw, QObject* parent = nullptr);
 
-    /// Begins the next pause.
-    /// @return its length in milliseconds
-    int Schedule();
+    /// Begins the next pause, a short one again when the session before it has stood for a minute.
+    /// @param stood  how long that session has stood; zero when it never came about
+    /// @return the pause's length in milliseconds
+    int Schedule(std::chrono::milliseconds stood);
 
     /// No more tries; the next pause is a short one again.
     void Stop();
@@ -27,6 +29,6 @@ class Reconnector final : public QObject {
 
   private:
     std::function<double()> draw_;
-    QTimer timer_;
+    QTimer timer_{this};
     int attempt_ = 0;
 };

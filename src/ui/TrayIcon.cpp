@@ -11,6 +11,7 @@ TrayIcon::TrayIcon(QWidget* window) : QSystemTrayIcon(window), menu_(new QMenu(w
     menu_->addSeparator();
     menu_->addAction(tr("E&xit"), this, &TrayIcon::ExitChosen)->setObjectName("mnuTrayExit");
     setContextMenu(menu_);
+    if (isSystemTrayAvailable()) show();
     connect(this, &QSystemTrayIcon::activated, this, [this](ActivationReason reason) {
         if (reason == DoubleClick) emit RestoreChosen();
     });

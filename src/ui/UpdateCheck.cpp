@@ -34,12 +34,12 @@ std::optional<UpdateNotice> UpdateNotice::Read(const QByteArray& bytes) {
     return UpdateNotice{version, Shortened(text.section('\n', 1).trimmed())};
 }
 
-UpdateCheck::UpdateCheck(QUrl base, UpdateLimits limits, QObject* parent)
-    : QObject(parent), base_(std::move(base)), limits_(limits) {}
+UpdateCheck::UpdateCheck(const QUrl& base, UpdateLimits limits, QObject* parent)
+    : QObject(parent), base_(base.adjusted(QUrl::StripTrailingSlash)), limits_(limits) {}
 
 QNetworkReply* UpdateCheck::Get(const QString& path) {
     QUrl url = base_;
-    url.setPath(base_.path() + path);
+    url.setPath(base_.path(QUrl::FullyDecoded) + path);
     QNetworkRequest request(url);
     // Only within the same server: an update comes from where it is expected, or not at all.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);

@@ -35,7 +35,7 @@ class UpdateCheck final : public QObject {
 
   public:
     /// @param base  where "/tandryvorel.txt" and "/software/tvupdate.zip" lie; when empty nothing is ever fetched
-    explicit UpdateCheck(QUrl base, UpdateLimits limits = {}, QObject* parent = nullptr);
+    explicit UpdateCheck(const QUrl& base, UpdateLimits limits = {}, QObject* parent = nullptr);
 
     /// Looks for a notice; NewerFound comes only for a version newer than ours, Looked in every case.
     void Look();

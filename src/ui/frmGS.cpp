@@ -36,6 +36,7 @@ constexpr char kRootCaptions[][24] = {"Causes", "Additional Conditions", "Effect
 frmGS::frmGS(QtHost& host, Dialogs& dialogs)
     : host_(host), dialogs_(dialogs), txtScript_(new QsciScintilla), lexer_(new VorelSpeakLexer(this)) {
     setObjectName("frmGS");
+    setWindowIcon(QIcon(":/icons/tvorel.svg"));
     resize(980, 640);
     findBar_ = new FindBar(*txtScript_);
     BuildText();
@@ -46,6 +47,7 @@ frmGS::frmGS(QtHost& host, Dialogs& dialogs)
     textLayout->addWidget(txtScript_);
     textLayout->addWidget(findBar_);
     auto* const splitter = new QSplitter;
+    splitter->setContentsMargins(6, 6, 6, 0);
     splitter->addWidget(textSide);
     splitter->addWidget(BuildCommands());
     splitter->setStretchFactor(0, 1);
@@ -126,7 +128,12 @@ void frmGS::BuildMenus() {
         action->setObjectName(name);
         action->setShortcut(keys);
     };
-    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    const auto addMenu = [this](const char* name, const QString& caption) {
+        QMenu* const menu = menuBar()->addMenu(caption);
+        menu->setObjectName(name);
+        return menu;
+    };
+    QMenu* const file = addMenu("mnuFile", tr("&File"));
     add(file, "mnuNew", tr("&New"), QKeySequence::New, [this] {
         if (MayDropChanges()) NewScript();
     });
@@ -136,7 +143,7 @@ void frmGS::BuildMenus() {
     file->addSeparator();
     add(file, "mnuExit", tr("E&xit"), QKeySequence::Close, [this] { close(); });
 
-    QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
+    QMenu* const edit = addMenu("mnuEdit", tr("&Edit"));
     add(edit, "mnuUndo", tr("&Undo"), QKeySequence::Undo, [this] { txtScript_->undo(); });
     add(edit, "mnuRedo", tr("&Redo"), QKeySequence::Redo, [this] { txtScript_->redo(); });
     edit->addSeparator();
@@ -150,7 +157,7 @@ void frmGS::BuildMenus() {
         [this] { findBar_->FindPrevious(); });
     add(edit, "mnuGoTo", tr("&Go to line..."), QKeySequence(Qt::CTRL | Qt::Key_G), [this] { AskForLine(); });
 
-    QMenu* const view = menuBar()->addMenu(tr("&View"));
+    QMenu* const view = addMenu("mnuView", tr("&View"));
     add(view, "mnuZoomIn", tr("Zoom &in"), QKeySequence::ZoomIn, [this] { txtScript_->zoomIn(); });
     add(view, "mnuZoomOut", tr("Zoom &out"), QKeySequence::ZoomOut, [this] { txtScript_->zoomOut(); });
     add(view, "mnuZoomReset", tr("&Usual size"), QKeySequence(Qt::CTRL | Qt::Key_0), [this] { txtScript_->zoomTo(0); });
@@ -202,7 +209,8 @@ std::string frmGS::ScriptText() const { return Typed(txtScript_->text()); }
 void frmGS::ShowBotScript() {
     const auto& script = host_.bot().script;
     if (!script) return NewScript();
-    path_ = script->File();
+    // Absolute, for keeping: the next start may be from another folder.
+    path_ = script->File().empty() ? std::string() : host_.Disk().Absolute(script->File());
     SetText(script->Text());
 }
 
@@ -219,9 +227,9 @@ void frmGS::RestoreText(const std::string& path, const std::string& text) {
     ShowTitle();
 }
 
-bool frmGS::MayDropChanges() {
+bool frmGS::MayDropChanges(bool offersCancel) {
     if (!IsDirty()) return true;
-    const auto answer = dialogs_.Ask(this, kSaveQuestion, kSaveTitle, true);
+    const auto answer = dialogs_.Ask(this, kSaveQuestion, kSaveTitle, offersCancel);
     return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && Save());
 }
 
@@ -266,7 +274,22 @@ bool frmGS::SaveAs() {
     return chosen && WriteTo(TypedPath(*chosen));
 }
 
+/// Asks before characters that a script can't hold are saved as question marks.
+bool frmGS::LosesNothing() {
+    for (int line = 0; line < txtScript_->lines(); ++line) {
+        const QString text = txtScript_->text(line);
+        if (Shown(Typed(text)) == text) continue;
+        const QString question =
+            tr("Line %1 holds characters that the game does not have. Save them as question marks?").arg(line + 1);
+        if (dialogs_.Ask(this, question, kSaveTitle) == Dialogs::Answer::Yes) return true;
+        GoToLine(line + 1);
+        return false;
+    }
+    return true;
+}
+
 bool frmGS::WriteTo(const std::string& path) {
+    if (!LosesNothing()) return false;
     const std::string file = WithExtension(path, kScriptExtension);
     const std::string text = ScriptText();
     try {

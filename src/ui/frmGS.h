@@ -32,7 +32,7 @@ class frmGS final : public QMainWindow {
 
     /// Asks about unsaved changes before something else takes their place.
     /// @return false when the user would rather stay
-    bool MayDropChanges();
+    bool MayDropChanges(bool offersCancel = true);
 
     /// Opens a script with text put aside earlier, as an unsaved change of a file (empty: of none).
     void RestoreText(const std::string& path, const std::string& text);
@@ -92,4 +92,5 @@ class frmGS final : public QMainWindow {
     void ReadFrom(const std::string& path);
     void NameInProfile();
     bool WriteTo(const std::string& path);
+    bool LosesNothing();
 };

@@ -8,7 +8,6 @@
 #include <QGroupBox>
 #include <QInputDialog>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
 #include <QSaveFile>
@@ -17,6 +16,9 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <utility>
 
 #include "Version.h"
 #include "engine/Dispatcher.h"
@@ -31,6 +33,7 @@
 #include "ui/ConsoleView.h"
 #include "ui/ControlPanel.h"
 #include "ui/Dialogs.h"
+#include "ui/DocumentDrops.h"
 #include "ui/InputLine.h"
 #include "ui/ShownText.h"
 #include "ui/TrayIcon.h"
@@ -48,9 +51,13 @@ QList<ServerChoice> Servers() {
     return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
 }
 
-bool IsDocument(const QUrl& url) {
-    const std::string name = LowerCase(TypedPath(url.fileName()));
-    return url.isLocalFile() && (name.ends_with(kProfileExtension) || name.ends_with(kScriptExtension));
+/// Where the guide and the reference lie: installed, beside the source, or else with whoever gave the program away.
+QString DocumentsFolder() {
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* const place : {"../share/doc/tandry-vorel/docs", "../../docs"}) {
+        if (const QFileInfo folder(program.filePath(place)); folder.isDir()) return folder.canonicalFilePath();
+    }
+    return "docs";
 }
 
 }  // namespace
@@ -62,14 +69,14 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
       options_(QDir(folder).filePath("tvorel-options.ini")),
       host_(*this, TypedPath(folder)),
       recovery_(host_.Disk(), TypedPath(folder)),
-      reconnector_([this] { return host_.Random(); }),
+      reconnector_([this] { return host_.Random(); }, this),
       updates_(QUrl(QString(kUpdateServer))),
       editor_(std::make_unique<frmGS>(host_, dialogs)) {
     setObjectName("frmVorel");
     setWindowIcon(QIcon(":/icons/tvorel.svg"));
-    setAcceptDrops(true);
 
     auto* const splitter = new QSplitter;
+    splitter->setContentsMargins(6, 6, 6, 0);
     splitter->addWidget(BuildConsole());
     splitter->addWidget(BuildRightSide());
     splitter->setStretchFactor(0, 1);
@@ -82,10 +89,11 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(tray_, &TrayIcon::RestoreChosen, this, &frmVorel::RestoreFromTray);
     connect(tray_, &TrayIcon::MinimizeChosen, this, &frmVorel::MinimizeToTray);
     connect(tray_, &TrayIcon::ExitChosen, this, &QWidget::close);
-    if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();
 
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
-    connect(&reconnector_, &Reconnector::TryNow, this, [this] { host_.RunHandler([this] { host_.Connect(); }); });
+    connect(&reconnector_, &Reconnector::TryNow, this, [this] {
+        if (bot().status.canConnect) host_.RunHandler([this] { host_.Connect(); });
+    });
     keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
@@ -97,11 +105,16 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     ::NewProfile(bot());
     bot().profile.serverAddress =
         TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
+    drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
+                                             [this](const QString& path) { OpenDocument(TypedPath(path)); });
     ShowTitle();
     ShowStatus();
 }
 
-frmVorel::~frmVorel() = default;
+frmVorel::~frmVorel() {
+    // The list of variables shows what belongs to the host, which goes before the window's parts.
+    delete takeCentralWidget();
+}
 
 // --- what the window is made of ----------------------------------------------------------------------------------
 
@@ -222,7 +235,12 @@ QAction* frmVorel::AddOption(QMenu* menu, const char* name, const QString& capti
 }
 
 void frmVorel::BuildMenus() {
-    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    const auto addMenu = [this](const char* name, const QString& caption) {
+        QMenu* const menu = menuBar()->addMenu(caption);
+        menu->setObjectName(name);
+        return menu;
+    };
+    QMenu* const file = addMenu("mnuFile", tr("&File"));
     AddAction(file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewProfile(); });
     AddAction(file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { OpenProfileByMenu(); });
     mnuRecent_ = file->addMenu(tr("&Recent"));
@@ -233,7 +251,7 @@ void frmVorel::BuildMenus() {
     file->addSeparator();
     AddAction(file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
 
-    QMenu* const session = menuBar()->addMenu(tr("S&ession"));
+    QMenu* const session = addMenu("mnuSession", tr("S&ession"));
     AddAction(session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] {
         reconnector_.Stop();
         host_.RunHandler([this] { host_.Connect(); });
@@ -253,8 +271,7 @@ void frmVorel::BuildMenus() {
     AddOption(session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
               [this](bool on) { options_.Set("connection/atStart", on); });
 
-    QMenu* const script = menuBar()->addMenu("&Script");
-    script->setObjectName("mnuScript");
+    QMenu* const script = addMenu("mnuScript", "&Script");
     AddAction(script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] {
         editor_->show();
         editor_->raise();
@@ -262,7 +279,7 @@ void frmVorel::BuildMenus() {
     });
     AddAction(script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
 
-    QMenu* const console = menuBar()->addMenu(tr("&Console"));
+    QMenu* const console = addMenu("mnuConsole", tr("&Console"));
     AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(true); });
     AddAction(console, "mnuFindNext", tr("Find ne&xt"), QKeySequence::FindNext, [this] { FindInConsole(false); });
     AddAction(console, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
@@ -283,13 +300,13 @@ void frmVorel::BuildMenus() {
     AddOption(console, "mnuNotify", tr("&Notify of whispers"), options_.NotifyWhispers(),
               [this](bool on) { options_.Set("desktop/notifyWhispers", on); });
 
-    QMenu* const configuration = menuBar()->addMenu(tr("C&onfiguration"));
+    QMenu* const configuration = addMenu("mnuConfiguration", tr("C&onfiguration"));
     AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
               [this] { ShowConfiguration(); });
 
     BuildLanguageMenu(configuration->addMenu(tr("&Language")));
 
-    QMenu* const help = menuBar()->addMenu(tr("&Help"));
+    QMenu* const help = addMenu("mnuHelp", tr("&Help"));
     AddAction(help, "mnuGHelp", "Vorel &Help", QKeySequence::HelpContents, [this] { cmdHelp_Click(); });
 }
 
@@ -340,7 +357,10 @@ void frmVorel::ShowConsoleLine(std::string_view line) {
     NotifyWhisper(line);
 }
 
-void frmVorel::ClearConsole() { lstView_->Lines().Clear(); }
+void frmVorel::ClearConsole() {
+    lstView_->Lines().Clear();
+    if (!tourFault_.isEmpty()) Announce(std::exchange(tourFault_, {}));
+}
 
 void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
     const bool critical = title == "Invalid Selection";
@@ -349,6 +369,7 @@ void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
 
 void frmVorel::StatusChanged() {
     ShowStatus();
+    if (bot().status.connection == "Connected" && !connected_.isValid()) connected_.start();
     if (bot().status.canConnect && bot().status.end != SessionStatus::End::NotYet) {
         // The script may connect again by itself; the end is one only after it has had its turn.
         QTimer::singleShot(0, this, [this] { OnSessionEnd(); });
@@ -377,9 +398,11 @@ void frmVorel::OnSessionEnd() {
     } else if (status.end == SessionStatus::End::ByError) {
         reason = tr("No connection: %1").arg(Shown(status.reason));
     }
+    const std::chrono::milliseconds stood(connected_.isValid() ? connected_.elapsed() : 0);
+    connected_.invalidate();
     const bool lost = status.end == SessionStatus::End::ByServer || status.end == SessionStatus::End::ByError;
     if (lost && !refusedLogin && options_.Reconnect()) {
-        reason += " " + tr("Trying again in %n second(s).", nullptr, reconnector_.Schedule() / 1000);
+        reason += " " + tr("Trying again in %n second(s).", nullptr, reconnector_.Schedule(stood) / 1000);
     } else {
         reconnector_.Stop();
     }
@@ -407,33 +430,63 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
 
 void frmVorel::NotifyWhisper(std::string_view line) {
     if (!options_.NotifyWhispers() || isActiveWindow() || !line.ends_with(" to you. ]")) return;
-    tray_->showMessage(tr("A whisper"), Shown(line));
+    // Some desktops take what looks like a tag for one.
+    tray_->showMessage(tr("A whisper"), Shown(line).replace('<', QChar(0x2039)));
 }
 
 void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
 
 // --- profiles ----------------------------------------------------------------------------------------------------
 
-void frmVorel::Start() {
-    host_.RunHandler([this] { BeginWork(); });
+void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
+    if (practice) bot().profile.serverAddress = kPracticeAddress;
+    host_.RunHandler([&] { BeginWork(documents); });
+    if (!faulted_ && (practice || options_.ConnectAtStart())) host_.RunHandler([this] { host_.Connect(); });
 }
 
-void frmVorel::BeginWork() {
-    editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
-    const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
-    if (settings.hasPlace) move(static_cast<int>(settings.left), static_cast<int>(settings.top));
-    if (!settings.recent.empty()) OpenMostRecent(settings.recent);
-    if (faulted_) return;
+void frmVorel::BeginWork(const std::vector<std::string>& documents) {
     const QString log = options_.LogFile();
     if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
-    OfferUnsavedWork();
+    if (!QFileInfo(folder_).isWritable())
+        Announce(tr("Nothing can be written in %1: neither settings nor unsaved work will be kept.").arg(folder_));
+    editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
+    const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
+    MoveTo(settings);
+    auto profile = recovery_.FoundProfile(), script = recovery_.FoundScript();
+    if (profile && !Wants(tr("configuration"), profile->path)) profile.reset();
+    if (script && !Wants(tr("script"), script->path)) script.reset();
+    const bool handedOver = std::any_of(documents.begin(), documents.end(), [](const std::string& path) {
+        return LowerCase(path).ends_with(kProfileExtension);
+    });
+    if (profile) {
+        RestoreUnsavedProfile(*profile);
+    } else if (script || !handedOver) {
+        OpenMostRecent(script ? script->profile : settings.recent);
+    }
+    if (faulted_) return;
+    if (script) {
+        editor_->RestoreText(script->path, script->bytes);
+        editor_->show();
+    }
+    KeepUnsavedWork();  // what was not wanted goes
     keepUnsaved_.start(kKeepUnsavedMs);
+    for (const std::string& document : documents) {
+        if (!faulted_) OpenDocument(document);
+    }
     updates_.Look();
-    if (options_.ConnectAtStart()) host_.Connect();
 }
 
-/// Opens the profile of the last run, unless it ended the program then: it would do so at every start.
+/// Puts the window where it was, unless its title would lie on no screen there.
+void frmVorel::MoveTo(const Settings& settings) {
+    constexpr double kFarthest = 1e6;  // what any screen has, and an int holds
+    if (!settings.hasPlace || std::abs(settings.left) > kFarthest || std::abs(settings.top) > kFarthest) return;
+    const QPoint place(static_cast<int>(settings.left), static_cast<int>(settings.top));
+    if (QGuiApplication::screenAt(place + QPoint(width() / 2, 10))) move(place);
+}
+
+/// Opens a profile of the last run, unless opening it has ended the program: it would do so at every start.
 void frmVorel::OpenMostRecent(const std::string& path) {
+    if (path.empty()) return;
     if (options_.ProfileBeingOpened() == ShownPath(path)) {
         options_.Set("recent/beingOpened", QString());
         Announce(tr("%1 was not opened, because opening it ended the program the last time. Mend its script, then open "
@@ -441,13 +494,13 @@ void frmVorel::OpenMostRecent(const std::string& path) {
                      .arg(ShownPath(path)));
         return;
     }
-    options_.Set("recent/beingOpened", ShownPath(path));
     OpenProfileFile(path);
-    if (!faulted_) options_.Set("recent/beingOpened", QString());
 }
 
 void frmVorel::OpenDocument(const std::string& path) {
-    if (LowerCase(path).ends_with(kScriptExtension)) {
+    if (!host_.Disk().Find(path)) {
+        Announce(tr("%1 does not exist.").arg(ShownPath(path)));
+    } else if (LowerCase(path).ends_with(kScriptExtension)) {
         editor_->OpenScript(path);
         editor_->show();
     } else if (!LowerCase(path).ends_with(kProfileExtension)) {
@@ -459,12 +512,14 @@ void frmVorel::OpenDocument(const std::string& path) {
 
 void frmVorel::OpenProfileFile(const std::string& path) {
     const std::string absolute = host_.Disk().Absolute(path);
+    options_.Set("recent/beingOpened", ShownPath(absolute));
     host_.RunHandler([&] {
         const std::string address = bot().profile.serverAddress;
         const ProfileLoad load = LoadProfile(bot(), absolute);
         bot().profile.serverAddress = address;
         ShowLoaded(load, absolute);
     });
+    if (!faulted_) options_.Set("recent/beingOpened", QString());
 }
 
 void frmVorel::OpenProfileByMenu() {
@@ -481,6 +536,7 @@ void frmVorel::OpenProfileByMenu() {
 
 void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     if (!load.found) return;
+    reconnector_.Stop();  // it was for another bot
     ShowTitle();
     editor_->ShowBotScript();
     options_.AddRecentProfile(ShownPath(path));
@@ -492,14 +548,13 @@ void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
 void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
     for (const QString& path : options_.RecentProfiles()) {
-        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] {
-            if (MayDropChanges()) OpenProfileFile(TypedPath(path));
-        });
+        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] { OpenDocument(TypedPath(path)); });
     }
 }
 
 void frmVorel::NewProfile() {
     if (!MayDropChanges()) return;
+    reconnector_.Stop();
     const std::string address = bot().profile.serverAddress;
     ::NewProfile(bot());
     bot().profile.serverAddress = address;
@@ -533,12 +588,12 @@ bool frmVorel::WriteProfile(const std::string& path) {
 
 /// Asks about unsaved changes before something else takes their place.
 /// @return false when the user would rather stay
-bool frmVorel::MayDropChanges() {
+bool frmVorel::MayDropChanges(bool offersCancel) {
     // The script first: saved under a new name, it changes the profile.
-    if (!editor_->MayDropChanges()) return false;
+    if (!editor_->MayDropChanges(offersCancel)) return false;
     if (!bot().profile.dirty) return true;
     const auto answer =
-        dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", true);
+        dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", offersCancel);
     return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && SaveProfile());
 }
 
@@ -562,7 +617,7 @@ void frmVorel::closeEvent(QCloseEvent* event) {
     SaveAllSettings();
     // From the tray: questions are asked in a window that can be seen.
     if (!faulted_ && !isVisible() && (bot().profile.dirty || editor_->IsDirty())) RestoreFromTray();
-    if (!faulted_ && !MayDropChanges()) return event->ignore();
+    if (!faulted_ && !MayDropChanges(false)) return event->ignore();
     keepUnsaved_.stop();
     if (!faulted_) {
         recovery_.KeepScript(std::nullopt);
@@ -586,29 +641,26 @@ void frmVorel::OfferUpdate(const QString& version, const QString& text) {
 
 void frmVorel::KeepUnsavedWork() {
     using Copy = Recovery::Copy;
-    recovery_.KeepScript(editor_->IsDirty() ? std::optional(Copy{editor_->Path(), editor_->ScriptText()})
+    const std::string& profile = bot().profile.path;
+    recovery_.KeepScript(editor_->IsDirty() ? std::optional(Copy{editor_->Path(), profile, editor_->ScriptText()})
                                             : std::nullopt);
-    recovery_.KeepProfile(bot().profile.dirty ? std::optional(Copy{bot().profile.path, ProfileBytes(bot().profile)})
+    recovery_.KeepProfile(bot().profile.dirty ? std::optional(Copy{profile, profile, ProfileBytes(bot().profile)})
                                               : std::nullopt);
 }
 
-void frmVorel::OfferUnsavedWork() {
-    const auto script = recovery_.FoundScript();
-    const auto profile = recovery_.FoundProfile();
-    const auto wanted = [this](const QString& what) {
-        return dialogs_.Ask(this,
-                            tr("The program did not end in order the last time. Take back the unsaved %1?").arg(what),
-                            kProductName) == Dialogs::Answer::Yes;
-    };
-    if (profile && wanted(tr("configuration"))) {
-        RestoreProfile(bot(), profile->path, profile->bytes);
-        ShowTitle();
-    }
-    if (script && wanted(tr("script"))) {
-        editor_->RestoreText(script->path, script->bytes);
-        editor_->show();
-    }
-    KeepUnsavedWork();  // what was not wanted goes
+/// Asks whether unsaved work of the last time is to be taken back.
+/// @param file  what it is a change of; empty for a new one
+bool frmVorel::Wants(const QString& what, const std::string& file) {
+    const QString name = file.empty() ? what : what + " " + ShownPath(FileNameOf(file));
+    return dialogs_.Ask(this, tr("The program did not end in order the last time. Take back the unsaved %1?").arg(name),
+                        kProductName) == Dialogs::Answer::Yes;
+}
+
+void frmVorel::RestoreUnsavedProfile(const Recovery::Copy& copy) {
+    RestoreProfile(bot(), copy.path, copy.bytes);
+    ShowTitle();
+    if (const auto script = FindProfileFile(bot(), bot().profile.scriptPath)) LoadScript(bot(), *script);
+    editor_->ShowBotScript();
 }
 
 void frmVorel::changeEvent(QEvent* event) {
@@ -619,6 +671,7 @@ void frmVorel::changeEvent(QEvent* event) {
 }
 
 void frmVorel::MinimizeToTray() {
+    if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();  // it may have come after the start
     if (!tray_->isVisible()) return showMinimized();
     hide();
     if (options_.TrayExplained()) return;
@@ -627,20 +680,10 @@ void frmVorel::MinimizeToTray() {
 }
 
 void frmVorel::RestoreFromTray() {
-    showNormal();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
     raise();
     activateWindow();
-}
-
-void frmVorel::dragEnterEvent(QDragEnterEvent* event) {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (std::any_of(urls.begin(), urls.end(), IsDocument)) event->acceptProposedAction();
-}
-
-void frmVorel::dropEvent(QDropEvent* event) {
-    for (const QUrl& url : event->mimeData()->urls()) {
-        if (IsDocument(url)) OpenDocument(TypedPath(url.toLocalFile()));
-    }
 }
 
 // --- what the controls do ----------------------------------------------------------------------------------------
@@ -667,10 +710,9 @@ void frmVorel::cmdC_Click(const QString& caption) {
 void frmVorel::cmdHelp_Click() {
     dialogs_.ShowMessage(
         this,
-        tr("How to make a bot is told in docs/guide.md, and every command in docs/language.md, which come "
-           "with the program. Other makers are glad to help in the game's own bot-making dreams.\n\n"
-           "Settings and data files are kept in %1.")
-            .arg(folder_),
+        tr("How to make a bot is told in guide.md, and every command in language.md, both in %1. Other makers are glad "
+           "to help in the game's own bot-making dreams.\n\nSettings and data files are kept in %2.")
+            .arg(DocumentsFolder(), folder_),
         "Help", Dialogs::Icon::Information);
 }
 
@@ -730,7 +772,7 @@ void frmVorel::OpenPractice(std::string& address, int& port) {
     const std::string tourFile = JoinPath(FolderOf(bot().profile.path), "tour.txt");
     if (const auto tour = host_.Disk().Find(tourFile)) {
         TourReading reading = ReadTour(host_.Disk().Read(*tour), *tour);
-        if (!reading.fault.empty()) Announce(QString::fromStdString(reading.fault));
+        tourFault_ = QString::fromStdString(reading.fault);
         settings.tour = std::move(reading.tour);
     }
     practice_ = std::make_unique<PracticeServer>(std::move(settings));

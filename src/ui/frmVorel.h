@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMainWindow>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "platform/FrontEnd.h"
 #include "platform/QtHost.h"
@@ -14,6 +17,7 @@
 
 class ConsoleView;
 class Dialogs;
+class DocumentDrops;
 class InputLine;
 class PracticeServer;
 class QLineEdit;
@@ -22,6 +26,7 @@ class TrayIcon;
 class VariableList;
 class frmGS;
 struct ProfileLoad;
+struct Settings;
 
 /// Where the address list's practice dream leads; no host has this name.
 inline constexpr char kPracticeAddress[] = "practice dream";
@@ -39,8 +44,11 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QtHost& host() { return host_; }
     frmGS& editor() { return *editor_; }
 
-    /// Reads the settings with the most recent profile in them, and offers back what a crash has left.
-    void Start();
+    /// Reads the settings, offers back what a crash has left, and opens the documents, or when no profile is among them
+    /// the most recent one.
+    /// @param documents  paths of ".tvm" and ".vs" files, UTF-8
+    /// @param practice   connects to the practice dream at once, whatever is set
+    void Start(const std::vector<std::string>& documents = {}, bool practice = false);
 
     /// Opens a ".tvm" or ".vs" file that the desktop or a drop has handed over; asks about unsaved changes first.
     /// @param path  UTF-8
@@ -56,8 +64,6 @@ class frmVorel final : public QMainWindow, public FrontEnd {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
   private:
     Dialogs& dialogs_;
@@ -70,8 +76,10 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QTimer keepUnsaved_{this};
     Reconnector reconnector_;
     UpdateCheck updates_;
+    QElapsedTimer connected_;  ///< since the session came about; invalid before
     bool faulted_ = false;
-    QString sought_;  ///< in the console
+    QString sought_;     ///< in the console
+    QString tourFault_;  ///< to be told when the session's console begins
 
     ConsoleView* lstView_;
     QLineEdit* txtView_;
@@ -81,6 +89,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QMenu* mnuRecent_;
     std::unique_ptr<frmGS> editor_;
     TrayIcon* tray_;
+    std::unique_ptr<DocumentDrops> drops_;
 
     QWidget* BuildConsole();
     QWidget* BuildRightSide();
@@ -106,9 +115,10 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     bool SaveProfile();
     bool SaveProfileAs();
     bool WriteProfile(const std::string& path);
-    bool MayDropChanges();
+    bool MayDropChanges(bool offersCancel = true);
     void SaveAllSettings();
-    void BeginWork();
+    void BeginWork(const std::vector<std::string>& documents);
+    void MoveTo(const Settings& settings);
 
     void txtSend_Enter();
     void cmdC_Click(const QString& caption);
@@ -122,7 +132,8 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void OpenPractice(std::string& address, int& port);
     void OfferUpdate(const QString& version, const QString& text);
     void KeepUnsavedWork();
-    void OfferUnsavedWork();
+    bool Wants(const QString& what, const std::string& file);
+    void RestoreUnsavedProfile(const Recovery::Copy& copy);
     void NotifyWhisper(std::string_view line);
     void MinimizeToTray();
     void RestoreFromTray();

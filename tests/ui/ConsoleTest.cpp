@@ -28,6 +28,10 @@ TEST(ConsoleView, LosesNoLineOfAFloodAndFollowsUnlessScrolledUp) {
     bar.setValue(10);
     EXPECT_FALSE(followsAfter());
     EXPECT_EQ(bar.value(), 10);
+    view.Lines().SetScrollBack(next);
+    append(5);
+    EXPECT_FALSE(followsAfter());
+    EXPECT_EQ(view.Lines().LineAt(bar.value()), "10") << "while the oldest lines go";
     bar.setValue(bar.maximum());
     view.resize(300, 80);
     EXPECT_TRUE(followsAfter()) << "a smaller window is no scrolling";
@@ -36,10 +40,10 @@ TEST(ConsoleView, LosesNoLineOfAFloodAndFollowsUnlessScrolledUp) {
     view.Lines().SetScrollBack(3);
     append(2);
     EXPECT_TRUE(followsAfter());
-    EXPECT_EQ(view.Lines().AllText(), "20004\n20005\n20006\n") << "the newest are kept";
+    EXPECT_EQ(view.Lines().AllText(), "20010\n20011\n20012\n") << "the newest are kept";
     append(7);
     EXPECT_TRUE(followsAfter());
-    EXPECT_EQ(view.Lines().AllText(), "20012\n20013\n20014\n") << "of more than there is room for, too";
+    EXPECT_EQ(view.Lines().AllText(), "20018\n20019\n20020\n") << "of more than there is room for, too";
 }
 
 class Console : public Desk {};
@@ -100,8 +104,13 @@ TEST_F(Variables, FollowTheBotAndAreEditedByHand) {
     EXPECT_TRUE(shows("[points]=0 ")) << "names have brackets";
     list.topLevelItem(0)->setText(1, "7");
     EXPECT_EQ(*variables.Find("[points]"), "7");
+    variables.Set("[last]", "1");
+    variables.Set("[points]", "8");
+    list.topLevelItem(0)->setText(0, "score");
+    EXPECT_TRUE(shows("[score]=8 [last]=1 ")) << "with the value that the script gave it meanwhile";
+    variables.Remove("[last]");
     list.topLevelItem(0)->setText(0, "");
-    EXPECT_TRUE(shows("[points]=7 ")) << "a name is not emptied";
+    EXPECT_TRUE(shows("[score]=8 ")) << "a name is not emptied";
     Choose("cmdDel_Var");
     EXPECT_TRUE(shows("") && variables.Rows().empty());
 }

@@ -114,6 +114,10 @@ TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
         server.Close(session);
         EXPECT_TRUE(Eventually([&] { return Panel(3).contains(told); })) << Panel(3);
     }
+    EXPECT_TRUE(The<QTimer>("tmrReconnect").isActive());
+    Choose("mnuNew", {});
+    EXPECT_FALSE(The<QTimer>("tmrReconnect").isActive()) << "it was for another bot";
+    Open("bot.tvm");
     The<QAction>("mnuReconnect").setChecked(false);
     server.listener.close();
     Choose("mnuConnect");
@@ -130,6 +134,10 @@ TEST(Reconnector, PausesGrowToFiveMinutesAndVaryByAQuarter) {
     EXPECT_EQ(Reconnector::PauseMs(0, 0.5), 5625);
     EXPECT_EQ(Reconnector::PauseMs(5, 0), 160000);
     EXPECT_EQ(Reconnector::PauseMs(1000, 0.8), 360000);
+    Reconnector reconnector([] { return 0; });
+    std::vector<int> pauses;
+    for (const int stood : {0, 59, 60, 0}) pauses.push_back(reconnector.Schedule(std::chrono::seconds(stood)));
+    EXPECT_EQ(pauses, (std::vector<int>{5000, 10000, 5000, 10000})) << "short again after a steady session";
 }
 
 }  // namespace

@@ -10,13 +10,13 @@ class Program : public Desk {
         emit menu.aboutToShow();
         menu.actions()[number]->trigger();
     }
-    bool Drop(const QString& file) const {
+    bool Drop(const QString& file, QWidget& onto) const {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(Path(file))});
         QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(window.get(), &enter);
+        QCoreApplication::sendEvent(&onto, &enter);
         QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(window.get(), &drop);
+        QCoreApplication::sendEvent(&onto, &drop);
         return enter.isAccepted();
     }
     /// Leaves the profile and the script with unsaved changes.
@@ -76,13 +76,16 @@ class Leaving : public Program, public testing::WithParamInterface<const char*> 
         Front(*window);
         ChangeBot();
     }
+    bool EndsTheProgram() const { return way.ends_with("xit") || way == "CloseBox"; }
+
     void Leave(QStringList answers, bool leaves) {
         const QStringList questions = {"[Save Script] Do you want to save any changes to your script?",
                                        "[Save Vorel] Do you want to save any changes to your bot's configuration?"};
-        const QString expected = "yes-no-cancel " + questions.mid(0, answers.size()).join("|yes-no-cancel ");
+        const QString kind = EndsTheProgram() ? "yes-no " : "yes-no-cancel ";
+        const QString expected = kind + questions.mid(0, answers.size()).join("|" + kind);
         if (leaves && way == "mnuOpen") answers << Path("other.tvm");
         const std::map<std::string, std::function<void()>> others = {{"Recent", [this] { OpenRecent(1); }},
-                                                                     {"Drop", [this] { Drop("other.tvm"); }},
+                                                                     {"Drop", [this] { Drop("other.tvm", *window); }},
                                                                      {"CloseBox", [this] { window->close(); }}};
         const auto other = others.find(way);
         const QString told =
@@ -95,8 +98,10 @@ class Leaving : public Program, public testing::WithParamInterface<const char*> 
 
 TEST_P(Leaving, CancelStaysAndNoDropsTheChanges) {
     const QByteArray saved = Read("bot.vs") + Read("bot.tvm");
-    Leave({"Cancel"}, false);
-    Leave({"No", "Cancel"}, false);
+    if (!EndsTheProgram()) {
+        Leave({"Cancel"}, false);
+        Leave({"No", "Cancel"}, false);
+    }
     Leave({"No", "No"}, true);
     EXPECT_EQ(Read("bot.vs") + Read("bot.tvm"), saved);
     EXPECT_EQ(Start(), "") << "nothing to take back";
@@ -117,14 +122,18 @@ INSTANTIATE_TEST_SUITE_P(Program, Leaving,
 TEST_F(Program, OpensProfilesAndScriptsThatAreDroppedAndNothingElse) {
     StartWithBot();
     Write("notes.txt", "Owners=Zed\r\n");
-    EXPECT_FALSE(Drop("notes.txt"));
+    EXPECT_FALSE(Drop("notes.txt", *window));
+    Open("missing.tvm");
+    EXPECT_TRUE(ConsoleText().contains("missing.tvm does not exist."));
     Open("notes.txt");
     EXPECT_TRUE(ConsoleText().contains("notes.txt is neither a profile (.tvm) nor a script (.vs)."));
     EXPECT_EQ(bot().profile.owners, "Ann");
     Write("other.VS", ScriptText(""));
-    EXPECT_TRUE(Drop("other.VS"));
+    EXPECT_TRUE(Drop("other.VS", The("txtSend")));
     EXPECT_TRUE(Editor().isVisible());
-    EXPECT_EQ(Editor().windowTitle(), "VorelSpeak Script Editor - [other.VS][*]");
+    EXPECT_EQ(Editor().windowTitle() + The<QLineEdit>("txtSend").text(), "VorelSpeak Script Editor - [other.VS][*]");
+    EXPECT_TRUE(Drop("bot.vs", Named(Editor(), "txtScript")));
+    EXPECT_EQ(Editor().windowTitle(), "VorelSpeak Script Editor - [bot.vs][*]");
 
     // A script that is saved on leaving, under a new name, changes the profile.
     ChooseInEditor("mnuNew");
@@ -159,6 +168,11 @@ TEST_F(Program, RemembersItsPlaceAndProfileAndHidesInTheTray) {
     EXPECT_TRUE(hidesWhenMinimized());
     Choose("mnuTrayExit");
     EXPECT_TRUE(Read("tvorel.cfg").endsWith("\r\nTop=0\r\nLeft=0\r\n"));
+    for (const char* const faraway : {"90000", "1e300"}) {
+        Write("tvorel.cfg", QByteArray("[General]\r\nTop=0\r\nLeft=") + faraway + "\r\n");
+        Start();
+        EXPECT_NE(QGuiApplication::screenAt(window->pos()), nullptr) << faraway;
+    }
 }
 
 /// A bot whose script and profile were changed, in a program that has ended without a word.
@@ -197,24 +211,47 @@ TEST_F(AfterACrash, UnsavedWorkIsTakenBackAsUnsaved) {
     EXPECT_EQ(Start(), "") << "nothing is left";
 }
 
+TEST_F(AfterACrash, AnotherProgramLeavesItAlone) {
+    TakeBack();
+    Crash();
+    RecordingDialogs nobody;
+    auto first = std::make_unique<frmVorel>(dialogs, Path());
+    frmVorel second(nobody, Path());
+    EXPECT_EQ(nobody.During({}, [&] { second.Start(); }), "");
+    first.reset();
+    TakeBack();
+}
+
+TEST_F(AfterACrash, AScriptIsTakenBackUnderItsProfile) {
+    WriteBot("other", "(0:0) loaded,\r\n(5:2) show {other}");
+    Write("tvorel.cfg", "[General]\r\nRecent=" + Path("other.tvm").toUtf8() + "\r\n");
+    Start({"No", "Yes"});
+    EXPECT_EQ(ConsoleText() + QString::fromStdString(Editor().ScriptText()),
+              "ready\n" + QString::fromStdString(unsaved));
+    window.reset();
+    window = std::make_unique<frmVorel>(dialogs, Path());
+    dialogs.During({"No"}, [this] { window->Start({Path("bot.tvm").toStdString()}); });
+    EXPECT_EQ(ConsoleText(), "ready\n") << "instead of the most recent one";
+}
+
 TEST_F(AfterACrash, FaultsAreToldAndEndTheProgramWithTheWorkPutAside) {
     WriteBot("bad", "(0:0) loaded,\r\n(5:99999) what?");
-    Write("tvorel.cfg", "[General]\r\nRecent=" + Path("bad.tvm").toUtf8() + "\r\n");
-    EXPECT_TRUE(Start().contains(Path("bad.vs") + ", line 3"));
-    EXPECT_EQ(QCoreApplication::exec(), 70);
     TakeBack();
-    EXPECT_TRUE(ConsoleText().contains("was not opened")) << "or it would end the program at every start";
-
-    WriteBot("bad");
-    Write("large.tvm", "[General]\r\nPort=99999\r\n");
-    EXPECT_TRUE(Open("large.tvm", {"No", "No"})
-                    .endsWith("|critical [Tandry Vorel] Overflow\n\n" + Path("large.tvm") +
-                              ", line 2\n\nUnsaved work was put aside in " + Path() +
+    EXPECT_TRUE(Open("bad.tvm", {"No", "No"})
+                    .endsWith("|critical [Tandry Vorel] Overflow\n\n" + Path("bad.vs") +
+                              ", line 3\n\nUnsaved work was put aside in " + Path() +
                               ", and will be offered at the next start."));
     EXPECT_EQ(QCoreApplication::exec(), 70);
     const QString shown = ConsoleText();
     Choose("mnuRun");
     EXPECT_EQ(ConsoleText(), shown) << "nothing runs any more";
+    Start({"Yes"});
+    EXPECT_TRUE(ConsoleText().contains("was not opened")) << "or it would end the program at every start";
+    EXPECT_EQ(Editor().ScriptText(), unsaved);
+
+    Write("large.tvm", "[General]\r\nPort=99999\r\n");
+    EXPECT_TRUE(Open("large.tvm", {"No"}).contains(Path("large.tvm") + ", line 2\n\n"));
+    EXPECT_EQ(QCoreApplication::exec(), 70);
     Start({"No"});
     EXPECT_FALSE(bot().profile.dirty || Editor().IsDirty());
     EXPECT_EQ(Start(), "") << "what is not wanted goes";

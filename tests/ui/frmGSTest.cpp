@@ -92,7 +92,10 @@ TEST_F(ScriptEditor, AsksBeforeUnsavedTextGoesAndHidesWhenClosed) {
     EXPECT_EQ(close({"Yes"}), "yes-no" + question);
     EXPECT_EQ(bot().script->Text(), "x" + saved);
     ChooseInEditor("mnuNew");
-    TypeInEditor("y");
+    text->insert("\u4e2d");
+    EXPECT_TRUE(
+        ChooseInEditor("mnuSaveAs", {Path("y"), "No"}).contains("|yes-no [Save Script] Line 1 holds characters"));
+    EXPECT_TRUE(editor->IsDirty() && !QFile::exists(Path("y.vs")));
     close({"Yes", "Cancel"});
     EXPECT_TRUE(editor->isVisible()) << "saving was cancelled";
 }

@@ -1,11 +1,14 @@
 // Draws every window, page and dialog of the program into PNG files, with the greeter at work in the practice dream.
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QStyleFactory>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -13,15 +16,17 @@
 #include <QTreeWidget>
 #include <cstdio>
 
+#include "text/Fault.h"
 #include "ui/ConsoleView.h"
 #include "ui/Dialogs.h"
 #include "ui/ShownText.h"
+#include "ui/Translations.h"
 #include "ui/frmGS.h"
 #include "ui/frmVorel.h"
 
 namespace {
 
-QString prefix;
+QString pictures;
 
 void UseColors(bool dark) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
@@ -40,7 +45,7 @@ void UseColors(bool dark) {
 
 void Grab(QWidget* widget, const QString& name) {
     QApplication::processEvents();
-    widget->grab().save(prefix + name + ".png");
+    widget->grab().save(pictures + "/" + name + ".png");
 }
 
 /// Grabs the dialog that open() shows, then closes it.
@@ -86,17 +91,49 @@ void GrabEditor(frmGS& editor) {
     Grab(&editor, "editor-find");
 }
 
+void GrabMenus(const QMainWindow& window, const QString& name) {
+    for (const QAction* const item : window.menuBar()->actions()) {
+        item->menu()->popup(window.pos());
+        Grab(item->menu(), name + "-" + item->menu()->objectName().mid(3).toLower());
+        item->menu()->hide();
+    }
+}
+
+/// Grabs the question about an unsaved profile, and answers it.
+void GrabQuestion(QtDialogs& dialogs, frmVorel& window, const QString& name, bool offersCancel) {
+    QTimer::singleShot(300, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        Grab(box, name);
+        box->button(QMessageBox::No)->click();
+    });
+    dialogs.Ask(&window, "Do you want to save any changes to your bot's configuration?", "Save Vorel", offersCancel);
+}
+
+void GrabDialogs(frmVorel& window) {
+    constexpr const char* kDialogs[][2] = {
+        {"help", "mnuGHelp"}, {"find", "mnuFind"},   {"scroll-back", "mnuScrollBack"},
+        {"open", "mnuOpen"},  {"save", "mnuSaveAs"}, {"log", "mnuLog"}};
+    for (const auto& [name, item] : kDialogs) {
+        GrabDialog(name, [&window, item = item] { window.findChild<QAction*>(item)->trigger(); });
+    }
+    GrabDialog("go-to-line", [&] { window.editor().findChild<QAction*>("mnuGoTo")->trigger(); });
+    GrabDialog("invalid", [&] {
+        window.ShowMessage("Invalid Selection", "Select a valid Furcadia character before attempting to connect.");
+    });
+    QtDialogs dialogs;
+    GrabQuestion(dialogs, window, "question", false);
+    GrabQuestion(dialogs, window, "question-cancel", true);
+    GrabDialog("fault", [&] { window.EndWithFault(RuntimeFault(FaultKind::TypeMismatch, "x")); });
+}
+
 void GrabAll(frmVorel& window) {
     Grab(&window, "main");
     GrabTabs(window);
+    GrabMenus(window, "menu");
     GrabEditor(window.editor());
+    GrabMenus(window.editor(), "editor-menu");
     GrabConfiguration(window);
-    GrabDialog("help", [&] { window.findChild<QAction*>("mnuGHelp")->trigger(); });
-    GrabDialog("find", [&] { window.findChild<QAction*>("mnuFind")->trigger(); });
-    auto* const menu = window.findChild<QMenu*>("mnuScript");
-    menu->popup(window.pos());
-    Grab(menu, "menu-script");
-    menu->hide();
+    GrabDialogs(window);
 }
 
 /// Lets the bot and its visitors act until the console holds a number of lines.
@@ -114,22 +151,23 @@ void WaitForLines(frmVorel& window, int lines) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 6) {
-        std::fputs("usage: tvorel_screenshots PICTURES/PREFIX light|dark GREETER.tvm VSLIST.vs LINES\n", stderr);
+    if (arguments.size() != 7) {
+        std::fputs("usage: tvorel_screenshots FOLDER light|dark LANGUAGE GREETER.tvm VSLIST.vs LINES\n", stderr);
         return 64;
     }
-    prefix = arguments[1];
+    pictures = arguments[1];
     UseColors(arguments[2] == "dark");
+    LoadTranslations(application, arguments[3]);
     const QTemporaryDir folder;
-    QFile::copy(arguments[4], folder.filePath("vslist.vs"));
+    QFile::copy(arguments[5], folder.filePath("vslist.vs"));
     QtDialogs dialogs;
     frmVorel window(dialogs, folder.path());
     window.Start();
-    window.OpenDocument(TypedPath(arguments[3]));
+    window.OpenDocument(TypedPath(arguments[4]));
     window.host().bot().profile.serverAddress = kPracticeAddress;
     window.show();
     window.host().RunHandler([&] { window.host().Connect(); });
-    WaitForLines(window, arguments[5].toInt());
+    WaitForLines(window, arguments[6].toInt());
     GrabAll(window);
     return 0;
 }
