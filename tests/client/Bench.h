@@ -89,9 +89,9 @@ class Window : public DesktopProgram {
         for (int i = 0; i < 2; ++i) {
             window = NewWindow();
             Set(window, "WM_CLASS", XCB_ATOM_STRING, names.constData(), names.size());
-            Set(window, "WM_PROTOCOLS", XCB_ATOM_ATOM, &close, 1);
             if (process > 0) Set(window, "_NET_WM_PID", XCB_ATOM_CARDINAL, &process, 1);
         }
+        Set(window, "WM_PROTOCOLS", XCB_ATOM_ATOM, &close, 1);
         xcb_map_window(connection_, window);
         IsAskedToClose();
     }
