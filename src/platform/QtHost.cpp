@@ -21,6 +21,9 @@ namespace {
 /// How much of a flood is handled at a time, before the event loop gets its turn.
 constexpr qint64 kPacketLimit = qint64{64} * 1024;
 
+/// Property of a socket the rest of whose flood waits for its turn: what arrives meanwhile waits behind it.
+constexpr char kWaits[] = "waits";
+
 constexpr int kLastPort = 65535;
 
 QString FromUtf8Text(const std::string& utf8) { return QString::fromStdString(utf8); }
@@ -215,7 +218,9 @@ std::int64_t QtHost::FindClientWindow() {
 }
 
 void QtHost::Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)(), ErrorHandler onError) {
-    connect(socket, &QTcpSocket::readyRead, this, [this, socket, onData] { ReadPacket(socket, onData); });
+    connect(socket, &QTcpSocket::readyRead, this, [this, socket, onData] {
+        if (!socket->property(kWaits).toBool()) ReadPacket(socket, onData);
+    });
     connect(socket, &QTcpSocket::disconnected, this,
             [this, socket, onData, onClosed] { Drain(socket, onData, onClosed); });
     connect(socket, &QTcpSocket::errorOccurred, this, [this, socket, onError](QAbstractSocket::SocketError error) {
@@ -234,7 +239,11 @@ void QtHost::ReadPacket(QTcpSocket* socket, PacketHandler onData) {
     RunHandler([&] { (session_.*onData)({packet.data(), static_cast<std::size_t>(packet.size())}); });
     // The rest of a flood waits until everything else has had its turn.
     if (IsOurs(socket) && socket->bytesAvailable() > 0) {
-        QTimer::singleShot(0, socket, [this, socket, onData] { ReadPacket(socket, onData); });
+        socket->setProperty(kWaits, true);
+        QTimer::singleShot(0, socket, [this, socket, onData] {
+            socket->setProperty(kWaits, false);
+            ReadPacket(socket, onData);
+        });
     }
 }
 

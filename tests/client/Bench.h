@@ -40,10 +40,12 @@ class DesktopProgram {
     ~DesktopProgram() { xcb_disconnect(connection_); }
     DesktopProgram(const DesktopProgram&) = delete;
 
+    bool HasDisplay() const { return xcb_connection_has_error(connection_) == 0; }
+    int Descriptor() const { return xcb_get_file_descriptor(connection_); }
+
   protected:
     xcb_connection_t* const connection_ = xcb_connect(nullptr, nullptr);
 
-    bool HasDisplay() const { return xcb_connection_has_error(connection_) == 0; }
     xcb_window_t Root() const { return xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root; }
     xcb_window_t NewWindow() {
         const xcb_window_t window = xcb_generate_id(connection_);
@@ -54,7 +56,7 @@ class DesktopProgram {
     xcb_atom_t Atom(std::string_view name) {
         const auto asked = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
         xcb_intern_atom_reply_t* const reply = xcb_intern_atom_reply(connection_, asked, nullptr);
-        const xcb_atom_t atom = reply->atom;
+        const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
         std::free(reply);
         return atom;
     }
