@@ -49,26 +49,6 @@ TEST_P(NameLists, AreEdited) {
 
 INSTANTIATE_TEST_SUITE_P(ProfileEdit, NameLists, testing::ValuesIn(kListCases), kCaseName);
 
-TEST(ProfileEdit, IgnoresNamesAsTheyAreShown) {
-    using Answer = ProfileEdit::IgnoreAnswer;
-    Profile profile;
-    ProfileEdit edit(profile);
-    for (const auto& [typed, answer] : {std::pair{"Mean|One", Answer::Added},
-                                        {"mean one", Answer::AlreadyThere},
-                                        {"", Answer::Nothing},
-                                        {"undefined", Answer::Nothing}}) {
-        profile.dirty = false;
-        std::string name = typed;
-        EXPECT_EQ(edit.AddIgnore(name), answer) << typed;
-        EXPECT_EQ(profile.dirty, answer == Answer::Added) << typed;
-    }
-    EXPECT_EQ(profile.ignores, Names{"Mean One"}) << "at once, whatever closes the dialog";
-    edit.RemoveIgnore(1);
-    EXPECT_FALSE(profile.dirty);
-    edit.RemoveIgnore(0);
-    EXPECT_TRUE(profile.dirty && profile.ignores.empty());
-}
-
 TEST(ProfileEdit, AppliesUsablePortsAndNoEmptyEntries) {
     for (const auto& [typed, port] : {std::pair{"32767", 32767}, {"32768", 6000}, {"0", 6000}, {"", 6000}}) {
         Profile profile;
