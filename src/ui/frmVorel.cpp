@@ -272,11 +272,7 @@ void frmVorel::BuildMenus() {
               [this](bool on) { options_.Set("connection/atStart", on); });
 
     QMenu* const script = addMenu("mnuScript", "&Script");
-    AddAction(script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] {
-        editor_->show();
-        editor_->raise();
-        editor_->activateWindow();
-    });
+    AddAction(script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
     AddAction(script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
 
     QMenu* const console = addMenu("mnuConsole", tr("&Console"));
@@ -466,7 +462,7 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
     if (faulted_) return;
     if (script) {
         editor_->RestoreText(script->path, script->bytes);
-        editor_->show();
+        ShowEditor();
     }
     KeepUnsavedWork();  // what was not wanted goes
     keepUnsaved_.start(kKeepUnsavedMs);
@@ -502,7 +498,7 @@ void frmVorel::OpenDocument(const std::string& path) {
         Announce(tr("%1 does not exist.").arg(ShownPath(path)));
     } else if (LowerCase(path).ends_with(kScriptExtension)) {
         editor_->OpenScript(path);
-        editor_->show();
+        ShowEditor();
     } else if (!LowerCase(path).ends_with(kProfileExtension)) {
         Announce(tr("%1 is neither a profile (.tvm) nor a script (.vs).").arg(ShownPath(path)));
     } else if (MayDropChanges()) {
@@ -720,6 +716,20 @@ void frmVorel::ShowConfiguration() {
     frmCfg configuration(bot().profile, Servers(), dialogs_, this);
     configuration.exec();
     options_.Set("connection/address", ShownPath(bot().profile.serverAddress));
+}
+
+void frmVorel::ShowEditor() {
+    const auto show = [this] {
+        editor_->show();
+        editor_->raise();
+        editor_->activateWindow();
+    };
+    // While the program starts this window is still to come, and would cover it.
+    if (!isVisible()) {
+        QTimer::singleShot(0, this, show);
+    } else {
+        show();
+    }
 }
 
 void frmVorel::RunScriptOnce() {

@@ -124,6 +124,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void cmdC_Click(const QString& caption);
     void cmdHelp_Click();
     void ShowConfiguration();
+    void ShowEditor();
     void RunScriptOnce();
     void FindInConsole(bool ask);
     void SaveConsole();
