@@ -37,8 +37,7 @@ class ClientMode : public HostBench {
     GameServer leash;
 };
 
-struct PartingCase {
-    const char* name;
+struct PartingCase : Row {
     void (*part)(ClientMode&);
     const char* clientTells;
     bool closesWindow, staysInGame;
@@ -75,8 +74,8 @@ TEST_P(Parting, EndsTheClientOrTheSessionOrBoth) {
 INSTANTIATE_TEST_SUITE_P(ClientMode, Parting, testing::ValuesIn(kPartings), kCaseName);
 
 /// The classes of the client's window and of a stranger's before and after it. They tell their process, or none does.
-struct WindowCase {
-    const char *name, *program, *strangerBefore, *window, *strangerAfter;
+struct WindowCase : Row {
+    const char *program, *strangerBefore, *window, *strangerAfter;
     bool tellProcess, closes;
 };
 

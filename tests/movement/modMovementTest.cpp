@@ -26,8 +26,7 @@ class Walker : public RehearsalBot {
     }
 };
 
-struct StepCase {
-    std::string name;
+struct StepCase : Row {
     Square at, target;
     std::vector<Square> dreams;
     int direction;
@@ -70,8 +69,7 @@ TEST_P(FirstStep, Goes) {
 
 INSTANTIATE_TEST_SUITE_P(modMovement, FirstStep, testing::ValuesIn(kSteps), kCaseName);
 
-struct StuckCase {
-    std::string name;
+struct StuckCase : Row {
     Square target;
     std::vector<int> directions;  ///< of the ticks up to the one that gives up, which sends the first one again
     bool keepsTarget;

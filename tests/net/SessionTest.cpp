@@ -172,8 +172,7 @@ TEST(Session, SplitLinesAreDroppedUnlessKept) {
     EXPECT_EQ(hear(true).front(), "console Ann: hi");
 }
 
-struct EndCase {
-    std::string name;
+struct EndCase : Row {
     void (*end)(ReadyBot&);
     Told told;
     std::string menus;

@@ -6,8 +6,8 @@ namespace {
 using Names = std::vector<std::string>;
 
 /// A list, a name that is added, an entry that is deleted then (-1: none), and what comes of it.
-struct ListCase {
-    const char *name, *before, *added;
+struct ListCase : Row {
+    const char *before, *added;
     int deleted;
     bool refused;
     Names entries;

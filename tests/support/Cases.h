@@ -7,7 +7,13 @@
 
 #include "text/Fault.h"
 
-/// Names a test after its case's rule: for tables whose rows begin with a `name`.
+/// What a row of a table begins with: what its test is called, in short.
+struct Row {
+    const char* name;
+};
+inline std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.name; }
+
+/// Names a test after its row.
 inline constexpr auto kCaseName = [](const auto& info) { return std::string(info.param.name); };
 
 /// The kind of fault that an action raises; nothing when it raises none.

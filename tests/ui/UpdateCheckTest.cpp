@@ -36,8 +36,7 @@ class Update : public testing::Test {
     }
 };
 
-struct NoticeCase {
-    const char* name;
+struct NoticeCase : Row {
     QByteArray answer;
     Then then;
     QString found;
@@ -83,8 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
         NoticeCase{"EndlessHeader", "HTTP/1.1 200 OK\r\nVersion: ", kNeverEnd, ""}),
     kCaseName);
 
-struct ArchiveCase {
-    const char* name;
+struct ArchiveCase : Row {
     QByteArray answer;
     Then then;
     QByteArray file;  ///< what the file holds then, where "old" was
