@@ -2,6 +2,109 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ConsoleFrame</name>
+    <message>
+        <source>Console</source>
+        <translation>Konsole</translation>
+    </message>
+    <message>
+        <source>What the game says, line by line; the chosen line can be read below</source>
+        <translation>Was das Spiel sagt, Zeile für Zeile; die gewählte Zeile steht darunter</translation>
+    </message>
+    <message>
+        <source>Chosen line</source>
+        <translation>Gewählte Zeile</translation>
+    </message>
+    <message>
+        <source>The console line that is chosen, whole, for reading and copying</source>
+        <translation>Die gewählte Zeile der Konsole, ganz, zum Lesen und Kopieren</translation>
+    </message>
+    <message>
+        <source>Sa&amp;y:</source>
+        <translation>Sa&amp;gen:</translation>
+    </message>
+    <message>
+        <source>Input line</source>
+        <translation>Eingabezeile</translation>
+    </message>
+    <message>
+        <source>Enter says it; /name text whispers, : and - and ` begin commands</source>
+        <translation>Eingabe sagt es; /Name Text flüstert, : und - und ` beginnen Befehle</translation>
+    </message>
+    <message>
+        <source>Tells where to find help</source>
+        <translation>Sagt, wo es Hilfe gibt</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message>
+        <source>Find ne&amp;xt</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy lines</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save to a file...</source>
+        <translation>In &amp;Datei speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Log to a file</source>
+        <translation>In Datei &amp;protokollieren</translation>
+    </message>
+    <message>
+        <source>&amp;Monospaced</source>
+        <translation>&amp;Feste Zeichenbreite</translation>
+    </message>
+    <message>
+        <source>&amp;Timestamps</source>
+        <translation>&amp;Uhrzeiten</translation>
+    </message>
+    <message>
+        <source>Scroll-&amp;back...</source>
+        <translation>Zeilen&amp;zahl...</translation>
+    </message>
+    <message>
+        <source>The log %1 can&apos;t be written.</source>
+        <translation>Das Protokoll %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Find this in the console:</source>
+        <translation>In der Konsole suchen:</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Save the console</source>
+        <translation>Konsole speichern</translation>
+    </message>
+    <message>
+        <source>Text (*.txt) | *.txt</source>
+        <translation>Text (*.txt) | *.txt</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>Log the console to</source>
+        <translation>Konsole protokollieren in</translation>
+    </message>
+    <message>
+        <source>How many lines the console keeps:</source>
+        <translation>Wie viele Zeilen die Konsole behält:</translation>
+    </message>
+    <message>
+        <source>Scroll-back</source>
+        <translation>Zeilenzahl</translation>
+    </message>
+</context>
+<context>
     <name>ControlPanel</name>
     <message>
         <source>Use what is before you</source>
@@ -590,38 +693,6 @@ Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translatio
         <translation>Die neue Version wurde nicht gespeichert: %1</translation>
     </message>
     <message>
-        <source>Console</source>
-        <translation>Konsole</translation>
-    </message>
-    <message>
-        <source>What the game says, line by line; the chosen line can be read below</source>
-        <translation>Was das Spiel sagt, Zeile für Zeile; die gewählte Zeile steht darunter</translation>
-    </message>
-    <message>
-        <source>Chosen line</source>
-        <translation>Gewählte Zeile</translation>
-    </message>
-    <message>
-        <source>The console line that is chosen, whole, for reading and copying</source>
-        <translation>Die gewählte Zeile der Konsole, ganz, zum Lesen und Kopieren</translation>
-    </message>
-    <message>
-        <source>Sa&amp;y:</source>
-        <translation>Sa&amp;gen:</translation>
-    </message>
-    <message>
-        <source>Input line</source>
-        <translation>Eingabezeile</translation>
-    </message>
-    <message>
-        <source>Enter says it; /name text whispers, : and - and ` begin commands</source>
-        <translation>Eingabe sagt es; /Name Text flüstert, : und - und ` beginnen Befehle</translation>
-    </message>
-    <message>
-        <source>Tells where to find help</source>
-        <translation>Sagt, wo es Hilfe gibt</translation>
-    </message>
-    <message>
         <source>Variables</source>
         <translation>Variablen</translation>
     </message>
@@ -694,38 +765,6 @@ Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translatio
         <translation>&amp;Konsole</translation>
     </message>
     <message>
-        <source>&amp;Find...</source>
-        <translation>&amp;Suchen...</translation>
-    </message>
-    <message>
-        <source>Find ne&amp;xt</source>
-        <translation>&amp;Weitersuchen</translation>
-    </message>
-    <message>
-        <source>&amp;Copy lines</source>
-        <translation>Zeilen &amp;kopieren</translation>
-    </message>
-    <message>
-        <source>&amp;Save to a file...</source>
-        <translation>In &amp;Datei speichern...</translation>
-    </message>
-    <message>
-        <source>&amp;Log to a file</source>
-        <translation>In Datei &amp;protokollieren</translation>
-    </message>
-    <message>
-        <source>&amp;Monospaced</source>
-        <translation>&amp;Feste Zeichenbreite</translation>
-    </message>
-    <message>
-        <source>&amp;Timestamps</source>
-        <translation>&amp;Uhrzeiten</translation>
-    </message>
-    <message>
-        <source>Scroll-&amp;back...</source>
-        <translation>Zeilen&amp;zahl...</translation>
-    </message>
-    <message>
         <source>&amp;Notify of whispers</source>
         <translation>Flüstern &amp;melden</translation>
     </message>
@@ -779,10 +818,6 @@ Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translatio
     <message>
         <source>A whisper</source>
         <translation>Ein Flüstern</translation>
-    </message>
-    <message>
-        <source>The log %1 can&apos;t be written.</source>
-        <translation>Das Protokoll %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>%1 is neither a profile (.tvm) nor a script (.vs).</source>
@@ -843,40 +878,8 @@ An einem Ort deiner Wahl speichern?</translation>
         <translation>%1 konnte nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>Find this in the console:</source>
-        <translation>In der Konsole suchen:</translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; was not found.</source>
         <translation>&quot;%1&quot; wurde nicht gefunden.</translation>
-    </message>
-    <message>
-        <source>Save the console</source>
-        <translation>Konsole speichern</translation>
-    </message>
-    <message>
-        <source>Text (*.txt) | *.txt</source>
-        <translation>Text (*.txt) | *.txt</translation>
-    </message>
-    <message>
-        <source>%1 can&apos;t be written: %2.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.</translation>
-    </message>
-    <message>
-        <source>Log the console to</source>
-        <translation>Konsole protokollieren in</translation>
-    </message>
-    <message>
-        <source>How many lines the console keeps:</source>
-        <translation>Wie viele Zeilen die Konsole behält:</translation>
-    </message>
-    <message>
-        <source>Scroll-back</source>
-        <translation>Zeilenzahl</translation>
     </message>
     <message>
         <source>The practice dream can&apos;t be opened: %1</source>

@@ -20,6 +20,7 @@
 #include "ui/CommandList.h"
 #include "ui/Dialogs.h"
 #include "ui/FindBar.h"
+#include "ui/MenuItems.h"
 #include "ui/ShownText.h"
 #include "ui/VorelSpeakLexer.h"
 
@@ -123,46 +124,37 @@ QWidget* frmGS::BuildCommands() {
 }
 
 void frmGS::BuildMenus() {
-    const auto add = [this](QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys, auto run) {
-        QAction* const action = menu->addAction(caption, this, run);
-        action->setObjectName(name);
-        action->setShortcut(keys);
-    };
-    const auto addMenu = [this](const char* name, const QString& caption) {
-        QMenu* const menu = menuBar()->addMenu(caption);
-        menu->setObjectName(name);
-        return menu;
-    };
-    QMenu* const file = addMenu("mnuFile", tr("&File"));
-    add(file, "mnuNew", tr("&New"), QKeySequence::New, [this] {
+    QMenu* const file = AddMenu(*menuBar(), "mnuFile", tr("&File"));
+    AddItem(*file, "mnuNew", tr("&New"), QKeySequence::New, [this] {
         if (MayDropChanges()) NewScript();
     });
-    add(file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
-    add(file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { Save(); });
-    add(file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveAs(); });
+    AddItem(*file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
+    AddItem(*file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { Save(); });
+    AddItem(*file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveAs(); });
     file->addSeparator();
-    add(file, "mnuExit", tr("E&xit"), QKeySequence::Close, [this] { close(); });
+    AddItem(*file, "mnuExit", tr("E&xit"), QKeySequence::Close, [this] { close(); });
 
-    QMenu* const edit = addMenu("mnuEdit", tr("&Edit"));
-    add(edit, "mnuUndo", tr("&Undo"), QKeySequence::Undo, [this] { txtScript_->undo(); });
-    add(edit, "mnuRedo", tr("&Redo"), QKeySequence::Redo, [this] { txtScript_->redo(); });
+    QMenu* const edit = AddMenu(*menuBar(), "mnuEdit", tr("&Edit"));
+    AddItem(*edit, "mnuUndo", tr("&Undo"), QKeySequence::Undo, [this] { txtScript_->undo(); });
+    AddItem(*edit, "mnuRedo", tr("&Redo"), QKeySequence::Redo, [this] { txtScript_->redo(); });
     edit->addSeparator();
-    add(edit, "mnuCut", tr("Cu&t"), QKeySequence::Cut, [this] { txtScript_->cut(); });
-    add(edit, "mnuCopy", tr("&Copy"), QKeySequence::Copy, [this] { txtScript_->copy(); });
-    add(edit, "mnuPaste", tr("&Paste"), QKeySequence::Paste, [this] { txtScript_->paste(); });
+    AddItem(*edit, "mnuCut", tr("Cu&t"), QKeySequence::Cut, [this] { txtScript_->cut(); });
+    AddItem(*edit, "mnuCopy", tr("&Copy"), QKeySequence::Copy, [this] { txtScript_->copy(); });
+    AddItem(*edit, "mnuPaste", tr("&Paste"), QKeySequence::Paste, [this] { txtScript_->paste(); });
     edit->addSeparator();
-    add(edit, "mnuFind", tr("&Find and replace..."), QKeySequence::Find, [this] { findBar_->Open(); });
-    add(edit, "mnuFindNext", tr("Find &next"), QKeySequence::FindNext, [this] { findBar_->FindNext(); });
-    add(edit, "mnuFindPrevious", tr("Find pre&vious"), QKeySequence::FindPrevious,
-        [this] { findBar_->FindPrevious(); });
-    add(edit, "mnuGoTo", tr("&Go to line..."), QKeySequence(Qt::CTRL | Qt::Key_G), [this] { AskForLine(); });
+    AddItem(*edit, "mnuFind", tr("&Find and replace..."), QKeySequence::Find, [this] { findBar_->Open(); });
+    AddItem(*edit, "mnuFindNext", tr("Find &next"), QKeySequence::FindNext, [this] { findBar_->FindNext(); });
+    AddItem(*edit, "mnuFindPrevious", tr("Find pre&vious"), QKeySequence::FindPrevious,
+            [this] { findBar_->FindPrevious(); });
+    AddItem(*edit, "mnuGoTo", tr("&Go to line..."), QKeySequence(Qt::CTRL | Qt::Key_G), [this] { AskForLine(); });
 
-    QMenu* const view = addMenu("mnuView", tr("&View"));
-    add(view, "mnuZoomIn", tr("Zoom &in"), QKeySequence::ZoomIn, [this] { txtScript_->zoomIn(); });
-    add(view, "mnuZoomOut", tr("Zoom &out"), QKeySequence::ZoomOut, [this] { txtScript_->zoomOut(); });
-    add(view, "mnuZoomReset", tr("&Usual size"), QKeySequence(Qt::CTRL | Qt::Key_0), [this] { txtScript_->zoomTo(0); });
+    QMenu* const view = AddMenu(*menuBar(), "mnuView", tr("&View"));
+    AddItem(*view, "mnuZoomIn", tr("Zoom &in"), QKeySequence::ZoomIn, [this] { txtScript_->zoomIn(); });
+    AddItem(*view, "mnuZoomOut", tr("Zoom &out"), QKeySequence::ZoomOut, [this] { txtScript_->zoomOut(); });
+    AddItem(*view, "mnuZoomReset", tr("&Usual size"), QKeySequence(Qt::CTRL | Qt::Key_0),
+            [this] { txtScript_->zoomTo(0); });
     view->addSeparator();
-    add(view, "mnuCommands", tr("&Commands"), QKeySequence(Qt::Key_F6), [this] {
+    AddItem(*view, "mnuCommands", tr("&Commands"), QKeySequence(Qt::Key_F6), [this] {
         if (txtScript_->hasFocus()) {
             tvwCmds_->setFocus();
         } else {

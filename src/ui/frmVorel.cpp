@@ -6,11 +6,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGroupBox>
-#include <QInputDialog>
 #include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
@@ -30,11 +28,11 @@
 #include "profile/Settings.h"
 #include "text/Fault.h"
 #include "ui/CommandList.h"
-#include "ui/ConsoleView.h"
+#include "ui/ConsoleFrame.h"
 #include "ui/ControlPanel.h"
 #include "ui/Dialogs.h"
 #include "ui/DocumentDrops.h"
-#include "ui/InputLine.h"
+#include "ui/MenuItems.h"
 #include "ui/ShownText.h"
 #include "ui/TrayIcon.h"
 #include "ui/VariableList.h"
@@ -71,18 +69,23 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
       recovery_(host_.Disk(), TypedPath(folder)),
       reconnector_([this] { return host_.Random(); }, this),
       updates_(QUrl(QString(kUpdateServer))),
+      console_(new ConsoleFrame(options_, dialogs, this)),
       editor_(std::make_unique<frmGS>(host_, dialogs)) {
     setObjectName("frmVorel");
     setWindowIcon(QIcon(":/icons/tvorel.svg"));
 
     auto* const splitter = new QSplitter;
     splitter->setContentsMargins(6, 6, 6, 0);
-    splitter->addWidget(BuildConsole());
+    splitter->addWidget(console_);
     splitter->addWidget(BuildRightSide());
     splitter->setStretchFactor(0, 1);
     setCentralWidget(splitter);
     BuildMenus();
     BuildStatusBar();
+    connect(console_, &ConsoleFrame::LineTyped, this, &frmVorel::txtSend_Enter);
+    connect(console_, &ConsoleFrame::HelpAsked, this, &frmVorel::cmdHelp_Click);
+    connect(console_, &ConsoleFrame::NotFound, this,
+            [this](const QString& text) { panelReason_->setText(tr("\"%1\" was not found.").arg(text)); });
     resize(980, 660);
 
     tray_ = new TrayIcon(this);
@@ -117,56 +120,6 @@ frmVorel::~frmVorel() {
 }
 
 // --- what the window is made of ----------------------------------------------------------------------------------
-
-QWidget* frmVorel::BuildConsole() {
-    auto* const fmeBot = new QGroupBox("Console");
-    fmeBot->setObjectName("fmeBot");
-    auto* const layout = new QVBoxLayout(fmeBot);
-
-    lstView_ = new ConsoleView;
-    lstView_->setObjectName("lstView");
-    lstView_->setAccessibleName(tr("Console"));
-    lstView_->setAccessibleDescription(tr("What the game says, line by line; the chosen line can be read below"));
-    lstView_->SetMonospaced(options_.Monospaced());
-    lstView_->Lines().SetTimestamps(options_.Timestamps());
-    lstView_->Lines().SetScrollBack(options_.ScrollBack());
-    layout->addWidget(lstView_, 1);
-
-    txtView_ = new QLineEdit;
-    txtView_->setObjectName("txtView");
-    txtView_->setReadOnly(true);
-    txtView_->setAccessibleName(tr("Chosen line"));
-    txtView_->setAccessibleDescription(tr("The console line that is chosen, whole, for reading and copying"));
-    layout->addWidget(txtView_);
-    connect(lstView_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& line) {
-        txtView_->setText(line.isValid() ? lstView_->Lines().LineAt(line.row()) : QString());
-    });
-
-    auto* const row = new QHBoxLayout;
-    auto* const label = new QLabel(tr("Sa&y:"));
-    txtSend_ = new InputLine;
-    txtSend_->setObjectName("txtSend");
-    txtSend_->setAccessibleName(tr("Input line"));
-    txtSend_->setAccessibleDescription(tr("Enter says it; /name text whispers, : and - and ` begin commands"));
-    label->setBuddy(txtSend_);
-    auto* const cmdHelp = new QPushButton("Help");
-    cmdHelp->setObjectName("cmdHelp");
-    cmdHelp->setAccessibleDescription(tr("Tells where to find help"));
-    row->addWidget(label);
-    row->addWidget(txtSend_, 1);
-    row->addWidget(cmdHelp);
-    layout->addLayout(row);
-    connect(txtSend_, &QLineEdit::returnPressed, this, &frmVorel::txtSend_Enter);
-    connect(cmdHelp, &QPushButton::clicked, this, &frmVorel::cmdHelp_Click);
-
-    auto* const emoticons = new EmoticonRow;
-    layout->addWidget(emoticons);
-    connect(emoticons, &EmoticonRow::EmoticonChosen, this, [this](const QString& tag) {
-        txtSend_->Append(tag);
-        txtSend_->setFocus();
-    });
-    return fmeBot;
-}
 
 QWidget* frmVorel::BuildRightSide() {
     auto* const side = new QWidget;
@@ -216,94 +169,55 @@ QWidget* frmVorel::BuildRightSide() {
     return side;
 }
 
-QAction* frmVorel::AddAction(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
-                             std::function<void()> run) {
-    QAction* const action = menu->addAction(caption, this, std::move(run));
-    action->setObjectName(name);
-    action->setShortcut(keys);
-    return action;
-}
-
-QAction* frmVorel::AddOption(QMenu* menu, const char* name, const QString& caption, bool on,
-                             std::function<void(bool)> run) {
-    QAction* const action = menu->addAction(caption);
-    action->setObjectName(name);
-    action->setCheckable(true);
-    action->setChecked(on);
-    connect(action, &QAction::toggled, this, std::move(run));
-    return action;
-}
-
 void frmVorel::BuildMenus() {
-    const auto addMenu = [this](const char* name, const QString& caption) {
-        QMenu* const menu = menuBar()->addMenu(caption);
-        menu->setObjectName(name);
-        return menu;
-    };
-    QMenu* const file = addMenu("mnuFile", tr("&File"));
-    AddAction(file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewProfile(); });
-    AddAction(file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { OpenProfileByMenu(); });
+    QMenu* const file = AddMenu(*menuBar(), "mnuFile", tr("&File"));
+    AddItem(*file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewProfile(); });
+    AddItem(*file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { OpenProfileByMenu(); });
     mnuRecent_ = file->addMenu(tr("&Recent"));
     mnuRecent_->setObjectName("mnuRecent");
     connect(mnuRecent_, &QMenu::aboutToShow, this, &frmVorel::ShowRecentProfiles);
-    AddAction(file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { SaveProfile(); });
-    AddAction(file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveProfileAs(); });
+    AddItem(*file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { SaveProfile(); });
+    AddItem(*file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveProfileAs(); });
     file->addSeparator();
-    AddAction(file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
+    AddItem(*file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
 
-    QMenu* const session = addMenu("mnuSession", tr("S&ession"));
-    AddAction(session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] {
+    QMenu* const session = AddMenu(*menuBar(), "mnuSession", tr("S&ession"));
+    AddItem(*session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] {
         reconnector_.Stop();
         host_.RunHandler([this] { host_.Connect(); });
     });
-    AddAction(session, "mnuDisconnect", "&Disconnect", QKeySequence(Qt::CTRL | Qt::Key_D), [this] {
+    AddItem(*session, "mnuDisconnect", "&Disconnect", QKeySequence(Qt::CTRL | Qt::Key_D), [this] {
         reconnector_.Stop();
         host_.RunHandler([this] { host_.Disconnect(); });
     });
-    AddAction(session, "mnuSAM", "Stand Alone &Mode", {},
-              [this] { host_.RunHandler([this] { host_.session().StandAlone(); }); });
+    AddItem(*session, "mnuSAM", "Stand Alone &Mode", {},
+            [this] { host_.RunHandler([this] { host_.session().StandAlone(); }); });
     session->addSeparator();
-    AddOption(session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Reconnect(),
+    AddOption(*session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Reconnect(),
               [this](bool on) {
                   options_.Set("connection/reconnect", on);
                   if (!on) reconnector_.Stop();
               });
-    AddOption(session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
+    AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
               [this](bool on) { options_.Set("connection/atStart", on); });
 
-    QMenu* const script = addMenu("mnuScript", "&Script");
-    AddAction(script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
-    AddAction(script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
+    QMenu* const script = AddMenu(*menuBar(), "mnuScript", "&Script");
+    AddItem(*script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
+    AddItem(*script, "mnuRun", "&Run", QKeySequence(Qt::Key_F5), [this] { RunScriptOnce(); });
 
-    QMenu* const console = addMenu("mnuConsole", tr("&Console"));
-    AddAction(console, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { FindInConsole(true); });
-    AddAction(console, "mnuFindNext", tr("Find ne&xt"), QKeySequence::FindNext, [this] { FindInConsole(false); });
-    AddAction(console, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
-              [this] { lstView_->CopySelection(); });
-    AddAction(console, "mnuSaveConsole", tr("&Save to a file..."), {}, [this] { SaveConsole(); });
-    AddOption(console, "mnuLog", tr("&Log to a file"), !options_.LogFile().isEmpty(),
-              [this](bool on) { ChooseLog(on); });
-    console->addSeparator();
-    AddOption(console, "mnuMonospaced", tr("&Monospaced"), options_.Monospaced(), [this](bool on) {
-        options_.Set("console/monospaced", on);
-        lstView_->SetMonospaced(on);
-    });
-    AddOption(console, "mnuTimestamps", tr("&Timestamps"), options_.Timestamps(), [this](bool on) {
-        options_.Set("console/timestamps", on);
-        lstView_->Lines().SetTimestamps(on);
-    });
-    AddAction(console, "mnuScrollBack", tr("Scroll-&back..."), {}, [this] { ChooseScrollBack(); });
-    AddOption(console, "mnuNotify", tr("&Notify of whispers"), options_.NotifyWhispers(),
+    QMenu* const console = AddMenu(*menuBar(), "mnuConsole", tr("&Console"));
+    console_->FillMenu(*console);
+    AddOption(*console, "mnuNotify", tr("&Notify of whispers"), options_.NotifyWhispers(),
               [this](bool on) { options_.Set("desktop/notifyWhispers", on); });
 
-    QMenu* const configuration = addMenu("mnuConfiguration", tr("C&onfiguration"));
-    AddAction(configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
-              [this] { ShowConfiguration(); });
+    QMenu* const configuration = AddMenu(*menuBar(), "mnuConfiguration", tr("C&onfiguration"));
+    AddItem(*configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
+            [this] { ShowConfiguration(); });
 
     BuildLanguageMenu(configuration->addMenu(tr("&Language")));
 
-    QMenu* const help = addMenu("mnuHelp", tr("&Help"));
-    AddAction(help, "mnuGHelp", "Vorel &Help", QKeySequence::HelpContents, [this] { cmdHelp_Click(); });
+    QMenu* const help = AddMenu(*menuBar(), "mnuHelp", tr("&Help"));
+    AddItem(*help, "mnuGHelp", "Vorel &Help", QKeySequence::HelpContents, [this] { cmdHelp_Click(); });
 }
 
 void frmVorel::BuildLanguageMenu(QMenu* menu) {
@@ -343,10 +257,7 @@ void frmVorel::BuildStatusBar() {
 
 // --- what the bot shows ------------------------------------------------------------------------------------------
 
-void frmVorel::Announce(const QString& line) {
-    lstView_->Lines().Append(line);
-    log_.Append(line);
-}
+void frmVorel::Announce(const QString& line) { console_->Append(line); }
 
 void frmVorel::ShowConsoleLine(std::string_view line) {
     Announce(Shown(line));
@@ -354,7 +265,7 @@ void frmVorel::ShowConsoleLine(std::string_view line) {
 }
 
 void frmVorel::ClearConsole() {
-    lstView_->Lines().Clear();
+    console_->Clear();
     if (!tourFault_.isEmpty()) Announce(std::exchange(tourFault_, {}));
 }
 
@@ -441,8 +352,7 @@ void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
 }
 
 void frmVorel::BeginWork(const std::vector<std::string>& documents) {
-    const QString log = options_.LogFile();
-    if (!log.isEmpty() && !log_.Open(log)) Announce(tr("The log %1 can't be written.").arg(log));
+    console_->ResumeLog();
     if (!QFileInfo(folder_).isWritable())
         Announce(tr("Nothing can be written in %1: neither settings nor unsaved work will be kept.").arg(folder_));
     editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
@@ -684,9 +594,8 @@ void frmVorel::RestoreFromTray() {
 
 // --- what the controls do ----------------------------------------------------------------------------------------
 
-void frmVorel::txtSend_Enter() {
-    const std::string text = Typed(txtSend_->Take());
-    host_.RunHandler([&] { host_.session().TypeLine(text); });
+void frmVorel::txtSend_Enter(const QString& line) {
+    host_.RunHandler([&] { host_.session().TypeLine(Typed(line)); });
 }
 
 void frmVorel::cmdC_Click(const QString& caption) {
@@ -734,46 +643,6 @@ void frmVorel::ShowEditor() {
 
 void frmVorel::RunScriptOnce() {
     host_.RunHandler([this] { RunScript(bot(), EventScriptLoaded); });
-}
-
-void frmVorel::FindInConsole(bool ask) {
-    if (ask || sought_.isEmpty()) {
-        const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
-        if (!text) return;
-        sought_ = *text;
-    }
-    if (!lstView_->FindNext(sought_)) panelReason_->setText(tr("\"%1\" was not found.").arg(sought_));
-}
-
-void frmVorel::SaveConsole() {
-    const auto path = dialogs_.AskSaveFile(this, tr("Save the console"), tr("Text (*.txt) | *.txt"), {});
-    if (!path) return;
-    QSaveFile file(*path);
-    const QByteArray text = lstView_->Lines().AllText().toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit()) return;
-    dialogs_.ShowMessage(this, tr("%1 can't be written: %2.").arg(*path, file.errorString()), tr("Save the console"),
-                         Dialogs::Icon::Critical);
-}
-
-void frmVorel::ChooseLog(bool on) {
-    log_.Close();
-    options_.Set("console/log", QString());
-    if (!on) return;
-    const auto path = dialogs_.AskSaveFile(this, tr("Log the console to"), tr("Text (*.txt) | *.txt"), {});
-    if (path && log_.Open(*path)) {
-        options_.Set("console/log", *path);
-        return;
-    }
-    if (path) Announce(tr("The log %1 can't be written.").arg(*path));
-    findChild<QAction*>("mnuLog")->setChecked(false);
-}
-
-void frmVorel::ChooseScrollBack() {
-    const auto text = dialogs_.AskText(this, tr("How many lines the console keeps:"), tr("Scroll-back"));
-    const int lines = text ? text->toInt() : 0;
-    if (lines < 1) return;
-    options_.Set("console/scrollback", lines);
-    lstView_->Lines().SetScrollBack(lines);
 }
 
 void frmVorel::OpenPractice(std::string& address, int& port) {

@@ -9,18 +9,15 @@
 
 #include "platform/FrontEnd.h"
 #include "platform/QtHost.h"
-#include "ui/ConsoleLog.h"
 #include "ui/Options.h"
 #include "ui/Reconnector.h"
 #include "ui/Recovery.h"
 #include "ui/UpdateCheck.h"
 
-class ConsoleView;
+class ConsoleFrame;
 class Dialogs;
 class DocumentDrops;
-class InputLine;
 class PracticeServer;
-class QLineEdit;
 class QMenu;
 class TrayIcon;
 class VariableList;
@@ -69,7 +66,6 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Dialogs& dialogs_;
     QString folder_;
     Options options_;
-    ConsoleLog log_;
     std::unique_ptr<PracticeServer> practice_;
     QtHost host_;
     Recovery recovery_;
@@ -78,12 +74,9 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     UpdateCheck updates_;
     QElapsedTimer connected_;  ///< since the session came about; invalid before
     bool faulted_ = false;
-    QString sought_;     ///< in the console
     QString tourFault_;  ///< to be told when the session's console begins
 
-    ConsoleView* lstView_;
-    QLineEdit* txtView_;
-    InputLine* txtSend_;
+    ConsoleFrame* console_;
     VariableList* lvwVars_;
     QLabel *panelName_, *panelConnection_, *panelReason_;
     QMenu* mnuRecent_;
@@ -91,14 +84,10 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     TrayIcon* tray_;
     std::unique_ptr<DocumentDrops> drops_;
 
-    QWidget* BuildConsole();
     QWidget* BuildRightSide();
     void BuildMenus();
     void BuildLanguageMenu(QMenu* menu);
     void BuildStatusBar();
-    QAction* AddAction(QMenu* menu, const char* name, const QString& caption, const QKeySequence& keys,
-                       std::function<void()> run);
-    QAction* AddOption(QMenu* menu, const char* name, const QString& caption, bool on, std::function<void(bool)> run);
 
     Bot& bot() { return host_.bot(); }
     void ShowTitle();
@@ -120,16 +109,12 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void BeginWork(const std::vector<std::string>& documents);
     void MoveTo(const Settings& settings);
 
-    void txtSend_Enter();
+    void txtSend_Enter(const QString& line);
     void cmdC_Click(const QString& caption);
     void cmdHelp_Click();
     void ShowConfiguration();
     void ShowEditor();
     void RunScriptOnce();
-    void FindInConsole(bool ask);
-    void SaveConsole();
-    void ChooseLog(bool on);
-    void ChooseScrollBack();
     void OpenPractice(std::string& address, int& port);
     void OfferUpdate(const QString& version, const QString& text);
     void KeepUnsavedWork();

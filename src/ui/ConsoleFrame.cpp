@@ -1,0 +1,140 @@
+#include "ui/ConsoleFrame.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+#include "ui/ConsoleView.h"
+#include "ui/ControlPanel.h"
+#include "ui/Dialogs.h"
+#include "ui/InputLine.h"
+#include "ui/MenuItems.h"
+#include "ui/Options.h"
+
+ConsoleFrame::ConsoleFrame(Options& options, Dialogs& dialogs, QWidget* parent)
+    : QGroupBox("Console", parent), options_(options), dialogs_(dialogs) {
+    setObjectName("fmeBot");
+    auto* const layout = new QVBoxLayout(this);
+
+    lstView_ = new ConsoleView;
+    lstView_->setObjectName("lstView");
+    lstView_->setAccessibleName(tr("Console"));
+    lstView_->setAccessibleDescription(tr("What the game says, line by line; the chosen line can be read below"));
+    lstView_->SetMonospaced(options_.Monospaced());
+    lstView_->Lines().SetTimestamps(options_.Timestamps());
+    lstView_->Lines().SetScrollBack(options_.ScrollBack());
+    layout->addWidget(lstView_, 1);
+
+    txtView_ = new QLineEdit;
+    txtView_->setObjectName("txtView");
+    txtView_->setReadOnly(true);
+    txtView_->setAccessibleName(tr("Chosen line"));
+    txtView_->setAccessibleDescription(tr("The console line that is chosen, whole, for reading and copying"));
+    layout->addWidget(txtView_);
+    connect(lstView_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& line) {
+        txtView_->setText(line.isValid() ? lstView_->Lines().LineAt(line.row()) : QString());
+    });
+
+    layout->addWidget(BuildInput());
+    auto* const emoticons = new EmoticonRow;
+    layout->addWidget(emoticons);
+    connect(emoticons, &EmoticonRow::EmoticonChosen, this, [this](const QString& tag) {
+        txtSend_->Append(tag);
+        txtSend_->setFocus();
+    });
+}
+
+QWidget* ConsoleFrame::BuildInput() {
+    auto* const input = new QWidget;
+    auto* const row = new QHBoxLayout(input);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* const label = new QLabel(tr("Sa&y:"));
+    txtSend_ = new InputLine;
+    txtSend_->setObjectName("txtSend");
+    txtSend_->setAccessibleName(tr("Input line"));
+    txtSend_->setAccessibleDescription(tr("Enter says it; /name text whispers, : and - and ` begin commands"));
+    label->setBuddy(txtSend_);
+    auto* const cmdHelp = new QPushButton("Help");
+    cmdHelp->setObjectName("cmdHelp");
+    cmdHelp->setAccessibleDescription(tr("Tells where to find help"));
+    row->addWidget(label);
+    row->addWidget(txtSend_, 1);
+    row->addWidget(cmdHelp);
+    connect(txtSend_, &QLineEdit::returnPressed, this, [this] { emit LineTyped(txtSend_->Take()); });
+    connect(cmdHelp, &QPushButton::clicked, this, &ConsoleFrame::HelpAsked);
+    return input;
+}
+
+void ConsoleFrame::FillMenu(QMenu& menu) {
+    AddItem(menu, "mnuFind", tr("&Find..."), QKeySequence::Find, [this] { Find(true); });
+    AddItem(menu, "mnuFindNext", tr("Find ne&xt"), QKeySequence::FindNext, [this] { Find(false); });
+    AddItem(menu, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
+            [this] { lstView_->CopySelection(); });
+    AddItem(menu, "mnuSaveConsole", tr("&Save to a file..."), {}, [this] { Save(); });
+    mnuLog_ = AddOption(menu, "mnuLog", tr("&Log to a file"), !options_.LogFile().isEmpty(),
+                        [this](bool on) { ChooseLog(on); });
+    menu.addSeparator();
+    AddOption(menu, "mnuMonospaced", tr("&Monospaced"), options_.Monospaced(), [this](bool on) {
+        options_.Set("console/monospaced", on);
+        lstView_->SetMonospaced(on);
+    });
+    AddOption(menu, "mnuTimestamps", tr("&Timestamps"), options_.Timestamps(), [this](bool on) {
+        options_.Set("console/timestamps", on);
+        lstView_->Lines().SetTimestamps(on);
+    });
+    AddItem(menu, "mnuScrollBack", tr("Scroll-&back..."), {}, [this] { ChooseScrollBack(); });
+}
+
+void ConsoleFrame::Append(const QString& line) {
+    lstView_->Lines().Append(line);
+    log_.Append(line);
+}
+
+void ConsoleFrame::Clear() { lstView_->Lines().Clear(); }
+
+void ConsoleFrame::ResumeLog() {
+    const QString log = options_.LogFile();
+    if (!log.isEmpty() && !log_.Open(log)) Append(tr("The log %1 can't be written.").arg(log));
+}
+
+void ConsoleFrame::Find(bool ask) {
+    if (ask || sought_.isEmpty()) {
+        const auto text = dialogs_.AskText(this, tr("Find this in the console:"), tr("Find"));
+        if (!text) return;
+        sought_ = *text;
+    }
+    if (!lstView_->FindNext(sought_)) emit NotFound(sought_);
+}
+
+void ConsoleFrame::Save() {
+    const auto path = dialogs_.AskSaveFile(this, tr("Save the console"), tr("Text (*.txt) | *.txt"), {});
+    if (!path) return;
+    QSaveFile file(*path);
+    const QByteArray text = lstView_->Lines().AllText().toUtf8();
+    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit()) return;
+    dialogs_.ShowMessage(this, tr("%1 can't be written: %2.").arg(*path, file.errorString()), tr("Save the console"),
+                         Dialogs::Icon::Critical);
+}
+
+void ConsoleFrame::ChooseLog(bool on) {
+    log_.Close();
+    options_.Set("console/log", QString());
+    if (!on) return;
+    const auto path = dialogs_.AskSaveFile(this, tr("Log the console to"), tr("Text (*.txt) | *.txt"), {});
+    if (path && log_.Open(*path)) {
+        options_.Set("console/log", *path);
+        return;
+    }
+    if (path) Append(tr("The log %1 can't be written.").arg(*path));
+    mnuLog_->setChecked(false);
+}
+
+void ConsoleFrame::ChooseScrollBack() {
+    const auto text = dialogs_.AskText(this, tr("How many lines the console keeps:"), tr("Scroll-back"));
+    const int lines = text ? text->toInt() : 0;
+    if (lines < 1) return;
+    options_.Set("console/scrollback", lines);
+    lstView_->Lines().SetScrollBack(lines);
+}
