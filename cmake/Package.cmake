@@ -19,7 +19,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Loaded while running, so that the executables don't name them: Qt's reader of SVG icons, without which the buttons
-# would have no pictures, and how Qt talks to a Wayland desktop.
+# would have no pictures; and, for comfort, how Qt talks to a Wayland desktop, and its own texts in other languages.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n")
 include(CPack)

@@ -917,5 +917,9 @@ Settings and data files are kept in %2.</source>
 
 Einstellungen und Datendateien liegen in %2.</translation>
     </message>
+    <message>
+        <source>%1 has been read and not run; Script, Run does that.</source>
+        <translation>%1 wurde gelesen, aber nicht ausgeführt; das tut Script, Run.</translation>
+    </message>
 </context>
 </TS>

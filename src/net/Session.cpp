@@ -144,8 +144,8 @@ void Session::Disconnect() {
 }
 
 void Session::StandAlone() {
-    // While the client has not called yet there is no session that could go on without it.
-    if (!bot_.host.IsClientConnected() && !bot_.host.IsServerConnected()) return Disconnect();
+    // Until the client has logged in through the bot there is no session that could go on without it.
+    if (!bot_.host.IsServerConnected()) return Disconnect();
     link_.CloseClient();
     ShowMenus(bot_.status.canDisconnect, false);
 }

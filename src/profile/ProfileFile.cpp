@@ -169,8 +169,12 @@ void NewProfile(Bot& bot) {
     bot.script = std::make_shared<Script>(kNewScript);
 }
 
-void LoadScript(Bot& bot, const std::string& path) {
+void ReadScript(Bot& bot, const std::string& path) {
     bot.script = std::make_shared<Script>(ScriptTextFromFile(bot.host.Disk().Read(path)), path);
+}
+
+void LoadScript(Bot& bot, const std::string& path) {
+    ReadScript(bot, path);
     RunScript(bot, EventScriptLoaded);
 }
 

@@ -38,7 +38,8 @@ bool DocumentDrops::eventFilter(QObject* watched, QEvent* event) {
     auto* const drop = static_cast<QDropEvent*>(event);
     const QStringList documents = Documents(*drop->mimeData());
     if (documents.isEmpty()) return false;
-    drop->acceptProposedAction();
+    drop->setDropAction(Qt::CopyAction);  // a file that was moved here would be gone from its place
+    drop->accept();
     if (type == QEvent::Drop) {
         for (const QString& path : documents) open_(path);
     }

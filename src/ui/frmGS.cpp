@@ -212,6 +212,12 @@ void frmGS::NewScript() {
 }
 
 void frmGS::RestoreText(const std::string& path, const std::string& text) {
+    NewScript();
+    try {
+        if (const auto file = host_.Disk().Find(path)) SetText(ScriptTextFromFile(host_.Disk().Read(*file)));
+    } catch (const RuntimeFault&) {
+        // Undoing the change leads to the new script then.
+    }
     path_ = path;
     // Replaced by hand, as it were: only that counts as a change, and it can be undone.
     txtScript_->selectAll();
@@ -322,6 +328,7 @@ void frmGS::LoadCommands(const std::string& path) {
         if (root == CommandRoot::None) continue;
         auto* const item = new QTreeWidgetItem(tvwCmds_->topLevelItem(static_cast<int>(root)), {Shown(line)});
         item->setToolTip(0, Shown(line));
+        item->setData(0, Qt::AccessibleDescriptionRole, Shown(CommandPreview(line)));
     }
 }
 
@@ -342,7 +349,8 @@ void frmGS::FilterCommands(const QString& words) {
 
 void frmGS::ShowPreview(const QTreeWidgetItem* item) {
     const bool isCommand = item && item->parent();
-    lblPreview_->setText(isCommand ? Shown(CommandPreview(Typed(item->text(0)))) : QString());
+    lblPreview_->setText(isCommand ? item->data(0, Qt::AccessibleDescriptionRole).toString() : QString());
+    lblPreview_->setAccessibleDescription(lblPreview_->text());
 }
 
 void frmGS::InsertCommand(const QTreeWidgetItem* item) {

@@ -277,7 +277,9 @@ void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
 void frmVorel::StatusChanged() {
     ShowStatus();
     if (bot().status.connection == "Connected" && !connected_.isValid()) connected_.start();
-    if (bot().status.canConnect && bot().status.end != SessionStatus::End::NotYet) {
+    if (!bot().status.canConnect) {
+        endTold_ = false;
+    } else if (bot().status.end != SessionStatus::End::NotYet && !std::exchange(endTold_, true)) {
         // The script may connect again by itself; the end is one only after it has had its turn.
         QTimer::singleShot(0, this, [this] { OnSessionEnd(); });
     }
@@ -331,6 +333,10 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
         text += "\n\n" + tr("Unsaved work was put aside in %1, and will be offered at the next start.").arg(folder_);
     }
     dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
+    QuitAfterFault();
+}
+
+void frmVorel::QuitAfterFault() {
     // Later, since the fault may have come before the event loop that this is to end.
     QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(kFaultExit); });
 }
@@ -348,7 +354,11 @@ void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
 void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
     if (practice) bot().profile.serverAddress = kPracticeAddress;
     host_.RunHandler([&] { BeginWork(documents); });
-    if (!faulted_ && (practice || options_.ConnectAtStart())) host_.RunHandler([this] { host_.Connect(); });
+    if (faulted_) {
+        QuitAfterFault();  // again, since a question that was open then has taken the first for itself
+    } else if (practice || options_.ConnectAtStart()) {
+        host_.RunHandler([this] { host_.Connect(); });
+    }
 }
 
 void frmVorel::BeginWork(const std::vector<std::string>& documents) {
@@ -496,10 +506,11 @@ bool frmVorel::WriteProfile(const std::string& path) {
 /// @return false when the user would rather stay
 bool frmVorel::MayDropChanges(bool offersCancel) {
     // The script first: saved under a new name, it changes the profile.
-    if (!editor_->MayDropChanges(offersCancel)) return false;
+    if (!editor_->MayDropChanges(offersCancel) || faulted_) return false;
     if (!bot().profile.dirty) return true;
     const auto answer =
         dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", offersCancel);
+    if (faulted_) return false;  // while the question was open
     return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && SaveProfile());
 }
 
@@ -562,11 +573,15 @@ bool frmVorel::Wants(const QString& what, const std::string& file) {
                         kProductName) == Dialogs::Answer::Yes;
 }
 
+/// Its script is not run: it may be what has ended the program.
 void frmVorel::RestoreUnsavedProfile(const Recovery::Copy& copy) {
     RestoreProfile(bot(), copy.path, copy.bytes);
     ShowTitle();
-    if (const auto script = FindProfileFile(bot(), bot().profile.scriptPath)) LoadScript(bot(), *script);
+    const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
+    if (!script) return;
+    ReadScript(bot(), *script);
     editor_->ShowBotScript();
+    Announce(tr("%1 has been read and not run; Script, Run does that.").arg(ShownPath(*script)));
 }
 
 void frmVorel::changeEvent(QEvent* event) {

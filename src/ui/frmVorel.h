@@ -73,6 +73,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Reconnector reconnector_;
     UpdateCheck updates_;
     QElapsedTimer connected_;  ///< since the session came about; invalid before
+    bool endTold_ = false;     ///< of the session, to the user
     bool faulted_ = false;
     QString tourFault_;  ///< to be told when the session's console begins
 
@@ -95,6 +96,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void ShowLoaded(const ProfileLoad& load, const std::string& path);
     void ShowStatus();
     void OnSessionEnd();
+    void QuitAfterFault();
     void Announce(const QString& line);
 
     void NewProfile();
