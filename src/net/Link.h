@@ -18,6 +18,9 @@ class Link {
     virtual void CloseServer() = 0;
     virtual void CloseClient() = 0;
 
+    /// Passes the client's lines on to the game server in one piece; the session notes each of them as sent.
+    virtual void RelayToServer(std::string_view bytes) = 0;
+
     /// Listens on this computer for the local client, and for one only.
     /// @return false when the port is taken
     virtual bool ListenForClient(std::int16_t port) = 0;

@@ -237,9 +237,12 @@ void Session::OnClientData(std::string_view packet) {
     std::string relayed;
     for (const std::string& line : clientLines_.Take(packet)) {
         Note(Happening::ClientLine, line);
-        if (FilterClientLine(bot_, line)) relayed.append(line).append("\n");
+        if (!FilterClientLine(bot_, line)) continue;
+        relayed.append(line).append("\n");
+        // Behind its line, as if each had come in a packet of its own: so a recording can be played line by line.
+        if (bot_.host.IsServerConnected()) Note(Happening::Sent, line);
     }
-    if (!relayed.empty() && bot_.host.IsServerConnected()) bot_.host.WriteToServer(relayed);
+    if (!relayed.empty() && bot_.host.IsServerConnected()) link_.RelayToServer(relayed);
 }
 
 void Session::OnClientClosed() {

@@ -66,6 +66,7 @@ class QtHost final : public QObject, public Host, public Link {
     // Link
     void ConnectServer(const std::string& profileAddress, int profilePort) override;
     void CloseServer() override { Release(sckServer_); }
+    void RelayToServer(std::string_view bytes) override { Write(sckServer_, bytes); }
     void CloseClient() override;
     bool ListenForClient(std::int16_t port) override;
     void AcceptClient() override;

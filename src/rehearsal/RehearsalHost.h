@@ -61,6 +61,7 @@ class RehearsalHost final : public Host, public Link {
     // Link
     void ConnectServer(const std::string&, int) override {}
     void CloseServer() override { serverConnected_ = false; }
+    void RelayToServer(std::string_view bytes) override { WriteToServer(bytes); }
     void CloseClient() override { clientConnected_ = false; }
     bool ListenForClient(std::int16_t) override { return true; }
     void AcceptClient() override { clientConnected_ = true; }

@@ -75,7 +75,7 @@ TEST_F(RunTest, ClientModeRelaysAndKeepsThePasswordToo) {
     files.Write("client.sh", R"(#!/bin/bash
 read -r host port < proxy.ini
 exec 3<> "/dev/tcp/127.0.0.1/${port%$'\r'}"
-printf 'desc first\nconnect bot s3cr' >&3
+printf 'nodesc 1\nconnect bot s3cr' >&3
 read -r line <&3
 printf '3t-w0rd\nconnect bot s3cr3t-w0rd\ndesc of %s\n' "${1##*/}" >&3
 while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; done
@@ -91,6 +91,9 @@ while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; d
     // Without a display a line before these says that the client's window can't be found.
     EXPECT_TRUE(vorel->out.endsWith("any news?\ngone\n")) << vorel->out.toStdString();
     ExpectNoPassword(*vorel);
+    Vorel rehearsal(files, {"try", "bot.tvm", "rec.txt"});
+    EXPECT_EQ(rehearsal.Ends(), 0) << "lines of one packet, some passed on, some answered: "
+                                   << rehearsal.out.toStdString();
 }
 
 TEST_F(RunTest, SeveralBotsShareTheTerminal) {

@@ -26,6 +26,7 @@ class RecordingLink final : public Link {
         if (host_.IsClientConnected()) Tell("close client");
         host_.SetClientConnected(false);
     }
+    void RelayToServer(std::string_view bytes) override { host_.WriteToServer(bytes); }
     bool ListenForClient(std::int16_t port) override {
         ports.push_back(port);
         return takenPorts-- <= 0;
