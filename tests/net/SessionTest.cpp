@@ -122,9 +122,12 @@ TEST(Session, ClientModeWaitsForTheClientAndGoesToTheGamesOwnServer) {
     EXPECT_EQ(bot.told, Told{"console 2 "});  // the client logs in
     EXPECT_EQ(bot.Menus(), "-DS");
     bot.session.Disconnect();
-    bot.session.Connect();
-    bot.session.StandAlone();
-    EXPECT_EQ(bot.Menus(), "C--");  // nobody has called, so there is no session to go on with
+    for (const bool called : {false, true}) {
+        bot.session.Connect();
+        if (called) bot.session.OnClientRequest();
+        bot.session.StandAlone();
+        EXPECT_EQ(bot.Menus(), "C--");  // nobody has logged in, so there is no session to go on with
+    }
 }
 
 TEST(Session, PortsLieBetween1000And9999) {

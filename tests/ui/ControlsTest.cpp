@@ -115,6 +115,10 @@ TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
         EXPECT_TRUE(Eventually([&] { return Panel(3).section(" in ", 0, 0).endsWith(told); })) << Panel(3);
     }
     EXPECT_TRUE(The<QTimer>("tmrReconnect").isActive());
+    const QString told = Panel(3);
+    window->StatusChanged();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Panel(3), told) << "one end, one try";
     Choose("mnuNew", {});
     EXPECT_FALSE(The<QTimer>("tmrReconnect").isActive()) << "it was for another bot";
     Open("bot.tvm");

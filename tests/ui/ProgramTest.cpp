@@ -15,9 +15,10 @@ class Program : public Desk {
         data.setUrls({QUrl::fromLocalFile(Path(file))});
         QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&onto, &enter);
-        QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QDropEvent drop({}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        drop.setDropAction(Qt::MoveAction);
         QCoreApplication::sendEvent(&onto, &drop);
-        return enter.isAccepted();
+        return enter.isAccepted() && drop.dropAction() == Qt::CopyAction;
     }
     /// Leaves the profile and the script with unsaved changes.
     void ChangeBot() {
@@ -202,6 +203,7 @@ class AfterACrash : public Program {
 
 TEST_F(AfterACrash, UnsavedWorkIsTakenBackAsUnsaved) {
     TakeBack();
+    EXPECT_FALSE(ConsoleText().contains("ready")) << "its script may be what has ended the program";
     Crash();
     TakeBack();
     Choose("mnuSave");
