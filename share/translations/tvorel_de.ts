@@ -898,10 +898,6 @@ An einem Ort deiner Wahl speichern?</translation>
         <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
     </message>
     <message>
-        <source>%1 was not opened, because opening it ended the program the last time. Mend its script, then open it again.</source>
-        <translation>%1 wurde nicht geöffnet, weil das Öffnen das Programm das letzte Mal beendet hat. Bring das Skript in Ordnung und öffne es dann wieder.</translation>
-    </message>
-    <message>
         <source>Nothing can be written in %1: neither settings nor unsaved work will be kept.</source>
         <translation>In %1 kann nichts geschrieben werden: Weder Einstellungen noch ungesicherte Arbeit bleiben erhalten.</translation>
     </message>
@@ -918,8 +914,16 @@ Settings and data files are kept in %2.</source>
 Einstellungen und Datendateien liegen in %2.</translation>
     </message>
     <message>
-        <source>%1 has been read and not run; Script, Run does that.</source>
-        <translation>%1 wurde gelesen, aber nicht ausgeführt; das tut Script, Run.</translation>
+        <source>%1 has ended the program the last time; its script is not loaded.</source>
+        <translation>%1 hat das Programm das letzte Mal beendet; das Skript ist nicht geladen.</translation>
+    </message>
+    <message>
+        <source>%1 stands in the editor (Script, Edit); saving it there loads it.</source>
+        <translation>%1 steht im Editor (Script, Bearbeiten); dort gesichert wird es geladen.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
     </message>
 </context>
 </TS>

@@ -169,12 +169,8 @@ void NewProfile(Bot& bot) {
     bot.script = std::make_shared<Script>(kNewScript);
 }
 
-void ReadScript(Bot& bot, const std::string& path) {
-    bot.script = std::make_shared<Script>(ScriptTextFromFile(bot.host.Disk().Read(path)), path);
-}
-
 void LoadScript(Bot& bot, const std::string& path) {
-    ReadScript(bot, path);
+    bot.script = std::make_shared<Script>(ScriptTextFromFile(bot.host.Disk().Read(path)), path);
     RunScript(bot, EventScriptLoaded);
 }
 

@@ -41,11 +41,6 @@ void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes);
 /// Empties the profile and the user variables, and puts the new-script template in place of the script.
 void NewProfile(Bot& bot);
 
-/// Reads a script file in place of the current script, without running it.
-/// @param path  of an existing file, UTF-8
-/// @throws RuntimeFault when it can't be read
-void ReadScript(Bot& bot, const std::string& path);
-
 /// Reads a script file in place of the current script and raises EventScriptLoaded.
 /// @param path  of an existing file, UTF-8
 /// @throws RuntimeFault when it can't be read; what the script raises

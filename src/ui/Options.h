@@ -22,8 +22,8 @@ class Options {
     bool NotifyWhispers() const { return Flag("desktop/notifyWhispers", false); }
     bool TrayExplained() const { return Flag("desktop/trayExplained", false); }
     QString Language() const { return file_.value("desktop/language").toString(); }
-    /// The profile that a start has begun to open and not got through with; empty when none.
-    QString ProfileBeingOpened() const { return file_.value("recent/beingOpened").toString(); }
+    /// The profile that has ended the program soon after it was opened; empty when none.
+    QString FaultedProfile() const { return file_.value("recent/faulted").toString(); }
 
     QStringList RecentProfiles() const { return file_.value("recent/profiles").toStringList(); }
 

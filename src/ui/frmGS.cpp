@@ -206,6 +206,12 @@ void frmGS::ShowBotScript() {
     SetText(script->Text());
 }
 
+void frmGS::ShowFile(const std::string& path) {
+    const std::string text = ScriptTextFromFile(host_.Disk().Read(path));
+    path_ = host_.Disk().Absolute(path);
+    SetText(text);
+}
+
 void frmGS::NewScript() {
     path_.clear();
     SetText(kNewScript);
@@ -214,7 +220,7 @@ void frmGS::NewScript() {
 void frmGS::RestoreText(const std::string& path, const std::string& text) {
     NewScript();
     try {
-        if (const auto file = host_.Disk().Find(path)) SetText(ScriptTextFromFile(host_.Disk().Read(*file)));
+        if (const auto file = host_.Disk().Find(path)) ShowFile(*file);
     } catch (const RuntimeFault&) {
         // Undoing the change leads to the new script then.
     }
@@ -246,11 +252,9 @@ void frmGS::ReadFrom(const std::string& path) {
     const std::optional<std::string> found = host_.Disk().Find(path);
     if (!found) return;
     host_.RunHandler([&] {
-        const std::string text = ScriptTextFromFile(host_.Disk().Read(*found));
-        path_ = host_.Disk().Absolute(*found);
-        SetText(text);
+        ShowFile(*found);
         NameInProfile();
-        host_.bot().script = std::make_shared<Script>(text, path_);
+        host_.bot().script = std::make_shared<Script>(ScriptText(), path_);
         RunScript(host_.bot(), EventScriptLoaded);
     });
 }

@@ -23,6 +23,11 @@ class frmGS final : public QMainWindow {
     /// Shows what the bot's script is now, after a profile was loaded: its text, its file, nothing unsaved.
     void ShowBotScript();
 
+    /// Shows a script file that the bot does not run until it is saved here.
+    /// @param path  of an existing file, UTF-8
+    /// @throws RuntimeFault when it can't be read
+    void ShowFile(const std::string& path);
+
     /// An empty script with the template.
     void NewScript();
 

@@ -43,7 +43,8 @@ namespace {
 
 constexpr char kProfileFilter[] = "Tandry Vorel (*.tvm) | *.tvm";
 constexpr int kKeepUnsavedMs = 5000;
-constexpr int kFaultExit = 70;  // EX_SOFTWARE, as vorel run
+constexpr int kTrustedAfterMs = 60000;  // a profile that has run so long does not end the program at every start
+constexpr int kFaultExit = 70;          // EX_SOFTWARE, as vorel run
 
 QList<ServerChoice> Servers() {
     return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
@@ -320,6 +321,8 @@ void frmVorel::OnSessionEnd() {
 
 void frmVorel::EndWithFault(const RuntimeFault& fault) {
     faulted_ = true;
+    if (opened_.isValid() && !opened_.hasExpired(kTrustedAfterMs))
+        options_.Set("recent/faulted", ShownPath(bot().profile.path));
     const Place place = bot().place;
     QString text = QString::fromStdString(std::string(fault.Name()));
     if (!fault.Detail().empty()) text += ": " + ShownPath(fault.Detail());
@@ -375,7 +378,7 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
         return LowerCase(path).ends_with(kProfileExtension);
     });
     if (profile) {
-        RestoreUnsavedProfile(*profile);
+        TakeUpProfile(profile->path, profile->bytes);
     } else if (script || !handedOver) {
         OpenMostRecent(script ? script->profile : settings.recent);
     }
@@ -400,17 +403,31 @@ void frmVorel::MoveTo(const Settings& settings) {
     if (QGuiApplication::screenAt(place + QPoint(width() / 2, 10))) move(place);
 }
 
-/// Opens a profile of the last run, unless opening it has ended the program: it would do so at every start.
+/// Opens a profile of the last run; without its script, if that has ended the program then.
 void frmVorel::OpenMostRecent(const std::string& path) {
     if (path.empty()) return;
-    if (options_.ProfileBeingOpened() == ShownPath(path)) {
-        options_.Set("recent/beingOpened", QString());
-        Announce(tr("%1 was not opened, because opening it ended the program the last time. Mend its script, then open "
-                    "it again.")
-                     .arg(ShownPath(path)));
-        return;
+    if (options_.FaultedProfile() != ShownPath(path)) return OpenProfileFile(path);
+    options_.Set("recent/faulted", QString());
+    const auto file = host_.Disk().Find(path);
+    if (!file) return;
+    Announce(tr("%1 has ended the program the last time; its script is not loaded.").arg(ShownPath(path)));
+    TakeUpProfile(*file, host_.Disk().Read(*file));
+    bot().profile.dirty = false;
+}
+
+/// Takes up a profile that may have ended the program, without what has done it: its script only stands in the editor.
+void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) {
+    try {
+        RestoreProfile(bot(), path, bytes);
+        bot().script.reset();
+        ShowTitle();
+        const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
+        if (!script) return editor_->NewScript();
+        editor_->ShowFile(*script);
+        Announce(tr("%1 stands in the editor (Script, Edit); saving it there loads it.").arg(ShownPath(*script)));
+    } catch (const RuntimeFault& fault) {
+        Announce(tr("%1 can't be read: %2.").arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))));
     }
-    OpenProfileFile(path);
 }
 
 void frmVorel::OpenDocument(const std::string& path) {
@@ -428,14 +445,13 @@ void frmVorel::OpenDocument(const std::string& path) {
 
 void frmVorel::OpenProfileFile(const std::string& path) {
     const std::string absolute = host_.Disk().Absolute(path);
-    options_.Set("recent/beingOpened", ShownPath(absolute));
+    opened_.start();
     host_.RunHandler([&] {
         const std::string address = bot().profile.serverAddress;
         const ProfileLoad load = LoadProfile(bot(), absolute);
         bot().profile.serverAddress = address;
         ShowLoaded(load, absolute);
     });
-    if (!faulted_) options_.Set("recent/beingOpened", QString());
 }
 
 void frmVorel::OpenProfileByMenu() {
@@ -443,6 +459,7 @@ void frmVorel::OpenProfileByMenu() {
     const auto chosen = dialogs_.AskOpenFile(this, "Select a Tandry Vorel to open", kProfileFilter,
                                              ShownPath(FolderOf(bot().profile.path)));
     if (!chosen) return;
+    opened_.start();
     host_.RunHandler([&] {
         const ProfileLoad load = OpenProfile(bot(), TypedPath(*chosen));
         if (load.found) bot().profile.dirty = false;
@@ -571,17 +588,6 @@ bool frmVorel::Wants(const QString& what, const std::string& file) {
     const QString name = file.empty() ? what : what + " " + ShownPath(FileNameOf(file));
     return dialogs_.Ask(this, tr("The program did not end in order the last time. Take back the unsaved %1?").arg(name),
                         kProductName) == Dialogs::Answer::Yes;
-}
-
-/// Its script is not run: it may be what has ended the program.
-void frmVorel::RestoreUnsavedProfile(const Recovery::Copy& copy) {
-    RestoreProfile(bot(), copy.path, copy.bytes);
-    ShowTitle();
-    const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
-    if (!script) return;
-    ReadScript(bot(), *script);
-    editor_->ShowBotScript();
-    Announce(tr("%1 has been read and not run; Script, Run does that.").arg(ShownPath(*script)));
 }
 
 void frmVorel::changeEvent(QEvent* event) {

@@ -72,6 +72,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QTimer keepUnsaved_{this};
     Reconnector reconnector_;
     UpdateCheck updates_;
+    QElapsedTimer opened_;     ///< since the profile was opened; invalid for a new one
     QElapsedTimer connected_;  ///< since the session came about; invalid before
     bool endTold_ = false;     ///< of the session, to the user
     bool faulted_ = false;
@@ -102,6 +103,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void NewProfile();
     void OpenProfileByMenu();
     void OpenMostRecent(const std::string& path);
+    void TakeUpProfile(const std::string& path, const std::string& bytes);
     void OpenProfileFile(const std::string& path);
     bool SaveProfile();
     bool SaveProfileAs();
@@ -121,7 +123,6 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void OfferUpdate(const QString& version, const QString& text);
     void KeepUnsavedWork();
     bool Wants(const QString& what, const std::string& file);
-    void RestoreUnsavedProfile(const Recovery::Copy& copy);
     void NotifyWhisper(std::string_view line);
     void MinimizeToTray();
     void RestoreFromTray();
