@@ -914,16 +914,16 @@ Settings and data files are kept in %2.</source>
 Einstellungen und Datendateien liegen in %2.</translation>
     </message>
     <message>
-        <source>%1 has ended the program the last time; its script is not loaded.</source>
-        <translation>%1 hat das Programm das letzte Mal beendet; das Skript ist nicht geladen.</translation>
-    </message>
-    <message>
         <source>%1 stands in the editor (Script, Edit); saving it there loads it.</source>
         <translation>%1 steht im Editor (Script, Bearbeiten); dort gesichert wird es geladen.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2.</source>
         <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.</source>
+        <translation>%1 hat das Programm das letzte Mal beendet, darum ist das Skript nicht geladen. Noch einmal geöffnet, wird es geladen.</translation>
     </message>
 </context>
 </TS>

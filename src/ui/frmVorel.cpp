@@ -380,7 +380,8 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
     if (profile) {
         TakeUpProfile(profile->path, profile->bytes);
     } else if (script || !handedOver) {
-        OpenMostRecent(script ? script->profile : settings.recent);
+        const std::string& recent = script ? script->profile : settings.recent;
+        if (host_.Disk().Find(recent)) OpenProfileFile(recent);
     }
     if (faulted_) return;
     if (script) {
@@ -403,23 +404,12 @@ void frmVorel::MoveTo(const Settings& settings) {
     if (QGuiApplication::screenAt(place + QPoint(width() / 2, 10))) move(place);
 }
 
-/// Opens a profile of the last run; without its script, if that has ended the program then.
-void frmVorel::OpenMostRecent(const std::string& path) {
-    if (path.empty()) return;
-    if (options_.FaultedProfile() != ShownPath(path)) return OpenProfileFile(path);
-    options_.Set("recent/faulted", QString());
-    const auto file = host_.Disk().Find(path);
-    if (!file) return;
-    Announce(tr("%1 has ended the program the last time; its script is not loaded.").arg(ShownPath(path)));
-    TakeUpProfile(*file, host_.Disk().Read(*file));
-    bot().profile.dirty = false;
-}
-
 /// Takes up a profile that may have ended the program, without what has done it: its script only stands in the editor.
 void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) {
     try {
         RestoreProfile(bot(), path, bytes);
         bot().script.reset();
+        reconnector_.Stop();
         ShowTitle();
         const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
         if (!script) return editor_->NewScript();
@@ -443,8 +433,18 @@ void frmVorel::OpenDocument(const std::string& path) {
     }
 }
 
+/// Opens a profile; without its script, if that has ended the program soon after it was opened the last time.
 void frmVorel::OpenProfileFile(const std::string& path) {
     const std::string absolute = host_.Disk().Absolute(path);
+    if (options_.FaultedProfile() == ShownPath(absolute)) {
+        options_.Set("recent/faulted", QString());
+        Announce(tr("%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.")
+                     .arg(ShownPath(path)));
+        return host_.RunHandler([&] {
+            TakeUpProfile(absolute, host_.Disk().Read(absolute));
+            bot().profile.dirty = false;
+        });
+    }
     opened_.start();
     host_.RunHandler([&] {
         const std::string address = bot().profile.serverAddress;

@@ -102,7 +102,6 @@ class frmVorel final : public QMainWindow, public FrontEnd {
 
     void NewProfile();
     void OpenProfileByMenu();
-    void OpenMostRecent(const std::string& path);
     void TakeUpProfile(const std::string& path, const std::string& bytes);
     void OpenProfileFile(const std::string& path);
     bool SaveProfile();

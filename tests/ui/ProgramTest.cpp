@@ -248,7 +248,7 @@ TEST_F(AfterACrash, FaultsAreToldAndEndTheProgramWithTheWorkPutAside) {
     Choose("mnuRun");
     EXPECT_EQ(ConsoleText(), shown) << "nothing runs any more";
     Start({"Yes"});
-    EXPECT_TRUE(ConsoleText().contains("its script is not loaded")) << "or it would end the program at every start";
+    EXPECT_TRUE(ConsoleText().contains("so its script is not loaded")) << "or it would end the program at every start";
     EXPECT_EQ(window->windowTitle().section(' ', -1), "[bad.tvm]");
     EXPECT_FALSE(bot().script);
     EXPECT_EQ(Editor().ScriptText(), unsaved);
