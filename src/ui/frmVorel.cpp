@@ -359,7 +359,7 @@ void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
     host_.RunHandler([&] { BeginWork(documents); });
     if (faulted_) {
         QuitAfterFault();  // again, since a question that was open then has taken the first for itself
-    } else if (practice || options_.ConnectAtStart()) {
+    } else if (!scriptLeftOut_ && (practice || options_.ConnectAtStart())) {
         host_.RunHandler([this] { host_.Connect(); });
     }
 }
@@ -409,6 +409,7 @@ void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) 
     try {
         RestoreProfile(bot(), path, bytes);
         bot().script.reset();
+        scriptLeftOut_ = true;
         reconnector_.Stop();
         ShowTitle();
         const auto script = FindProfileFile(bot(), bot().profile.scriptPath);

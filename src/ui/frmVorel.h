@@ -76,7 +76,8 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QElapsedTimer connected_;  ///< since the session came about; invalid before
     bool endTold_ = false;     ///< of the session, to the user
     bool faulted_ = false;
-    QString tourFault_;  ///< to be told when the session's console begins
+    bool scriptLeftOut_ = false;  ///< at the start: a bot without its script is not to connect by itself
+    QString tourFault_;           ///< to be told when the session's console begins
 
     ConsoleFrame* console_;
     VariableList* lvwVars_;
