@@ -206,10 +206,11 @@ void frmGS::ShowBotScript() {
     SetText(script->Text());
 }
 
-void frmGS::ShowFile(const std::string& path) {
-    const std::string text = ScriptTextFromFile(host_.Disk().Read(path));
+std::string frmGS::ShowFile(const std::string& path) {
+    std::string text = ScriptTextFromFile(host_.Disk().Read(path));
     path_ = host_.Disk().Absolute(path);
     SetText(text);
+    return text;
 }
 
 void frmGS::NewScript() {
@@ -252,9 +253,9 @@ void frmGS::ReadFrom(const std::string& path) {
     const std::optional<std::string> found = host_.Disk().Find(path);
     if (!found) return;
     host_.RunHandler([&] {
-        ShowFile(*found);
+        const std::string text = ShowFile(*found);
         NameInProfile();
-        host_.bot().script = std::make_shared<Script>(ScriptText(), path_);
+        host_.bot().script = std::make_shared<Script>(text, path_);
         RunScript(host_.bot(), EventScriptLoaded);
     });
 }
