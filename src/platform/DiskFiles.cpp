@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include "platform/WholeFile.h"
 #include "text/Fault.h"
 
 namespace {
@@ -21,11 +21,9 @@ std::string DiskFiles::Read(const std::string& path) const {
 }
 
 void DiskFiles::Write(const std::string& path, std::string_view bytes) {
-    QSaveFile file(FromPath(path));
-    const auto size = static_cast<qint64>(bytes.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size || !file.commit()) {
-        throw RuntimeFault(FaultKind::PathOrFileAccess, path);
-    }
+    WholeFile file(path);
+    file.Append(bytes);
+    file.Commit();
 }
 
 std::optional<std::string> DiskFiles::Find(const std::string& path) const {

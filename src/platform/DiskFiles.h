@@ -2,7 +2,8 @@
 
 #include "engine/Files.h"
 
-/// The computer's own file system. Files are written beside their place, flushed, and renamed over the old ones.
+/// The computer's own file system. Files are written by WholeFile, which tells what becomes of links, modes and what
+/// may not be written; a fault of writing names the file and the reason.
 class DiskFiles final : public Files {
   public:
     std::string Read(const std::string& path) const override;

@@ -1,10 +1,13 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <csignal>
 
 #include "platform/DiskFiles.h"
+#include "platform/WholeFile.h"
 #include "support/BotFiles.h"
 #include "text/Fault.h"
 
@@ -19,26 +22,151 @@ void LimitFileSizes(rlim_t size) {
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-/// A fault of this kind that names this file.
+/// A fault of this kind that names this file, and behind it the reason, if there is one.
 auto Fails(FaultKind kind, const std::string& file) {
     return testing::Throws<RuntimeFault>(
         testing::AllOf(testing::Property(&RuntimeFault::Kind, kind), testing::Property(&RuntimeFault::Detail, file)));
 }
+auto CantWrite(const std::string& file, const char* why) {
+    return Fails(FaultKind::PathOrFileAccess, file + ": " + why);
+}
 
-TEST(DiskFiles, AreWrittenWholeOrNotAtAllAndNamedInFaults) {
-    const BotFiles files;
+/// The rights of an ordinary user while it lasts: those who run tests may be root, who may do everything.
+class OrdinaryUser {
+  public:
+    OrdinaryUser() { EXPECT_EQ(own_ == 0 ? seteuid(kNobody) : 0, 0); }
+    ~OrdinaryUser() { EXPECT_EQ(seteuid(own_), 0); }
+
+  private:
+    static constexpr uid_t kNobody = 65534;
+    const uid_t own_ = geteuid();
+};
+
+/// A folder with a writer at work.
+class Writing : public testing::Test, public BotFiles {
+  protected:
     DiskFiles disk;
-    const std::string folder = files.Path().toStdString(), path = folder + "/pets.ini", memory = "/proc/self/mem";
+    std::string folder = Path().toStdString(), path = folder + "/pets.ini";
+
+    QStringList Names() const {
+        return QDir(Path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+    }
+    mode_t ModeOf(const char* name) const {
+        struct stat status {};
+        EXPECT_EQ(stat((folder + "/" + name).c_str(), &status), 0);
+        return status.st_mode & 07777;
+    }
+};
+
+TEST_F(Writing, IsDoneWholeOrNotAtAll) {
     const std::string bytes("a\0\r\n\xE9", 5), much(200000, 'x');
     disk.Write(path, much);
     disk.Write(path, bytes);
     EXPECT_EQ(disk.Read(path), bytes) << "nothing of the longer file is left";
-    LimitFileSizes(1000);
-    EXPECT_THAT([&] { disk.Write(path, much); }, Fails(FaultKind::PathOrFileAccess, path));
-    LimitFileSizes(RLIM_INFINITY);
-    EXPECT_EQ(disk.Read(path), bytes);
-    EXPECT_EQ(QDir(files.Path()).entryList(QDir::Files | QDir::Hidden), QStringList("pets.ini"));
-    EXPECT_THAT([&] { disk.Read(path + "none"); }, Fails(FaultKind::FileNotFound, path + "none"));
+    // Small and large ones, room for nothing and for all but the last byte.
+    for (const auto& [room, size] : {std::pair{0, 1}, {2, 100}, {1000, 16383}, {1000, 200000}, {199999, 200000}}) {
+        LimitFileSizes(static_cast<rlim_t>(room));
+        const std::string wanted(static_cast<std::size_t>(size), 'y');
+        EXPECT_THAT([&] { disk.Write(path, wanted); }, CantWrite(path, "File too large")) << room;
+        EXPECT_THAT([&] { disk.Write(path + "new", wanted); }, CantWrite(path + "new", "File too large")) << room;
+        LimitFileSizes(RLIM_INFINITY);
+        EXPECT_EQ(disk.Read(path), bytes) << room;
+        EXPECT_EQ(Names(), QStringList("pets.ini")) << room;
+    }
+}
+
+TEST_F(Writing, KeepsModesAndLinks) {
+    disk.Write(path, "new");
+    EXPECT_EQ(ModeOf("pets.ini"), 0600) << "for its owner alone";
+    for (const mode_t mode : {0644U, 0660U, 0200U}) {
+        chmod(path.c_str(), mode);
+        disk.Write(path, "more");
+        EXPECT_EQ(ModeOf("pets.ini"), mode);
+    }
+    ASSERT_TRUE(QDir(Path()).mkdir("far"));
+    for (const auto& [link, target] :
+         {std::pair{"near", "pets.ini"}, {"twice", "near"}, {"dangling", "far/new"}, {"ring", "ring"}}) {
+        ASSERT_EQ(symlink(target, Path(link).toUtf8().constData()), 0);
+        const std::string linked = folder + "/" + link;
+        if (std::string_view(link) == "ring") {
+            EXPECT_THAT([&] { disk.Write(linked, ""); }, CantWrite(linked, "Too many levels of symbolic links"));
+        } else {
+            disk.Write(linked, link);
+            EXPECT_EQ(std::string_view(link) == "dangling" ? Read("far/new") : Read("pets.ini"), link);
+        }
+        EXPECT_TRUE(QFileInfo(Path(link)).isSymLink()) << link;
+    }
+}
+
+TEST_F(Writing, RefusesWhatMayNotBeReplacedAndSaysWhy) {
+    Write("guarded", "old");
+    Write("free", "old");
+    ASSERT_TRUE(QDir(Path()).mkdir("closed"));
+    Write("closed/inside", "old");
+    ASSERT_EQ(mkfifo(Path("pipe").toUtf8().constData(), 0666), 0);
+    for (const auto& [name, mode] : {std::pair{"", 0777},
+                                     {"free", 0666},
+                                     {"guarded", 0444},
+                                     {"closed", 0555},
+                                     {"closed/inside", 0666},
+                                     {"pipe", 0666}})
+        ASSERT_EQ(chmod(Path(name).toUtf8().constData(), static_cast<mode_t>(mode)), 0);
+    const QStringList before = Names();
+    const std::string cut = folder + std::string("/free\0.ini", 10);
+    const OrdinaryUser user;
+    disk.Write(folder + "/free", "new");
+    for (const auto& [name, why] : {std::pair{"guarded", "Permission denied"},
+                                    {"closed/inside", "Permission denied"},
+                                    {"closed/new", "Permission denied"},
+                                    {"closed", "Is a directory"},
+                                    {"", "Is a directory"},
+                                    {"none/such", "No such file or directory"},
+                                    {"free/such", "Not a directory"},
+                                    {"pipe", "It is no ordinary file"}}) {
+        const std::string refused = folder + "/" + name;
+        EXPECT_THAT([&] { disk.Write(refused, "new"); }, CantWrite(refused, why));
+    }
+    EXPECT_THAT([&] { disk.Write(cut, "new"); }, CantWrite(cut, "Invalid argument"));
+    EXPECT_EQ(Read("closed/inside"), "old");
+    EXPECT_EQ(Names(), before);
+}
+
+TEST_F(Writing, ClearsWhatAKilledProcessHasLeftAndNothingElse) {
+    const QString left = ".tvorel-unfinished-0123456789abcdef";
+    const QStringList others = {".tvorel-unfinished-0123456789abcde", ".tvorel-unfinished-0123456789abcdefg",
+                                ".tvorel-unfinished-0123456789ABCDEF", "tvorel-unfinished-0123456789abcdef",
+                                "pets.ini.Xy12Zw"};
+    for (const QString& name : others + QStringList(left)) Write(name, "half");
+    const QString link = ".tvorel-unfinished-00000000000000ff", sub = ".tvorel-unfinished-00000000000000fe";
+    ASSERT_EQ(symlink("pets.ini", Path(link).toUtf8().constData()), 0);
+    ASSERT_TRUE(QDir(Path()).mkdir(sub));
+    WholeFile slow(path);
+    EXPECT_FALSE(Names().contains(left)) << "with the first file in a folder";
+    for (const QString& name : others + QStringList{link, sub})
+        EXPECT_TRUE(Names().contains(name)) << name.toStdString();
+    slow.Append("one ");
+    Write(left, "half");
+    ClearUnfinished(folder);
+    EXPECT_FALSE(Names().contains(left));
+    slow.Append("two");
+    slow.Commit();
+    EXPECT_EQ(Read("pets.ini"), "one two") << "what is being written is no leftover";
+    EXPECT_EQ(Names().size(), others.size() + 2 + 1);
+    ClearUnfinished(folder + "/none");
+}
+
+TEST_F(Writing, GivesUpWithoutATrace) {
+    disk.Write(path, "old");
+    { WholeFile(path).Append("half"); }
+    EXPECT_EQ(Read("pets.ini"), "old");
+    EXPECT_EQ(Names(), QStringList("pets.ini"));
+}
+
+TEST(DiskFiles, NameWhatTheyCantRead) {
+    const BotFiles files;
+    const std::string folder = files.Path().toStdString(), none = folder + "/none", memory = "/proc/self/mem";
+    const DiskFiles disk;
+    EXPECT_THAT([&] { disk.Read(none); }, Fails(FaultKind::FileNotFound, none));
     EXPECT_THAT([&] { disk.Read(folder); }, Fails(FaultKind::PathOrFileAccess, folder));
     EXPECT_THAT([&] { disk.Read(memory); }, Fails(FaultKind::PathOrFileAccess, memory)) << "opens, and fails then";
 }

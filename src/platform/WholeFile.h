@@ -1,0 +1,80 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// An open file or folder of the system, closed at the end.
+class Descriptor {
+  public:
+    Descriptor() = default;
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(Descriptor&& other) noexcept : number_(other.Release()) {}
+    Descriptor& operator=(Descriptor&& other) noexcept;
+    ~Descriptor();
+
+    int Number() const { return number_; }
+    bool IsOpen() const { return number_ >= 0; }
+
+    /// The number, which is the caller's to close from now on; -1 when none is open.
+    int Release();
+
+  private:
+    int number_ = -1;
+};
+
+/// A file that is written whole or not at all. It grows under a temporary name beside its place, is synced to the disk
+/// and renamed over what was there, and then the folder is synced: whenever a call fails, the program is killed or the
+/// power goes, the old file is there or the new one, never half of one.
+///
+/// What becomes of that which stands in its place:
+///   nothing there      a new file comes about, for its owner alone (0600): it may hold what visitors have whispered
+///   a file             is replaced, and its mode is kept
+///   a symbolic link    stays; the file that it leads to is replaced, or made when the link leads nowhere
+///   a file that may not be written, or one in a folder where nothing new can be made
+///                      is refused: the temporary needs a place, and a file that somebody has protected is meant to
+///                      stay
+///   a folder, a device or the like
+///                      is refused, for a file can't take its place
+///
+/// The temporary is called ".tvorel-unfinished-" and 16 hexadecimal digits, a name that no file of a bot can have, and
+/// is locked while it is written. A process that was killed leaves it behind, unlocked: ClearUnfinished takes it away.
+class WholeFile {
+  public:
+    /// Begins the file; the first one in a folder takes away what killed processes have left there.
+    /// @param path  UTF-8
+    /// @throws RuntimeFault PathOrFileAccess, like the other operations, with the path and the reason
+    explicit WholeFile(std::string path);
+
+    /// Takes the temporary away when the file was not committed.
+    ~WholeFile();
+    WholeFile(const WholeFile&) = delete;
+    WholeFile& operator=(const WholeFile&) = delete;
+
+    void Append(std::string_view bytes);
+
+    /// Puts what was appended into its place. A fault that comes only when the folder is synced or the file closed
+    /// finds the new file in its place, but nobody can promise that it stays there when the power goes.
+    void Commit();
+
+  private:
+    std::string path_;       ///< as it was asked for, for faults
+    std::string name_;       ///< what it is renamed to, in the folder
+    std::string temporary_;  ///< its name until then; empty when there is none
+    Descriptor folder_, file_;
+    std::optional<mode_t> mode_;  ///< of the file in its place; nothing when there is none
+
+    void OpenFolder(const std::string& folder);
+    std::optional<mode_t> ModeInPlace() const;
+    void KeepMode() const;
+    void MakeTemporary();
+    void Must(int result) const;
+    [[noreturn]] void Fail(const std::string& reason) const;
+};
+
+/// Takes away the temporaries that killed processes have left in a folder. Those of running programs stay, and so does
+/// everything that has another name. Where nothing can be locked or taken away, nothing happens.
+/// @param folder  UTF-8; empty for the current one
+void ClearUnfinished(const std::string& folder);
