@@ -88,10 +88,6 @@
         <translation>Text (*.txt) | *.txt</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written: %2.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.</translation>
-    </message>
-    <message>
         <source>Log the console to</source>
         <translation>Konsole protokollieren in</translation>
     </message>
@@ -289,6 +285,13 @@
     <message>
         <source>E&amp;xit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateCheck</name>
+    <message>
+        <source>It is too large.</source>
+        <translation>Sie ist zu groß.</translation>
     </message>
 </context>
 <context>
@@ -660,12 +663,6 @@
         <translation>&amp;Befehle</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written: %2.
-The script was not saved; choose another place for it.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.
-Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translation>
-    </message>
-    <message>
         <source>Go to line</source>
         <translation>Gehe zu Zeile</translation>
     </message>
@@ -676,6 +673,12 @@ Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translatio
     <message>
         <source>Line %1 holds characters that the game does not have. Save them as question marks?</source>
         <translation>Zeile %1 enthält Zeichen, die das Spiel nicht kennt. Sollen sie als Fragezeichen gesichert werden?</translation>
+    </message>
+    <message>
+        <source>%1.
+The script counts as not saved; choose another place for it.</source>
+        <translation>%1.
+Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</translation>
     </message>
 </context>
 <context>
@@ -828,16 +831,6 @@ Das Skript wurde nicht gespeichert; wähle einen anderen Ort dafür.</translatio
         <translation>Das Profil nennt das Skript %1, das es nicht gibt.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written: %2.
-The profile was not saved; choose another place for it.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.
-Das Profil wurde nicht gespeichert; wähle einen anderen Ort dafür.</translation>
-    </message>
-    <message>
-        <source>The settings can&apos;t be written in %1.</source>
-        <translation>Die Einstellungen können nicht nach %1 geschrieben werden.</translation>
-    </message>
-    <message>
         <source>Version %1 is there:
 
 %2
@@ -924,6 +917,38 @@ Einstellungen und Datendateien liegen in %2.</translation>
     <message>
         <source>%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.</source>
         <translation>%1 hat das Programm das letzte Mal beendet, darum ist das Skript nicht geladen. Noch einmal geöffnet, wird es geladen.</translation>
+    </message>
+    <message>
+        <source>Unsaved work could not be put aside: %1</source>
+        <translation>Nicht Gespeichertes konnte nicht beiseitegelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>The options can&apos;t be kept: %1</source>
+        <translation>Die Einstellungen des Programms bleiben nicht erhalten: %1</translation>
+    </message>
+    <message>
+        <source>The options can&apos;t be kept.</source>
+        <translation>Die Einstellungen des Programms bleiben nicht erhalten.</translation>
+    </message>
+    <message>
+        <source>%1.
+The profile counts as not saved; choose another place for it.</source>
+        <translation>%1.
+Das Profil gilt als nicht gespeichert; wähle einen anderen Ort dafür.</translation>
+    </message>
+    <message>
+        <source>%1.
+The next start will not know this profile and the window&apos;s place.</source>
+        <translation>%1.
+Der nächste Start kennt dieses Profil und den Platz des Fensters nicht.</translation>
+    </message>
+    <message>
+        <source>Unsaved work can&apos;t be put aside, and would be lost in a crash: %1</source>
+        <translation>Nicht Gespeichertes kann nicht beiseitegelegt werden und ginge bei einem Absturz verloren: %1</translation>
+    </message>
+    <message>
+        <source>The list of commands can&apos;t be written, so the script editor shows none: %1</source>
+        <translation>Die Liste der Befehle kann nicht geschrieben werden, darum zeigt der Skripteditor keine: %1</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "cli/Report.h"
+#include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "text/Text.h"
 
@@ -13,6 +14,7 @@ TerminalBot::TerminalBot(std::string profilePath, const std::string& folder, Con
 TerminalBot::~TerminalBot() { host_.SetObserver(nullptr); }
 
 bool TerminalBot::Load() {
+    for (const std::string& folder : {host_.ProgramFolder(), FolderOf(profilePath_)}) ClearUnfinished(folder);
     ProfileLoad load;
     bool faulted = true;
     host_.RunHandler([&] {

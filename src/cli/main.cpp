@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <string>
 
 #include "Version.h"
@@ -37,6 +38,7 @@ void OpenMissingDescriptors() {
 
 int main(int argc, char** argv) {
     OpenMissingDescriptors();
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a fault like a full disk, and told like one
     CLI::App app(std::string(kProductName) + " " + kProductVersion + " in the terminal: bots for Furcadia", "vorel");
     app.set_version_flag("--version", std::string(kProductName) + " " + kProductVersion);
     app.require_subcommand(1);

@@ -12,6 +12,7 @@
 #include "cli/Report.h"
 #include "cli/Verbs.h"
 #include "platform/DiskFiles.h"
+#include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "rehearsal/Rehearsal.h"
 #include "text/Fault.h"
@@ -92,6 +93,7 @@ int Try(const TryOptions& options) {
     }
     if (session.error) return Unreadable(options.session + ", " + *session.error);
 
+    for (const std::string& folder : {options.folder, FolderOf(options.profile)}) ClearUnfinished(folder);
     Rehearsal rehearsal(disk, options.folder, PrintLine);
     if (!options.now.empty()) {
         const std::optional<LocalTime> now = ReadTime(options.now);

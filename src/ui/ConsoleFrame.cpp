@@ -3,15 +3,17 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QVBoxLayout>
 
+#include "platform/DiskFiles.h"
+#include "text/Fault.h"
 #include "ui/ConsoleView.h"
 #include "ui/ControlPanel.h"
 #include "ui/Dialogs.h"
 #include "ui/InputLine.h"
 #include "ui/MenuItems.h"
 #include "ui/Options.h"
+#include "ui/ShownText.h"
 
 ConsoleFrame::ConsoleFrame(Options& options, Dialogs& dialogs, QWidget* parent)
     : QGroupBox("Console", parent), options_(options), dialogs_(dialogs) {
@@ -111,11 +113,11 @@ void ConsoleFrame::Find(bool ask) {
 void ConsoleFrame::Save() {
     const auto path = dialogs_.AskSaveFile(this, tr("Save the console"), tr("Text (*.txt) | *.txt"), {});
     if (!path) return;
-    QSaveFile file(*path);
-    const QByteArray text = lstView_->Lines().AllText().toUtf8();
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit()) return;
-    dialogs_.ShowMessage(this, tr("%1 can't be written: %2.").arg(*path, file.errorString()), tr("Save the console"),
-                         Dialogs::Icon::Critical);
+    try {
+        DiskFiles().Write(TypedPath(*path), lstView_->Lines().AllText().toStdString());
+    } catch (const RuntimeFault& fault) {
+        dialogs_.ShowMessage(this, ShownFault(fault), tr("Save the console"), Dialogs::Icon::Critical);
+    }
 }
 
 void ConsoleFrame::ChooseLog(bool on) {

@@ -1,42 +1,56 @@
 #pragma once
 
-#include <QSettings>
 #include <QStringList>
+#include <QVariantMap>
+#include <functional>
+#include <string>
 
 #include "ui/ConsoleModel.h"
 
-/// What the user has chosen for the program itself, beside the profile: kept in "tvorel-options.ini" in the program's
-/// folder and written as it is changed.
+/// What the user has chosen for the program itself, beside the profile: kept as JSON in a file that no script can write
+/// (see ProgramFolder.h), and written as it is changed.
 class Options {
   public:
+    /// Reads the options; a missing file, and one that can't be read, leave the usual ones.
     /// @param file  UTF-8 path
-    explicit Options(const QString& file) : file_(file, QSettings::IniFormat) {}
+    explicit Options(const QString& file);
+
+    /// Who is told why the options can't be read or written: once, until it goes well again. What is changed meanwhile
+    /// holds as long as the program runs, and is written with the next change, or by Keep.
+    /// @param tell  is called at once when they could not be read
+    void SetTeller(std::function<void(const QString& why)> tell);
 
     bool Monospaced() const { return Flag("console/monospaced", false); }
     bool Timestamps() const { return Flag("console/timestamps", false); }
-    int ScrollBack() const { return file_.value("console/scrollback", ConsoleModel::kUsualScrollBack).toInt(); }
-    QString LogFile() const { return file_.value("console/log").toString(); }
+    int ScrollBack() const { return Value("console/scrollback", ConsoleModel::kUsualScrollBack).toInt(); }
+    QString LogFile() const { return Value("console/log").toString(); }
     bool Reconnect() const { return Flag("connection/reconnect", false); }
     bool ConnectAtStart() const { return Flag("connection/atStart", false); }
-    QString ServerAddress() const { return file_.value("connection/address").toString(); }
+    QString ServerAddress() const { return Value("connection/address").toString(); }
     bool NotifyWhispers() const { return Flag("desktop/notifyWhispers", false); }
     bool TrayExplained() const { return Flag("desktop/trayExplained", false); }
-    QString Language() const { return file_.value("desktop/language").toString(); }
+    QString Language() const { return Value("desktop/language").toString(); }
     /// The profile that has ended the program soon after it was opened; empty when none.
-    QString FaultedProfile() const { return file_.value("recent/faulted").toString(); }
+    QString FaultedProfile() const { return Value("recent/faulted").toString(); }
 
-    QStringList RecentProfiles() const { return file_.value("recent/profiles").toStringList(); }
+    QStringList RecentProfiles() const { return Value("recent/profiles").toStringList(); }
 
-    template <typename Value>
-    void Set(const char* key, const Value& value) {
-        file_.setValue(key, value);
-    }
+    void Set(const char* key, const QVariant& value);
 
     /// Puts a profile at the head of the recent ones.
     void AddRecentProfile(const QString& path);
 
-  private:
-    QSettings file_;
+    /// Writes what could not be written before.
+    void Keep();
 
-    bool Flag(const char* key, bool usual) const { return file_.value(key, usual).toBool(); }
+  private:
+    std::string file_;
+    QVariantMap values_;
+    QVariantMap unkept_;  ///< of them what is changed and not written yet
+    QString trouble_;     ///< why they can't be read or written; empty when all is well
+    std::function<void(const QString& why)> tell_;
+
+    QVariant Value(const char* key, const QVariant& usual = {}) const { return values_.value(key, usual); }
+    bool Flag(const char* key, bool usual) const { return Value(key, usual).toBool(); }
+    void Trying(const std::function<void()>& work);
 };

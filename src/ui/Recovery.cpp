@@ -40,10 +40,10 @@ std::string Recovery::Keep(Slot& slot, const std::optional<Copy>& unsaved) {
         const bool nothingThere = packed.empty() && !disk_.Find(slot.file);
         if (slot.written != packed && !nothingThere) disk_.Write(slot.file, packed);
         slot.written = packed;
-    } catch (const RuntimeFault&) {
-        return {};  // the work itself is still in the window; the next try may do better
+    } catch (const RuntimeFault& fault) {
+        return fault.Detail();  // the work itself is still in the window; the next try may do better
     }
-    return unsaved ? slot.file : std::string();
+    return {};
 }
 
 std::optional<Recovery::Copy> Recovery::Found(const Slot& slot) const {

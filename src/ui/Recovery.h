@@ -8,8 +8,9 @@
 
 class QLockFile;
 
-/// Unsaved work put aside in the program's folder, to be offered back at the next start after a crash. Several programs
-/// may run from one folder: each has files of its own, under a number that it keeps locked while it runs.
+/// Unsaved work put aside in a folder that is the program's alone, to be offered back at the next start after a crash.
+/// Several programs may run from one folder: each has files of its own, under a number that it keeps locked while it
+/// runs.
 class Recovery {
   public:
     struct Copy {
@@ -19,7 +20,7 @@ class Recovery {
     };
 
     /// Takes the first number that no running program has, or rather one whose program has left work behind.
-    /// @param folder  the program's, UTF-8
+    /// @param folder  UTF-8
     Recovery(Files& disk, const std::string& folder);
     ~Recovery();
     Recovery(const Recovery&) = delete;
@@ -27,7 +28,7 @@ class Recovery {
 
     /// Puts the unsaved script or profile aside, or clears the copy when there is nothing unsaved. Writes only when
     /// something has changed since the last time.
-    /// @return where the copy lies; empty when there is none, or when it could not be written
+    /// @return why it could not be written; empty when it was
     std::string KeepScript(const std::optional<Copy>& unsaved) { return Keep(script_, unsaved); }
     std::string KeepProfile(const std::optional<Copy>& unsaved) { return Keep(profile_, unsaved); }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "text/Fault.h"
 #include "text/Text.h"
 
 /// The bot's 8-bit text for a window, and what was typed there for the bot: what its code page lacks becomes "?".
@@ -13,3 +14,9 @@ inline std::string Typed(const QString& text) { return FromUtf8(text.toStdString
 /// Paths are UTF-8 inside.
 inline QString ShownPath(const std::string& path) { return QString::fromStdString(path); }
 inline std::string TypedPath(const QString& path) { return path.toStdString(); }
+
+/// A fault by its name, and what it happened to and why, where that is known.
+inline QString ShownFault(const RuntimeFault& fault) {
+    const QString name = QString::fromStdString(std::string(fault.Name()));
+    return fault.Detail().empty() ? name : name + ": " + ShownPath(fault.Detail());
+}

@@ -2,11 +2,13 @@
 
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QSaveFile>
 #include <algorithm>
 #include <memory>
 
 #include "Version.h"
+#include "platform/WholeFile.h"
+#include "text/Fault.h"
+#include "ui/ShownText.h"
 
 namespace {
 
@@ -19,6 +21,37 @@ QString Shortened(const QString& text) {
     const QString shown = text.section('\n', 0, kShownLines - 1).left(kShownCharacters);
     return shown.size() < text.size() ? shown + QChar(0x2026) : shown;
 }
+
+/// The archive as it arrives. After something has gone wrong nothing more is taken, and its place stays as it was.
+class ArchiveFile {
+  public:
+    ArchiveFile(const QString& path, qint64 mostBytes) : room_(mostBytes) {
+        Trying([&] { file_.emplace(TypedPath(path)); });
+    }
+    void Append(const QByteArray& piece) {
+        room_ -= piece.size();
+        if (room_ < 0 && why_.isEmpty()) why_ = UpdateCheck::tr("It is too large.");
+        Trying([&] { file_->Append({piece.data(), static_cast<std::size_t>(piece.size())}); });
+    }
+    void Commit() {
+        Trying([&] { file_->Commit(); });
+    }
+    const QString& Why() const { return why_; }
+
+  private:
+    std::optional<WholeFile> file_;
+    qint64 room_;
+    QString why_;
+
+    void Trying(const std::function<void()>& work) {
+        if (!why_.isEmpty()) return;
+        try {
+            work();
+        } catch (const RuntimeFault& fault) {
+            why_ = ShownPath(fault.Detail());
+        }
+    }
+};
 
 }  // namespace
 
@@ -71,21 +104,19 @@ void UpdateCheck::Look() {
 
 void UpdateCheck::FetchArchive(const QString& path) {
     if (base_.isEmpty()) return;
-    const auto file = std::make_shared<QSaveFile>(path);
-    if (!file->open(QIODevice::WriteOnly)) {
-        emit ArchiveDone(file->errorString());
+    const auto file = std::make_shared<ArchiveFile>(path, limits_.archiveBytes);
+    if (!file->Why().isEmpty()) {
+        emit ArchiveDone(file->Why());
         return;
     }
     QNetworkReply* const reply = Get("/software/tvupdate.zip");
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply, file] {
-        const QByteArray piece = reply->readAll();
-        if (file->write(piece) != piece.size() || file->pos() > limits_.archiveBytes) reply->abort();
+    connect(reply, &QNetworkReply::readyRead, this, [reply, file] {
+        file->Append(reply->readAll());
+        if (!file->Why().isEmpty()) reply->abort();
     });
     connect(reply, &QNetworkReply::finished, this, [this, reply, file] {
-        const bool whole = reply->error() == QNetworkReply::NoError && file->error() == QFileDevice::NoError;
-        if (!whole) file->cancelWriting();
-        const bool stored = whole && file->commit();
-        const QString why = file->error() != QFileDevice::NoError ? file->errorString() : reply->errorString();
-        emit ArchiveDone(stored ? QString() : why);
+        const bool arrived = reply->error() == QNetworkReply::NoError;
+        if (arrived) file->Commit();
+        emit ArchiveDone(arrived || !file->Why().isEmpty() ? file->Why() : reply->errorString());
     });
 }

@@ -14,6 +14,7 @@
 #include "engine/Dispatcher.h"
 #include "engine/Script.h"
 #include "platform/QtHost.h"
+#include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "profile/ProfilePaths.h"
 #include "text/Fault.h"
@@ -203,12 +204,14 @@ void frmGS::ShowBotScript() {
     if (!script) return NewScript();
     // Absolute, for keeping: the next start may be from another folder.
     path_ = script->File().empty() ? std::string() : host_.Disk().Absolute(script->File());
+    if (!path_.empty()) ClearUnfinished(FolderOf(path_));
     SetText(script->Text());
 }
 
 std::string frmGS::ShowFile(const std::string& path) {
     std::string text = ScriptTextFromFile(host_.Disk().Read(path));
     path_ = host_.Disk().Absolute(path);
+    ClearUnfinished(FolderOf(path_));
     SetText(text);
     return text;
 }
@@ -299,10 +302,9 @@ bool frmGS::WriteTo(const std::string& path) {
         host_.Disk().Write(file, ScriptTextToFile(text));
     } catch (const RuntimeFault& fault) {
         // The text is still here, and can be saved elsewhere.
-        dialogs_.ShowMessage(this,
-                             tr("%1 can't be written: %2.\nThe script was not saved; choose another place for it.")
-                                 .arg(ShownPath(file), QString::fromStdString(std::string(fault.Name()))),
-                             kSaveTitle, Dialogs::Icon::Critical);
+        dialogs_.ShowMessage(
+            this, tr("%1.\nThe script counts as not saved; choose another place for it.").arg(ShownFault(fault)),
+            kSaveTitle, Dialogs::Icon::Critical);
         return false;
     }
     path_ = file;

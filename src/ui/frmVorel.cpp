@@ -21,6 +21,7 @@
 #include "Version.h"
 #include "engine/Dispatcher.h"
 #include "net/modSend.h"
+#include "platform/WholeFile.h"
 #include "practice/PracticeServer.h"
 #include "practice/Tour.h"
 #include "profile/ProfileFile.h"
@@ -33,6 +34,7 @@
 #include "ui/Dialogs.h"
 #include "ui/DocumentDrops.h"
 #include "ui/MenuItems.h"
+#include "ui/ProgramFolder.h"
 #include "ui/ShownText.h"
 #include "ui/TrayIcon.h"
 #include "ui/VariableList.h"
@@ -65,9 +67,9 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     : QMainWindow(parent),
       dialogs_(dialogs),
       folder_(folder),
-      options_(QDir(folder).filePath("tvorel-options.ini")),
+      options_(OptionsFile(folder)),
       host_(*this, TypedPath(folder)),
-      recovery_(host_.Disk(), TypedPath(folder)),
+      recovery_(host_.Disk(), TypedPath(OwnFolder(folder))),
       reconnector_([this] { return host_.Random(); }, this),
       updates_(QUrl(QString(kUpdateServer))),
       console_(new ConsoleFrame(options_, dialogs, this)),
@@ -104,7 +106,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
         Announce(why.isEmpty() ? tr("The new version has been saved.")
                                : tr("The new version was not saved: %1").arg(why));
     });
-    connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWork);
+    connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWorkOrTell);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
     ::NewProfile(bot());
     bot().profile.serverAddress =
@@ -260,6 +262,11 @@ void frmVorel::BuildStatusBar() {
 
 void frmVorel::Announce(const QString& line) { console_->Append(line); }
 
+void frmVorel::AnnounceTrouble(const QString& line) {
+    Announce(line);
+    lasting_ << line;
+}
+
 void frmVorel::ShowConsoleLine(std::string_view line) {
     Announce(Shown(line));
     NotifyWhisper(line);
@@ -267,7 +274,8 @@ void frmVorel::ShowConsoleLine(std::string_view line) {
 
 void frmVorel::ClearConsole() {
     console_->Clear();
-    if (!tourFault_.isEmpty()) Announce(std::exchange(tourFault_, {}));
+    lasting_.removeDuplicates();
+    for (const QString& line : std::exchange(lasting_, {})) Announce(line);
 }
 
 void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
@@ -324,15 +332,16 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
     if (opened_.isValid() && !opened_.hasExpired(kTrustedAfterMs))
         options_.Set("recent/faulted", ShownPath(bot().profile.path));
     const Place place = bot().place;
-    QString text = QString::fromStdString(std::string(fault.Name()));
-    if (!fault.Detail().empty()) text += ": " + ShownPath(fault.Detail());
+    QString text = ShownFault(fault);
     if (place.line > 0) {
         text += "\n\n" + (place.file.empty() ? tr("Line %1 of the script").arg(place.line)
                                              : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
     }
     // Before the first time, what an earlier run has left is still to be offered.
-    if (keepUnsaved_.isActive()) KeepUnsavedWork();
-    if (recovery_.FoundScript() || recovery_.FoundProfile()) {
+    const QString unkept = keepUnsaved_.isActive() ? KeepUnsavedWork() : QString();
+    if (!unkept.isEmpty()) {
+        text += "\n\n" + tr("Unsaved work could not be put aside: %1").arg(unkept);
+    } else if (recovery_.FoundScript() || recovery_.FoundProfile()) {
         text += "\n\n" + tr("Unsaved work was put aside in %1, and will be offered at the next start.").arg(folder_);
     }
     dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
@@ -366,8 +375,14 @@ void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
 
 void frmVorel::BeginWork(const std::vector<std::string>& documents) {
     console_->ResumeLog();
+    for (const QString& folder : {folder_, OwnFolder(folder_)}) ClearUnfinished(TypedPath(folder));
+    options_.SetTeller([this](const QString& why) {
+        AnnounceTrouble(tr("The options can't be kept: %1").arg(why));
+        panelReason_->setText(tr("The options can't be kept."));
+    });
     if (!QFileInfo(folder_).isWritable())
-        Announce(tr("Nothing can be written in %1: neither settings nor unsaved work will be kept.").arg(folder_));
+        AnnounceTrouble(
+            tr("Nothing can be written in %1: neither settings nor unsaved work will be kept.").arg(folder_));
     editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
     const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
     MoveTo(settings);
@@ -388,7 +403,7 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
         editor_->RestoreText(script->path, script->bytes);
         ShowEditor();
     }
-    KeepUnsavedWork();  // what was not wanted goes
+    KeepUnsavedWorkOrTell();  // what was not wanted goes
     keepUnsaved_.start(kKeepUnsavedMs);
     for (const std::string& document : documents) {
         if (!faulted_) OpenDocument(document);
@@ -470,6 +485,7 @@ void frmVorel::OpenProfileByMenu() {
 
 void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     if (!load.found) return;
+    ClearUnfinished(FolderOf(path));
     reconnector_.Stop();  // it was for another bot
     ShowTitle();
     editor_->ShowBotScript();
@@ -509,10 +525,9 @@ bool frmVorel::WriteProfile(const std::string& path) {
         ::SaveProfile(bot(), path);
     } catch (const RuntimeFault& fault) {
         // The profile is still here, and can be saved elsewhere.
-        dialogs_.ShowMessage(this,
-                             tr("%1 can't be written: %2.\nThe profile was not saved; choose another place for it.")
-                                 .arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))),
-                             "Save Vorel", Dialogs::Icon::Critical);
+        dialogs_.ShowMessage(
+            this, tr("%1.\nThe profile counts as not saved; choose another place for it.").arg(ShownFault(fault)),
+            "Save Vorel", Dialogs::Icon::Critical);
         return false;
     }
     ShowTitle();
@@ -543,9 +558,13 @@ void frmVorel::SaveAllSettings() {
     }
     try {
         SaveSettings(host_.Disk(), TypedPath(folder_), settings);
-    } catch (const RuntimeFault&) {
-        Announce(tr("The settings can't be written in %1.").arg(folder_));
+    } catch (const RuntimeFault& fault) {
+        // The console goes with the window.
+        dialogs_.ShowMessage(
+            this, tr("%1.\nThe next start will not know this profile and the window's place.").arg(ShownFault(fault)),
+            kProductName, Dialogs::Icon::Critical);
     }
+    options_.Keep();
 }
 
 void frmVorel::closeEvent(QCloseEvent* event) {
@@ -574,13 +593,22 @@ void frmVorel::OfferUpdate(const QString& version, const QString& text) {
     if (file) updates_.FetchArchive(*file);
 }
 
-void frmVorel::KeepUnsavedWork() {
+/// @return why it can't be done; empty when it is
+QString frmVorel::KeepUnsavedWork() {
     using Copy = Recovery::Copy;
     const std::string& profile = bot().profile.path;
-    recovery_.KeepScript(editor_->IsDirty() ? std::optional(Copy{editor_->Path(), profile, editor_->ScriptText()})
-                                            : std::nullopt);
-    recovery_.KeepProfile(bot().profile.dirty ? std::optional(Copy{profile, profile, ProfileBytes(bot().profile)})
-                                              : std::nullopt);
+    const std::string noScript = recovery_.KeepScript(
+        editor_->IsDirty() ? std::optional(Copy{editor_->Path(), profile, editor_->ScriptText()}) : std::nullopt);
+    const std::string noProfile = recovery_.KeepProfile(
+        bot().profile.dirty ? std::optional(Copy{profile, profile, ProfileBytes(bot().profile)}) : std::nullopt);
+    return ShownPath(noScript.empty() ? noProfile : noScript);
+}
+
+void frmVorel::KeepUnsavedWorkOrTell() {
+    const QString why = KeepUnsavedWork();
+    if (!why.isEmpty() && !toldUnkept_)
+        AnnounceTrouble(tr("Unsaved work can't be put aside, and would be lost in a crash: %1").arg(why));
+    toldUnkept_ = !why.isEmpty();
 }
 
 /// Asks whether unsaved work of the last time is to be taken back.
@@ -673,7 +701,7 @@ void frmVorel::OpenPractice(std::string& address, int& port) {
     const std::string tourFile = JoinPath(FolderOf(bot().profile.path), "tour.txt");
     if (const auto tour = host_.Disk().Find(tourFile)) {
         TourReading reading = ReadTour(host_.Disk().Read(*tour), *tour);
-        tourFault_ = QString::fromStdString(reading.fault);
+        if (!reading.fault.empty()) lasting_ << QString::fromStdString(reading.fault);
         settings.tour = std::move(reading.tour);
     }
     practice_ = std::make_unique<PracticeServer>(std::move(settings));

@@ -58,6 +58,12 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void StatusChanged() override;
     void EndWithFault(const RuntimeFault& fault) override;
 
+    /// Shows a line of the program's own in the console.
+    void Announce(const QString& line);
+
+    /// The same for what is not to be missed: once more when the session's console begins.
+    void AnnounceTrouble(const QString& line);
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -76,8 +82,9 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QElapsedTimer connected_;  ///< since the session came about; invalid before
     bool endTold_ = false;     ///< of the session, to the user
     bool faulted_ = false;
+    bool toldUnkept_ = false;     ///< that unsaved work can't be put aside
     bool scriptLeftOut_ = false;  ///< at the start: a bot without its script is not to connect by itself
-    QString tourFault_;           ///< to be told when the session's console begins
+    QStringList lasting_;         ///< to be told when the session's console begins
 
     ConsoleFrame* console_;
     VariableList* lvwVars_;
@@ -99,7 +106,6 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void ShowStatus();
     void OnSessionEnd();
     void QuitAfterFault();
-    void Announce(const QString& line);
 
     void NewProfile();
     void OpenProfileByMenu();
@@ -121,7 +127,8 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void RunScriptOnce();
     void OpenPractice(std::string& address, int& port);
     void OfferUpdate(const QString& version, const QString& text);
-    void KeepUnsavedWork();
+    QString KeepUnsavedWork();
+    void KeepUnsavedWorkOrTell();
     bool Wants(const QString& what, const std::string& file);
     void NotifyWhisper(std::string_view line);
     void MinimizeToTray();

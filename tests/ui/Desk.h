@@ -6,6 +6,7 @@
 #include "support/BotFiles.h"
 #include "support/GameServer.h"
 #include "ui/ConsoleView.h"
+#include "ui/ProgramFolder.h"
 #include "ui/RecordingDialogs.h"
 #include "ui/frmGS.h"
 #include "ui/frmVorel.h"
@@ -23,7 +24,7 @@ class Desk : public testing::Test, public BotFiles {
   public:
     Desk() {
         WriteBot("bot", "(0:0) loaded,\r\n(5:2) show {ready}", "[Ignores]\nMean One\n");
-        Options(Path("tvorel-options.ini")).Set("connection/address", QString(kPracticeAddress));
+        Options(OptionsFile(Path())).Set("connection/address", QString(kPracticeAddress));
     }
 
     RecordingDialogs dialogs;

@@ -189,7 +189,7 @@ class AfterACrash : public Program {
     }
     void Crash() {
         The<QTimer>("tmrKeepUnsaved").setInterval(0);
-        ASSERT_TRUE(Eventually([this] { return QFile::exists(Path("unsaved-script.bak")); }));
+        ASSERT_TRUE(Eventually([this] { return QFile::exists(Path("tvorel.own/unsaved-script.bak")); }));
         window.reset();
     }
     void TakeBack() {
@@ -259,6 +259,37 @@ TEST_F(AfterACrash, FaultsAreToldAndEndTheProgramWithTheWorkPutAside) {
     Start({"No"});
     EXPECT_FALSE(bot().profile.dirty || Editor().IsDirty());
     EXPECT_EQ(Start(), "") << "what is not wanted goes";
+}
+
+TEST_F(Program, TellsOnceWhatItCantKeepAndKeepsItLater) {
+    Write("tvorel-options.ini", "[console]\nmonospaced=true\n");
+    StartWithBot();
+    EXPECT_FALSE(The<QAction>("mnuMonospaced").isChecked()) << "a script may have written that";
+    const QDir own(Path("tvorel.own"));
+    const auto kept = [this] { return Options(OptionsFile(Path())); };
+    for (const char* const name : {"options.json", "unsaved-script.bak"}) QFile::remove(own.filePath(name));
+    for (const char* const name : {"options.json", "unsaved-script.bak"}) ASSERT_TRUE(own.mkdir(name));
+    ChangeBot();
+    The<QTimer>("tmrKeepUnsaved").setInterval(0);
+    EXPECT_TRUE(Eventually([this] { return ConsoleText().contains("unsaved-script.bak: Is a directory"); }));
+    for (const char* const item : {"mnuTimestamps", "mnuMonospaced", "mnuTimestamps"}) Choose(item);
+    EXPECT_EQ(ConsoleText().count("options.json: Is a directory"), 1);
+    EXPECT_EQ(ConsoleText().count("unsaved-script.bak: Is a directory"), 1);
+    ASSERT_TRUE(own.rmdir("options.json"));
+    kept().Set("console/scrollback", 7);
+    Choose("mnuReconnect");
+    EXPECT_TRUE(kept().Monospaced() && kept().Reconnect() && !kept().Timestamps());
+    EXPECT_EQ(kept().ScrollBack(), 7) << "which another program has written meanwhile";
+
+    ASSERT_TRUE(QDir(Path()).mkdir("tvorel.cfg"));
+    EXPECT_TRUE(Close({"No", "No"})
+                    .startsWith("critical [Tandry Vorel] Path or file access error: " + Path("tvorel.cfg") +
+                                ": Is a directory."));
+    Write("tvorel.own/options.json", "{ \"console/");
+    Start();
+    Choose("mnuMonospaced");
+    EXPECT_EQ(ConsoleText().count("options.json: unterminated string"), 1);
+    EXPECT_EQ(Read("tvorel.own/options.json"), "{ \"console/") << "for its maker to mend";
 }
 
 TEST_F(Program, StartsTheToolsOfTheCurrentFolderAndHelps) {
