@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -180,9 +181,8 @@ void WholeFile::Fail(const std::string& reason) const {
 }
 
 void ClearUnfinished(const std::string& folder) {
-    const std::string place = folder.empty() ? "." : folder;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(place, error), end; !error && entry != end; entry.increment(error)) {
-        if (IsTemporaryName(entry->path().filename().string())) RemoveIfLeftBehind(entry->path().string());
+    const QDir place(QString::fromStdString(folder.empty() ? "." : folder));
+    for (const QString& name : place.entryList(QDir::Files | QDir::Hidden)) {
+        if (IsTemporaryName(name.toStdString())) RemoveIfLeftBehind(place.filePath(name).toStdString());
     }
 }
