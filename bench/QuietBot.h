@@ -18,6 +18,10 @@ class NoFiles final : public Files {
     }
     std::optional<std::string> Find(const std::string&) const override { return std::nullopt; }
     std::string Absolute(const std::string& path) const override { return path; }
+    std::string DataPath(const std::string&, const std::string& name) const override { return name; }
+    std::optional<std::string> ReadData(const std::string&) const override { return std::nullopt; }
+    bool LeadToSameFile(const std::string&, const std::string&) const override { return false; }
+    std::unique_ptr<Lock> LockFolder(const std::string&) override { return nullptr; }
 };
 
 /// A world that costs nothing: connected, and counts what the bot sends instead of sending it.

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "engine/BotState.h"
 #include "engine/UserVariables.h"
@@ -55,5 +56,9 @@ struct Bot {
     Walk walk;
     SessionStatus status;
     Place place;
+
+    /// Every character file that the profile's file names, as written there, for a script may be loaded before the line
+    /// that counts is read. No script can open one.
+    std::vector<std::string> characterPaths;
     Host& host;
 };

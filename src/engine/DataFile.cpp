@@ -6,6 +6,7 @@
 #include "engine/Compare.h"
 #include "engine/Files.h"
 #include "engine/Host.h"
+#include "text/Fault.h"
 #include "text/Text.h"
 
 namespace {
@@ -26,6 +27,82 @@ auto IsEntry(std::string_view key, DataFile::KeyFrom from) {
         const std::size_t end = KeyEnd(line, from);
         return end != std::string::npos && SameName(std::string_view(line).substr(0, end), key);
     };
+}
+
+// --- what scripts are kept from ----------------------------------------------------------------------------------
+
+/// The key of a line as the reader of character files sees it, and as anybody else might: without blanks, control
+/// characters and byte-order marks.
+std::string BareKey(std::string_view line) {
+    std::string key = LowerCase(line.substr(0, line.find('=') + 1));
+    std::erase_if(key, [](char c) {
+        return static_cast<unsigned char>(c) <= ' ' ||
+               std::string_view("\x7F\xA0\xEF\xBB\xBF\xFE\xFF").find(c) != std::string_view::npos;
+    });
+    return key;
+}
+
+/// Is it a character's file, or made like one? Behind the first section an entry of that name is a script's own affair.
+bool HoldsPassword(std::string_view bytes) {
+    for (const std::string& line : FileLines(bytes)) {
+        if (IsSectionLine(line)) return false;
+        if (BareKey(line) == "password=") return true;
+    }
+    return false;
+}
+
+bool LeadsToOneOf(const Bot& bot, const std::string& path, const std::vector<std::string>& others) {
+    const Files& disk = bot.host.Disk();
+    return std::any_of(others.begin(), others.end(), [&](const std::string& other) {
+        return disk.LeadToSameFile(path, disk.Find(other).value_or(other));
+    });
+}
+
+/// True when the path is that of a character file of the profile, or of one that would be taken for it.
+bool IsCharacterFile(const Bot& bot, const std::string& path) {
+    std::vector<std::string> named = bot.characterPaths;
+    named.push_back(bot.profile.characterPath);
+    return std::any_of(named.begin(), named.end(), [&](const std::string& character) {
+        return LeadsToOneOf(bot, path, bot.profile.PlacesOf(character));
+    });
+}
+
+/// True for the file that tells the game's client where to connect, and with that whom to send the password.
+bool IsProxyFile(const Bot& bot, const std::string& path) {
+    std::vector<std::string> places = bot.profile.PlacesOf(bot.profile.clientPath);
+    for (std::string& place : places) place = JoinPath(FolderOf(place), kProxyFile);
+    return LeadsToOneOf(bot, path, places);
+}
+
+/// Why a script can't have a file, whatever is in it; empty when it can.
+std::string_view WhyWithheld(const Bot& bot, const std::string& path) {
+    if (IsCharacterFile(bot, path)) return "it is the bot's character";
+    return IsProxyFile(bot, path) ? "it tells the game's client where to connect" : "";
+}
+
+void TellWithheld(const Bot& bot, const std::string& path, std::string_view why) {
+    const std::string script = bot.place.file.empty() ? "The script" : FromUtf8(FileNameOf(bot.place.file));
+    bot.host.ShowConsoleLine(script + ", line " + std::to_string(bot.place.line) + ": scripts can't open " +
+                             FromUtf8(FileNameOf(path)) + ", because " + std::string(why) +
+                             ". For them there is no such file, and nothing is written. Use another name.");
+}
+
+/// What a script finds under a name.
+struct Opened {
+    std::string path;
+    std::optional<std::string> bytes;  ///< nothing when there is no such file
+    bool withheld = false;             ///< the file is kept from scripts, and the console has told so
+};
+
+Opened Open(const Bot& bot, std::string_view name) {
+    const Files& disk = bot.host.Disk();
+    Opened opened{disk.DataPath(bot.host.ProgramFolder(), ToUtf8(SafeFileName(name) + ".ini")), std::nullopt};
+    std::string_view why = WhyWithheld(bot, opened.path);
+    if (why.empty()) opened.bytes = disk.ReadData(opened.path);
+    if (opened.bytes && HoldsPassword(*opened.bytes)) why = "it holds a password";
+    opened.withheld = !why.empty();
+    if (opened.withheld) TellWithheld(bot, opened.path, why);
+    return opened;
 }
 
 }  // namespace
@@ -124,19 +201,22 @@ bool DataFile::RemoveSection(std::string_view section) {
     return std::erase_if(sections_, [&](const Section& candidate) { return SameName(candidate.name, section); }) > 0;
 }
 
-std::string DataFilePath(const Bot& bot, std::string_view name) {
-    return JoinPath(bot.host.ProgramFolder(), ToUtf8(SafeFileName(name) + ".ini"));
-}
-
 std::optional<std::string> ReadDataFile(const Bot& bot, std::string_view name) {
-    const std::optional<std::string> path = bot.host.Disk().Find(DataFilePath(bot, name));
-    if (!path) return std::nullopt;
-    return bot.host.Disk().Read(*path);
+    const Opened opened = Open(bot, name);
+    return opened.withheld ? std::nullopt : opened.bytes;
 }
 
-void WriteDataFile(Bot& bot, std::string_view name, const DataFile& file) {
-    const std::string path = DataFilePath(bot, name);
-    bot.host.Disk().Write(bot.host.Disk().Find(path).value_or(path), file.Bytes());
+void ChangeDataFile(Bot& bot, std::string_view name, const std::function<bool(DataFile&)>& change) {
+    const auto lock = bot.host.Disk().LockFolder(bot.host.ProgramFolder());
+    const Opened opened = Open(bot, name);
+    if (opened.withheld) return;
+    DataFile file = DataFile::Parse(opened.bytes.value_or(""));
+    if (!change(file)) return;
+    const std::string bytes = file.Bytes();
+    if (bytes.size() > kDataFileLimit) {
+        throw RuntimeFault(FaultKind::PathOrFileAccess, opened.path + ": it would be larger than 16 MiB");
+    }
+    bot.host.Disk().Write(opened.path, bytes);
 }
 
 bool DataFileHolds(std::string_view bytes, std::string_view section, std::string_view entry) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -51,16 +52,18 @@ class DataFile {
     std::string* FindLine(std::string_view section, Matches matches);
 };
 
-/// The path of the data file that a script calls by this name: in the program's folder, the name made safe, ".ini".
-std::string DataFilePath(const Bot& bot, std::string_view name);
+// The data files of a bot lie in the program's folder: the name that a script calls one by, made safe, and ".ini". The
+// bot's character file, and any that holds a password, does not exist for a script, by whatever name or link: then the
+// console tells which line has asked for it.
 
-/// The data file's contents, its name found without regard to letter case; nothing when there is no such file.
-/// @throws RuntimeFault when it exists and can't be read
+/// The contents, the name found without regard to letter case; nothing when there is no such file.
+/// @throws RuntimeFault PathOrFileAccess, when it can't be opened (see Files::ReadData)
 std::optional<std::string> ReadDataFile(const Bot& bot, std::string_view name);
 
-/// Writes over the file of that name, in whatever letter case it exists, or makes it.
-/// @throws RuntimeFault PathOrFileAccess
-void WriteDataFile(Bot& bot, std::string_view name, const DataFile& file);
+/// Changes the file of that name, in whatever letter case it exists, or makes it; no other program gets in between.
+/// @param change  is given the file as it is, empty when there is none; returns whether it is to be written
+/// @throws RuntimeFault PathOrFileAccess, when it can't be opened or written, or would be larger than kDataFileLimit
+void ChangeDataFile(Bot& bot, std::string_view name, const std::function<bool(DataFile&)>& change);
 
 /// True when a line of the section loosely equals the entry. Unlike in DataFile, a line that begins with "[" and does
 /// not end with "]" is passed over.

@@ -1,8 +1,16 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+/// How large a data file of a script may be, in bytes: 16 MiB is far more than a script can go through at one event.
+inline constexpr std::size_t kDataFileLimit = std::size_t{16} * 1024 * 1024;
+
+/// The small file beside the game's client that tells it where to connect.
+inline constexpr char kProxyFile[] = "proxy.ini";
 
 /// The file system, as far as a bot may touch it. Paths are UTF-8; contents are bytes as they stand in the file.
 /// A relative path starts from the current folder.
@@ -24,6 +32,30 @@ class Files {
 
     /// The path made absolute from the current folder, for keeping.
     virtual std::string Absolute(const std::string& path) const = 0;
+
+    // Data files: what a script may open. It knows them by a name in a folder, and may be anybody's work.
+
+    /// The path of what lies in the folder under that name, letter case apart; the same case wins. Where nothing does,
+    /// the path that a new file would have. NUL and other control characters of the name become "_".
+    virtual std::string DataPath(const std::string& folder, const std::string& name) const = 0;
+
+    /// The whole file; nothing when there is none. Never waits, whatever lies there.
+    /// @throws RuntimeFault PathOrFileAccess, with path and reason, for what is no ordinary file, what a link leads to
+    ///         out of the folder, what is larger than kDataFileLimit, and what can't be read
+    virtual std::optional<std::string> ReadData(const std::string& path) const = 0;
+
+    /// True when both paths lead to one file, by links too; and where there is none, when it would be the same.
+    virtual bool LeadToSameFile(const std::string& a, const std::string& b) const = 0;
+
+    class Lock {
+      public:
+        virtual ~Lock() = default;
+    };
+
+    /// Keeps every other program that asks for the same lock waiting until the returned one is gone, so that a file
+    /// of the folder can be read and written with nobody in between. A program that crashes holds none any more.
+    /// @throws RuntimeFault PathOrFileAccess, when another one has it for too long
+    virtual std::unique_ptr<Lock> LockFolder(const std::string& folder) = 0;
 };
 
 /// Joins a folder and what lies in it; a path that is absolute already stays itself, an empty folder adds nothing.

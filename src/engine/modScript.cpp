@@ -176,9 +176,10 @@ std::optional<DataFile> OpenDataFile(const Bot& bot, std::string_view name) {
 }
 
 void WriteEntry(Bot& bot, const Arguments& arguments, std::string_view) {
-    DataFile file = OpenDataFile(bot, arguments[1]).value_or(DataFile());
-    file.SetValue(arguments[0], arguments[2], arguments[3]);
-    WriteDataFile(bot, arguments[1], file);
+    ChangeDataFile(bot, arguments[1], [&](DataFile& file) {
+        file.SetValue(arguments[0], arguments[2], arguments[3]);
+        return true;
+    });
 }
 
 void ReadEntry(Bot& bot, const Arguments& arguments, std::string_view) {
@@ -188,14 +189,14 @@ void ReadEntry(Bot& bot, const Arguments& arguments, std::string_view) {
 }
 
 void RemoveEntry(Bot& bot, const Arguments& arguments, std::string_view) {
-    std::optional<DataFile> file = OpenDataFile(bot, arguments[1]);
-    if (file && file->RemoveEntry(arguments[0], arguments[2])) WriteDataFile(bot, arguments[1], *file);
+    ChangeDataFile(bot, arguments[1], [&](DataFile& file) { return file.RemoveEntry(arguments[0], arguments[2]); });
 }
 
 void AddListLine(Bot& bot, const Arguments& arguments, std::string_view) {
-    DataFile file = OpenDataFile(bot, arguments[2]).value_or(DataFile());
-    file.AddLine(arguments[1], arguments[0]);
-    WriteDataFile(bot, arguments[2], file);
+    ChangeDataFile(bot, arguments[2], [&](DataFile& file) {
+        file.AddLine(arguments[1], arguments[0]);
+        return true;
+    });
 }
 
 void ReadList(Bot& bot, const Arguments& arguments, std::string_view) {
@@ -204,13 +205,11 @@ void ReadList(Bot& bot, const Arguments& arguments, std::string_view) {
 }
 
 void RemoveListLine(Bot& bot, const Arguments& arguments, std::string_view) {
-    std::optional<DataFile> file = OpenDataFile(bot, arguments[2]);
-    if (file && file->RemoveLines(arguments[1], arguments[0])) WriteDataFile(bot, arguments[2], *file);
+    ChangeDataFile(bot, arguments[2], [&](DataFile& file) { return file.RemoveLines(arguments[1], arguments[0]); });
 }
 
 void RemoveSection(Bot& bot, const Arguments& arguments, std::string_view) {
-    std::optional<DataFile> file = OpenDataFile(bot, arguments[1]);
-    if (file && file->RemoveSection(arguments[0])) WriteDataFile(bot, arguments[1], *file);
+    ChangeDataFile(bot, arguments[1], [&](DataFile& file) { return file.RemoveSection(arguments[0]); });
 }
 
 void ReadRandomLine(Bot& bot, const Arguments& arguments, std::string_view) {

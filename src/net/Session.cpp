@@ -107,7 +107,7 @@ void Session::ConnectThroughClient() {
         GiveUpClient("No port on this computer is free for the Furcadia client to connect to.");
         return;
     }
-    link_.WriteProxyFile(JoinPath(folder, "proxy.ini"), "localhost " + std::to_string(*port) + "\r\n");
+    link_.WriteProxyFile(JoinPath(folder, kProxyFile), "localhost " + std::to_string(*port) + "\r\n");
     if (const std::string refusal = link_.StartClient(program, character); !refusal.empty()) {
         GiveUpClient("The Furcadia client could not be started: " + refusal);
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/Files.h"
+#include "platform/PosixDataFolder.h"
 
 /// The computer's own file system. Files are written by WholeFile, which tells what becomes of links, modes and what
 /// may not be written; a fault of writing names the file and the reason.
@@ -10,4 +11,14 @@ class DiskFiles final : public Files {
     void Write(const std::string& path, std::string_view bytes) override;
     std::optional<std::string> Find(const std::string& path) const override;
     std::string Absolute(const std::string& path) const override;
+    std::string DataPath(const std::string& folder, const std::string& name) const override {
+        return PosixDataFolder::PathOf(folder, name);
+    }
+    std::optional<std::string> ReadData(const std::string& path) const override { return PosixDataFolder::Read(path); }
+    bool LeadToSameFile(const std::string& a, const std::string& b) const override {
+        return PosixDataFolder::LeadToSameFile(a, b);
+    }
+    std::unique_ptr<Lock> LockFolder(const std::string& folder) override {
+        return PosixDataFolder::LockFolder(folder, PosixDataFolder::kPatience);
+    }
 };

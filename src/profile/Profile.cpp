@@ -2,7 +2,14 @@
 
 #include <algorithm>
 
+#include "engine/Files.h"
 #include "text/Text.h"
+
+std::vector<std::string> Profile::PlacesOf(std::string_view pathText) const {
+    if (pathText.empty()) return {};
+    const std::string file = ToUtf8(pathText);
+    return {file, JoinPath(FolderOf(path), file)};
+}
 
 bool IsIgnored(const Profile& profile, std::string_view name) {
     if (profile.ignores.empty()) return false;

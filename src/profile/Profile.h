@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The game server's name, and the port the game has always used.
@@ -24,6 +25,11 @@ struct Profile {
     std::string serverAddress = kGameServer;  ///< chosen in the configuration; not stored
 
     bool IsClientMode() const { return connectClient == 1; }
+
+    /// Where a file that the profile names may lie, in the order in which it is looked for: as the path says, from the
+    /// current folder, and from the profile's own. Paths are UTF-8.
+    /// @param pathText  as written in the profile; an empty one is nowhere
+    std::vector<std::string> PlacesOf(std::string_view pathText) const;
 
     friend bool operator==(const Profile&, const Profile&) = default;
 };

@@ -75,6 +75,17 @@ void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& l
     }
 }
 
+/// The lines of a profile's file. Which character files they name is known before a script among them is loaded.
+std::vector<std::string> ReadProfileLines(Bot& bot, const std::string& path) {
+    std::vector<std::string> lines = FileLines(bot.host.Disk().Read(path));
+    bot.characterPaths.clear();
+    for (const std::string& line : lines) {
+        if (const Entry entry = ReadEntry(line); entry.key == "furcadiacharacter=")
+            bot.characterPaths.push_back(entry.value);
+    }
+    return lines;
+}
+
 bool IsSectionLine(const std::string& line) { return line.starts_with('[') && line.ends_with(']'); }
 
 std::string SectionName(const std::string& line) { return LowerCase(line.substr(1, line.size() - 2)); }
@@ -93,7 +104,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     ProfileLoad load{true};
     std::string section;
     PlaceMark place(bot, *found);
-    for (const std::string& line : FileLines(bot.host.Disk().Read(*found))) {
+    for (const std::string& line : ReadProfileLines(bot, *found)) {
         place.NextLine();
         if (IsSectionLine(line)) {
             section = SectionName(line);
@@ -114,7 +125,7 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
 
     ProfileLoad load{true};
     PlaceMark place(bot, *found);
-    for (const std::string& line : FileLines(bot.host.Disk().Read(*found))) {
+    for (const std::string& line : ReadProfileLines(bot, *found)) {
         place.NextLine();
         const Entry entry = ReadEntry(line);
         TakeEntry(bot, entry, LowerCase(entry.value) != "end", load);

@@ -23,7 +23,8 @@ void LimitFileSizes(rlim_t size) {
 }
 
 /// A fault of this kind that names this file, and behind it the reason, if there is one.
-auto Fails(FaultKind kind, const std::string& file) {
+template <typename File>
+auto Fails(FaultKind kind, const File& file) {
     return testing::Throws<RuntimeFault>(
         testing::AllOf(testing::Property(&RuntimeFault::Kind, kind), testing::Property(&RuntimeFault::Detail, file)));
 }
@@ -185,6 +186,53 @@ TEST(DiskFiles, AreFoundWithoutRegardToCase) {
         const std::string path = DiskFiles().Find(files.Path(wanted).toStdString()).value_or("");
         EXPECT_EQ(path, *found ? files.Path(found).toStdString() : "") << wanted;
     }
+}
+
+using testing::HasSubstr;
+
+TEST(DataFolder, OpensOrdinaryFilesOfItsOwnAndNamesTheRest) {
+    const BotFiles files;
+    const QDir folder(files.Path());
+    ASSERT_TRUE(folder.mkdir("data") && folder.mkdir("data/Folder.ini") && folder.mkdir("data/in"));
+    const std::string data = files.Path("data").toStdString();
+    files.Write("outside.ini", "secret");
+    files.Write("data/pets.ini", "cat");
+    files.Write("data/in/deep.ini", "deep");
+    files.Write("data/large.ini", QByteArray(static_cast<int>(kDataFileLimit), 'x'));
+    files.Write("data/larger.ini", QByteArray(static_cast<int>(kDataFileLimit) + 1, 'x'));
+    ASSERT_EQ(::mkfifo((data + "/pipe.ini").c_str(), 0600), 0);
+    for (const auto& [target, link] : {std::pair{"../outside.ini", "out.ini"},
+                                       {"/dev/zero", "zero.ini"},
+                                       {"../none.ini", "nowhere.ini"},
+                                       {"in/deep.ini", "deep.ini"}}) {
+        ASSERT_EQ(::symlink(target, (data + "/" + link).c_str()), 0);
+    }
+    DiskFiles disk;
+    const auto open = [&](const std::string& name) { return disk.ReadData(disk.DataPath(data, name)); };
+    EXPECT_EQ(open("PETS.ini"), "cat");
+    EXPECT_EQ(open("deep.ini"), "deep") << "a link within the folder";
+    EXPECT_EQ(open("large.ini")->size(), kDataFileLimit);
+    EXPECT_EQ(open("none.ini"), std::nullopt);
+    EXPECT_EQ(disk.DataPath(data, std::string("a\0b\n\x7F.ini", 9)), data + "/a_b__.ini");
+    for (const auto& [name, why] : {std::pair{"out.ini", "leads out of its folder"},
+                                    {"zero.ini", "leads out of its folder"},
+                                    {"nowhere.ini", "leads nowhere"},
+                                    {"folder.ini", "is a folder"},
+                                    {"pipe.ini", "a device or a pipe"},
+                                    {"larger.ini", "larger than 16 MiB"}}) {
+        const auto opens = [&, named = name] { open(named); };
+        EXPECT_THAT(opens, Fails(FaultKind::PathOrFileAccess, HasSubstr(why))) << name;
+    }
+}
+
+TEST(DataFolder, IsLockedForOneAtATime) {
+    const BotFiles files;
+    const std::string folder = files.Path().toStdString();
+    const auto lock = [&] { return PosixDataFolder::LockFolder(folder, std::chrono::milliseconds(0)); };
+    auto first = lock();
+    EXPECT_THAT(lock, Fails(FaultKind::PathOrFileAccess, folder + ": another program keeps its data files locked"));
+    first.reset();
+    EXPECT_NO_THROW(lock());
 }
 
 }  // namespace

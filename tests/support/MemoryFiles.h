@@ -33,4 +33,15 @@ class MemoryFiles final : public Files {
         return std::nullopt;
     }
     std::string Absolute(const std::string& path) const override { return JoinPath(currentFolder, path); }
+    std::string DataPath(const std::string& folder, const std::string& name) const override {
+        const std::string path = JoinPath(folder, name);
+        return Find(path).value_or(path);
+    }
+    std::optional<std::string> ReadData(const std::string& path) const override {
+        return contents.contains(path) ? std::optional(Read(path)) : std::nullopt;
+    }
+    bool LeadToSameFile(const std::string& a, const std::string& b) const override {
+        return LowerCase(Absolute(a)) == LowerCase(Absolute(b));
+    }
+    std::unique_ptr<Lock> LockFolder(const std::string&) override { return nullptr; }
 };
