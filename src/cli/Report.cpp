@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "net/Passwords.h"
 #include "text/Text.h"
 
 std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
@@ -9,7 +10,7 @@ std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
     if (!fault.Detail().empty()) text += ": " + fault.Detail();
     if (!bot.place.file.empty()) text += ", at " + bot.place.file;
     if (bot.place.line > 0) text += " line " + std::to_string(bot.place.line);
-    return text;
+    return WithoutPasswords(bot, text);
 }
 
 std::string MissingScript(const std::string& profilePath, const ProfileLoad& load) {

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "cli/Report.h"
+#include "net/Passwords.h"
 #include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "text/Text.h"
@@ -28,7 +29,7 @@ bool TerminalBot::Load() {
 bool TerminalBot::RecordTo(const std::string& path) {
     recordFile_.setFileName(QString::fromStdString(path));
     if (!recordFile_.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-    recording_ = std::make_unique<Recording>([this](const std::string& lines) { Record(lines); });
+    recording_ = std::make_unique<Recording>(host_.bot(), [this](const std::string& lines) { Record(lines); });
     host_.SetObserver(recording_.get());
     return true;
 }
@@ -55,7 +56,9 @@ void TerminalBot::TypeLine(const std::string& line) {
     host_.RunHandler([&] { host_.session().TypeLine(line); });
 }
 
-void TerminalBot::ShowConsoleLine(std::string_view line) { output_.Show(hasLabel_ ? Label() : "", line); }
+void TerminalBot::ShowConsoleLine(std::string_view line) {
+    output_.Show(hasLabel_ ? Label() : "", WithoutPasswords(host_.bot(), line));
+}
 
 void TerminalBot::ShowMessage(std::string_view title, std::string_view text) {
     std::cerr << "vorel run: " << profilePath_ << ": " << Printable(title) << ": " << Printable(text) << std::endl;

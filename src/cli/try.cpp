@@ -11,6 +11,7 @@
 
 #include "cli/Report.h"
 #include "cli/Verbs.h"
+#include "net/Passwords.h"
 #include "platform/DiskFiles.h"
 #include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"

@@ -60,5 +60,6 @@ struct Bot {
     /// Every character file that the profile's file names, as written there, for a script may be loaded before the line
     /// that counts is read. No script can open one.
     std::vector<std::string> characterPaths;
+    std::string characterPassword;  ///< kept out of all that is written; see net/Passwords.h
     Host& host;
 };

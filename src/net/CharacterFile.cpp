@@ -15,15 +15,20 @@ std::string ShapeAt(const ServerLine& line, std::size_t position) {
     return std::string(1, static_cast<char>(kZeroShape + digit));
 }
 
+/// A line of the file, cut behind its first "="; the key is lower-cased and keeps it.
+struct Entry {
+    explicit Entry(const std::string& line)
+        : key(LowerCase(line.substr(0, line.find('=') + 1))), value(line.substr(key.size())) {}
+    std::string key, value;
+};
+
 }  // namespace
 
 Character ReadCharacter(std::string_view bytes, PlaceMark& place) {
     Character character;
     for (const std::string& line : FileLines(bytes)) {
         place.NextLine();
-        const std::size_t keyEnd = line.find('=') + 1;
-        const std::string key = LowerCase(std::string_view(line).substr(0, keyEnd));
-        const std::string value = line.substr(keyEnd);
+        const auto [key, value] = Entry(line);
         if (key == "name=") {
             character.name = value;
         } else if (key == "password=") {
@@ -40,4 +45,12 @@ Character ReadCharacter(std::string_view bytes, PlaceMark& place) {
         }
     }
     return character;
+}
+
+std::string PasswordIn(std::string_view bytes) {
+    std::string password;
+    for (const std::string& line : FileLines(bytes)) {
+        if (const Entry entry(line); entry.key == "password=") password = entry.value;
+    }
+    return password;
 }

@@ -19,3 +19,6 @@ struct Character {
 /// @param place  is moved along with the lines
 /// @throws RuntimeFault InvalidProcedureCall, for a "spec=" line too short; TypeMismatch, when it holds no digits
 Character ReadCharacter(std::string_view bytes, PlaceMark& place);
+
+/// The password alone, as ReadCharacter finds it.
+std::string PasswordIn(std::string_view bytes);

@@ -94,6 +94,7 @@ void Session::ConnectStandAlone() {
 
 void Session::ConnectThroughClient() {
     ShowMenus(true, true);
+    LearnPassword();
     link_.CloseServer();
     link_.CloseClient();
     // Looked up now: a path of the profile may start from the folder that is about to be left.
@@ -126,6 +127,7 @@ void Session::GiveUpClient(const std::string& why) {
 }
 
 void Session::ConnectServer(const std::string& address) {
+    LearnPassword();
     serverLines_.Clear();
     link_.ConnectServer(serverAddress_.empty() ? address : serverAddress_,
                         serverPort_ == 0 ? bot_.profile.port : serverPort_);
@@ -166,9 +168,21 @@ void Session::TypeLine(std::string_view text) {
     }
 }
 
+/// Whatever is said of the password from now on, before and beside the login too, is to be known for what it is.
+void Session::LearnPassword() {
+    const std::optional<std::string> path = FindProfileFile(bot_, bot_.profile.characterPath);
+    if (!path) return;
+    try {
+        bot_.characterPassword = PasswordIn(bot_.host.Disk().Read(*path));
+    } catch (const RuntimeFault&) {
+        bot_.characterPassword.clear();  // a login that needs the file raises it again
+    }
+}
+
 void Session::OnServerConnected() {
     Note(Happening::Connected);
     ResetState(bot_.state);
+    LearnPassword();
     bot_.clock.seconds = bot_.clock.minutes = 0;
     bot_.status.connection = "Connected";
     ShowMenus(true, bot_.host.IsClientConnected());

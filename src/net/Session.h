@@ -78,6 +78,7 @@ class Session {
     void ConnectStandAlone();
     void ConnectThroughClient();
     void ConnectServer(const std::string& address);
+    void LearnPassword();
     void LogIn();
     void ShowMenus(bool inSession, bool canStandAlone);
     void ShowIdle(SessionStatus::End end);

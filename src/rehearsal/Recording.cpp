@@ -2,7 +2,8 @@
 
 #include <limits>
 
-#include "rehearsal/WrittenSession.h"
+#include "net/Passwords.h"
+#include "text/Text.h"
 
 namespace {
 
@@ -43,18 +44,25 @@ void Recording::Note(Happening happening, std::string_view text) {
     WriteLine(std::string(word) + Recorded(happening, text));
 }
 
+void Recording::Remark(std::string_view text) {
+    WriteRepeated();
+    for (const std::string& line : FileLines(WithoutPasswords(bot_, text))) WriteLine("# " + line);
+}
+
 /// What of a line may be written. A client's login may come in two pieces, of which the second is half a password:
 /// until a whole login has come, nothing that the client says is written, nor what goes on of it to the server.
 std::string Recording::Recorded(Happening happening, std::string_view text) {
     if (happening == Happening::Linked) awaitsLogin_ = true;
-    std::string shown = WithoutPassword(text);
+    if (happening == Happening::ServerLine) return WithoutPasswords(bot_, text);
+    const std::string shown = WithoutPassword(text);
     if (shown != text) {
         if (happening == Happening::ClientLine) awaitsLogin_ = false;
-        return shown;
+    } else if (happening == Happening::ClientLine && awaitsLogin_) {
+        hidden_.emplace(text);
     }
-    if (happening == Happening::ClientLine && awaitsLogin_) hidden_.emplace(text);
     const bool fromClient = happening == Happening::ClientLine || happening == Happening::Sent;
-    return fromClient && hidden_.contains(shown) ? "********" : shown;
+    if (fromClient && hidden_.contains(shown)) return std::string(kMaskedPassword);
+    return WithoutPasswords(bot_, shown);
 }
 
 void Recording::Repeat(std::string_view word) {

@@ -4,14 +4,16 @@
 #include <set>
 #include <string>
 
+#include "engine/Bot.h"
 #include "net/SessionObserver.h"
 
 /// Writes what happens around a bot as a written session that can be played again: what arrived as instructions, what
 /// was sent as expectations, and never a password.
 class Recording final : public SessionObserver {
   public:
+    /// @param bot    whose passwords are kept out of it
     /// @param write  takes each piece of the file, whole lines
-    explicit Recording(std::function<void(const std::string&)> write) : write_(std::move(write)) {}
+    Recording(const Bot& bot, std::function<void(const std::string&)> write) : bot_(bot), write_(std::move(write)) {}
 
     /// Writes what is still held back.
     ~Recording() override { WriteRepeated(); }
@@ -21,7 +23,11 @@ class Recording final : public SessionObserver {
 
     void Note(Happening happening, std::string_view text) override;
 
+    /// Writes a line that a rehearsal passes over, such as the fault that has ended the bot.
+    void Remark(std::string_view text);
+
   private:
+    const Bot& bot_;
     std::function<void(const std::string&)> write_;
     std::string repeated_;  ///< the timer instruction held back until something else happens
     int times_ = 0;

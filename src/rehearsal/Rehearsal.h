@@ -29,6 +29,7 @@ class Rehearsal {
   private:
     std::size_t failed_ = 0;
 
+    bool IsAsExpected(const std::string& sent, const std::string& expected) const;
     void Expect(const SessionStep& step);
     void ExpectNothing(const SessionStep& step);
     void Fail(const SessionStep& step, const std::string& why);

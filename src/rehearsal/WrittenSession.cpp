@@ -83,13 +83,3 @@ WrittenSession ParseSession(std::string_view bytes) {
     }
     return session;
 }
-
-std::string WithoutPassword(std::string_view command) {
-    constexpr std::string_view kConnect = "connect ";
-    // A typed line may carry the mark of a raw command or of speech in front.
-    const std::size_t begin = command.starts_with('`') || command.starts_with('"') ? 1 : 0;
-    if (LowerCase(command.substr(begin, kConnect.size())) != kConnect) return std::string(command);
-    const std::size_t nameEnd = command.find(' ', begin + kConnect.size());
-    if (nameEnd == command.npos || nameEnd + 1 == command.size()) return std::string(command);
-    return std::string(command.substr(0, nameEnd)) + " ********";
-}

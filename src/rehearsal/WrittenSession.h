@@ -36,6 +36,3 @@ struct WrittenSession {
 
 /// @param bytes  8-bit text, lines ended by LF, a CR before it dropped; empty lines and "#" lines are passed over
 WrittenSession ParseSession(std::string_view bytes);
-
-/// A command with the password of a login line put out of sight; other lines stay as they are.
-std::string WithoutPassword(std::string_view command);

@@ -20,6 +20,7 @@
 
 #include "Version.h"
 #include "engine/Dispatcher.h"
+#include "net/Passwords.h"
 #include "net/modSend.h"
 #include "platform/WholeFile.h"
 #include "practice/PracticeServer.h"
@@ -268,8 +269,9 @@ void frmVorel::AnnounceTrouble(const QString& line) {
 }
 
 void frmVorel::ShowConsoleLine(std::string_view line) {
-    Announce(Shown(line));
-    NotifyWhisper(line);
+    const std::string shown = WithoutPasswords(bot(), line);
+    Announce(Shown(shown));
+    NotifyWhisper(shown);
 }
 
 void frmVorel::ClearConsole() {
@@ -337,6 +339,7 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
         text += "\n\n" + (place.file.empty() ? tr("Line %1 of the script").arg(place.line)
                                              : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
     }
+    text = QString::fromStdString(WithoutPasswords(bot(), text.toStdString()));
     // Before the first time, what an earlier run has left is still to be offered.
     const QString unkept = keepUnsaved_.isActive() ? KeepUnsavedWork() : QString();
     if (!unkept.isEmpty()) {
