@@ -7,6 +7,7 @@
 
 #include "Version.h"
 #include "cli/Verbs.h"
+#include "platform/CoreDumps.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ void OpenMissingDescriptors() {
 int main(int argc, char** argv) {
     OpenMissingDescriptors();
     std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a fault like a full disk, and told like one
+    TurnOffCoreDumps();
     CLI::App app(std::string(kProductName) + " " + kProductVersion + " in the terminal: bots for Furcadia", "vorel");
     app.set_version_flag("--version", std::string(kProductName) + " " + kProductVersion);
     app.require_subcommand(1);

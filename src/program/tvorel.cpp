@@ -3,6 +3,7 @@
 #include <csignal>
 
 #include "Version.h"
+#include "platform/CoreDumps.h"
 #include "ui/Dialogs.h"
 #include "ui/Options.h"
 #include "ui/ProgramFolder.h"
@@ -12,6 +13,7 @@
 
 int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a fault like a full disk, and told like one
+    TurnOffCoreDumps();
     QApplication application(argc, argv);
     QApplication::setApplicationName("tvorel");
     QApplication::setApplicationVersion(kProductVersion);

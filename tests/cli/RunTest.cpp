@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
 #include <QRegularExpression>
 
@@ -41,6 +42,20 @@ TEST_F(RunTest, SignalsDisconnectInOrder) {
         EXPECT_EQ(vorel->Ends(), 0);
         EXPECT_EQ(vorel->out, "hello there\ngone\n");
     }
+}
+
+TEST_F(RunTest, LeavesNoImageOfItsMemory) {
+    rlimit core{};
+    getrlimit(RLIMIT_CORE, &core);
+    files.WriteBot("bot");
+    const auto vorel = Run({"bot.tvm"});
+    QFile limits("/proc/" + QString::number(vorel->processId()) + "/limits");
+    ASSERT_TRUE(limits.open(QIODevice::ReadOnly));
+    const QString bytes = core.rlim_max == 0 ? "0" : "1";
+    EXPECT_TRUE(
+        QRegularExpression("Max core file size +" + bytes + " +" + bytes + " ").match(limits.readAll()).hasMatch());
+    vorel->Signal(SIGTERM);
+    EXPECT_EQ(vorel->Ends(), 0);
 }
 
 TEST_F(RunTest, TheScriptMayConnectAgainAndTheLastAttemptCounts) {
