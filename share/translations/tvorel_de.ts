@@ -72,6 +72,18 @@
         <translation>Das Protokoll %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
+        <source>The log %1 can&apos;t be written: it is not an ordinary file.</source>
+        <translation>Das Protokoll %1 kann nicht geschrieben werden: es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The log %1 can&apos;t be written: the file holds something that is no log. Choose a new one.</source>
+        <translation>Das Protokoll %1 kann nicht geschrieben werden: die Datei enthält etwas, das kein Protokoll ist. Wählen Sie eine neue.</translation>
+    </message>
+    <message>
+        <source>The log can&apos;t be written any more.</source>
+        <translation>Das Protokoll kann nicht mehr geschrieben werden.</translation>
+    </message>
+    <message>
         <source>Find this in the console:</source>
         <translation>In der Konsole suchen:</translation>
     </message>

@@ -1,25 +1,30 @@
 #include "cli/ConsoleOutput.h"
 
-#include <QDateTime>
 #include <iostream>
 
 #include "cli/Report.h"
 
-bool ConsoleOutput::LogTo(const std::string& path) {
-    log_.setFileName(QString::fromStdString(path));
-    return log_.open(QIODevice::WriteOnly | QIODevice::Append);
+std::string ConsoleOutput::LogTo(const std::string& path) {
+    const std::string refused = "the log " + path + " can't be written";
+    switch (log_.Open(path)) {
+        case ConsoleLog::Refusal::None:
+            return "";
+        case ConsoleLog::Refusal::CantBeWritten:
+            return refused;
+        case ConsoleLog::Refusal::NoOrdinaryFile:
+            return refused + ": it is not an ordinary file";
+        case ConsoleLog::Refusal::HoldsOther:
+            return refused + ": the file holds something that is no log. Name a new one";
+    }
+    return refused;
 }
 
 void ConsoleOutput::Show(const std::string& label, std::string_view line) {
     const std::string shown = (label.empty() ? "" : "[" + label + "] ") + Printable(line);
     if (!quiet_) std::cout << shown << std::endl;
-    if (log_.isOpen()) Log(shown);
+    Log(shown);
 }
 
 void ConsoleOutput::Log(const std::string& line) {
-    const QString time = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss ");
-    const QByteArray entry = time.toUtf8() + QByteArray::fromStdString(line) + '\n';
-    const bool written = log_.write(entry) == entry.size() && log_.flush();
-    if (!written && !logBroken_) std::cerr << "vorel run: the log can't be written any more" << std::endl;
-    logBroken_ = !written;
+    if (!log_.Append(line)) std::cerr << "vorel run: the log can't be written any more" << std::endl;
 }

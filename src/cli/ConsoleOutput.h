@@ -1,7 +1,9 @@
 #pragma once
 
-#include <QFile>
 #include <string>
+#include <string_view>
+
+#include "platform/ConsoleLog.h"
 
 /// Where the console lines of running bots go: standard output, and a log with times.
 class ConsoleOutput {
@@ -9,17 +11,17 @@ class ConsoleOutput {
     explicit ConsoleOutput(bool quiet) : quiet_(quiet) {}
 
     /// Appends everything from now on to a log.
-    /// @return false when the file can't be opened
-    bool LogTo(const std::string& path);
+    /// @return why that file can't be one, in words; empty when it can
+    std::string LogTo(const std::string& path);
 
     /// @param label  of the bot, UTF-8; empty when there is only one
     /// @param line   Windows-1252, without a line end
     void Show(const std::string& label, std::string_view line);
 
+    /// Writes a line into the log only, if there is one; UTF-8.
+    void Log(const std::string& line);
+
   private:
     bool quiet_;
-    bool logBroken_ = false;
-    QFile log_;
-
-    void Log(const std::string& line);
+    ConsoleLog log_;
 };

@@ -26,19 +26,16 @@ bool TerminalBot::Load() {
     return load.found || faulted;
 }
 
-bool TerminalBot::RecordTo(const std::string& path) {
-    recordFile_.setFileName(QString::fromStdString(path));
-    if (!recordFile_.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+std::optional<std::string> TerminalBot::RecordTo(const std::string& path) {
+    const std::optional<std::string> opened = recordFile_.Open(path);
+    if (!opened) return std::nullopt;
     recording_ = std::make_unique<Recording>(host_.bot(), [this](const std::string& lines) { Record(lines); });
     host_.SetObserver(recording_.get());
-    return true;
+    return opened;
 }
 
 void TerminalBot::Record(const std::string& lines) {
-    const auto size = static_cast<qint64>(lines.size());
-    const bool written = recordFile_.write(lines.data(), size) == size && recordFile_.flush();
-    if (!written && !recordBroken_) std::cerr << "vorel run: the recording can't be written any more" << std::endl;
-    recordBroken_ = !written;
+    if (!recordFile_.Write(lines)) std::cerr << "vorel run: the recording can't be written any more" << std::endl;
 }
 
 std::string TerminalBot::Label() const {
@@ -71,4 +68,8 @@ void TerminalBot::StatusChanged() {
     });
 }
 
-void TerminalBot::EndWithFault(const RuntimeFault& fault) { owner_.onFault(DescribeFault(fault, host_.bot())); }
+void TerminalBot::EndWithFault(const RuntimeFault& fault) {
+    const std::string why = DescribeFault(fault, host_.bot());
+    if (recording_) recording_->Remark(FromUtf8(why));
+    owner_.onFault(why);
+}

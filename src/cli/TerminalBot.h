@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QFile>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "cli/ConsoleOutput.h"
+#include "cli/RecordingFile.h"
 #include "platform/FrontEnd.h"
 #include "platform/QtHost.h"
 #include "rehearsal/Recording.h"
@@ -27,8 +28,9 @@ class TerminalBot final : public FrontEnd {
     bool Load();
 
     /// Writes what comes and goes as a session that can be rehearsed.
-    /// @return false when the file can't be written
-    bool RecordTo(const std::string& path);
+    /// @return the path that it goes to, which is another one where the file holds something (see RecordingFile);
+    ///         nothing when it can't be written
+    std::optional<std::string> RecordTo(const std::string& path);
 
     /// Prefixes its lines with its name, for when several bots share the output.
     void ShowLabel() { hasLabel_ = true; }
@@ -62,8 +64,7 @@ class TerminalBot final : public FrontEnd {
     ConsoleOutput& output_;
     Owner owner_;
     bool hasLabel_ = false;
-    QFile recordFile_;
-    bool recordBroken_ = false;
+    RecordingFile recordFile_;
     std::unique_ptr<Recording> recording_;
     QtHost host_;
 

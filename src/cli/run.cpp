@@ -71,9 +71,8 @@ class TerminalRun {
         if (options_.profiles.size() > 1 && !options_.record.empty()) {
             return Refuse(kUsageExit, "--record records one bot, not " + std::to_string(options_.profiles.size()));
         }
-        if (!options_.log.empty() && !output_.LogTo(options_.log)) {
-            return Refuse(kCantCreateExit, "the log " + options_.log + " can't be written");
-        }
+        const std::string noLog = options_.log.empty() ? "" : output_.LogTo(options_.log);
+        if (!noLog.empty()) return Refuse(kCantCreateExit, noLog);
         if (options_.practice) {
             if (const int refusal = OpenPractice()) return refusal;
         }
@@ -92,10 +91,14 @@ class TerminalRun {
         if (options_.profiles.size() > 1) bot.ShowLabel();
         if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
         if (exit_) return *exit_;
-        // Only now: an earlier recording is not to be lost to a run that can't begin.
-        if (!options_.record.empty() && !bot.RecordTo(options_.record)) {
-            return Refuse(kCantCreateExit, "the recording " + options_.record + " can't be written");
-        }
+        return options_.record.empty() ? 0 : Record(bot);
+    }
+
+    int Record(TerminalBot& bot) {
+        const std::optional<std::string> path = bot.RecordTo(options_.record);
+        if (!path) return Refuse(kCantCreateExit, "the recording " + options_.record + " can't be written");
+        if (*path != options_.record)
+            std::cerr << "vorel run: " << options_.record << " holds something; recording to " << *path << std::endl;
         return 0;
     }
 
@@ -147,6 +150,7 @@ class TerminalRun {
 
     void OnFault(const std::string& why) {
         std::cerr << "vorel run: " << why << std::endl;
+        output_.Log(why);
         End(kFaultExit);
         // A fault on the way out counts too.
         exit_ = kFaultExit;

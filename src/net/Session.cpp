@@ -137,6 +137,7 @@ void Session::Disconnect() {
     ShowIdle(SessionStatus::End::Asked);
     link_.CloseClient();
     if (bot_.host.IsServerConnected()) {
+        Note(Happening::Closed);
         link_.CloseServer();
         RunScript(bot_, EventDisconnected);
     } else {

@@ -91,14 +91,32 @@ void ConsoleFrame::FillMenu(QMenu& menu) {
 
 void ConsoleFrame::Append(const QString& line) {
     lstView_->Lines().Append(line);
-    log_.Append(line);
+    if (!log_.Append(line.toStdString())) lstView_->Lines().Append(tr("The log can't be written any more."));
 }
 
 void ConsoleFrame::Clear() { lstView_->Lines().Clear(); }
 
 void ConsoleFrame::ResumeLog() {
-    const QString log = options_.LogFile();
-    if (!log.isEmpty() && !log_.Open(log)) Append(tr("The log %1 can't be written.").arg(log));
+    if (const QString log = options_.LogFile(); !log.isEmpty()) OpenLog(log);
+}
+
+/// Opens the log, or says on the console why it can't.
+bool ConsoleFrame::OpenLog(const QString& path) {
+    switch (log_.Open(TypedPath(path))) {
+        case ConsoleLog::Refusal::None:
+            return true;
+        case ConsoleLog::Refusal::CantBeWritten:
+            Append(tr("The log %1 can't be written.").arg(path));
+            return false;
+        case ConsoleLog::Refusal::NoOrdinaryFile:
+            Append(tr("The log %1 can't be written: it is not an ordinary file.").arg(path));
+            return false;
+        case ConsoleLog::Refusal::HoldsOther:
+            Append(tr("The log %1 can't be written: the file holds something that is no log. Choose a new one.")
+                       .arg(path));
+            return false;
+    }
+    return false;
 }
 
 void ConsoleFrame::Find(bool ask) {
@@ -125,12 +143,11 @@ void ConsoleFrame::ChooseLog(bool on) {
     options_.Set("console/log", QString());
     if (!on) return;
     const auto path = dialogs_.AskSaveFile(this, tr("Log the console to"), tr("Text (*.txt) | *.txt"), {});
-    if (path && log_.Open(*path)) {
+    if (path && OpenLog(*path)) {
         options_.Set("console/log", *path);
-        return;
+    } else {
+        mnuLog_->setChecked(false);
     }
-    if (path) Append(tr("The log %1 can't be written.").arg(*path));
-    mnuLog_->setChecked(false);
 }
 
 void ConsoleFrame::ChooseScrollBack() {

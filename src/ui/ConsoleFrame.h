@@ -2,7 +2,7 @@
 
 #include <QGroupBox>
 
-#include "ui/ConsoleLog.h"
+#include "platform/ConsoleLog.h"
 
 class ConsoleView;
 class Dialogs;
@@ -50,5 +50,6 @@ class ConsoleFrame final : public QGroupBox {
     void Find(bool ask);
     void Save();
     void ChooseLog(bool on);
+    bool OpenLog(const QString& path);
     void ChooseScrollBack();
 };

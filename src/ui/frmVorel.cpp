@@ -340,6 +340,7 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
                                              : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
     }
     text = QString::fromStdString(WithoutPasswords(bot(), text.toStdString()));
+    Announce(text.simplified());  // for the log
     // Before the first time, what an earlier run has left is still to be offered.
     const QString unkept = keepUnsaved_.isActive() ? KeepUnsavedWork() : QString();
     if (!unkept.isEmpty()) {

@@ -24,7 +24,8 @@ TEST(ExitStatus, TellsWhatWentWrongInOneLine) {
             << called[0] << ": " << vorel.err.toStdString();
         EXPECT_EQ(vorel.err.count('\n'), lines.size() - 2) << vorel.err.toStdString();
     }
-    EXPECT_EQ(files.Read("kept.txt"), "an evening\n") << "no recording is given up for a run that can't begin";
+    EXPECT_EQ(files.Read("kept.txt"), "an evening\n") << "no recording, and nothing else, is given up for a run";
+    EXPECT_FALSE(QFile::exists(files.Path("new.txt")) || QFile::exists(files.Path("kept-2.txt"))) << "that can't begin";
 }
 
 }  // namespace

@@ -18,11 +18,22 @@ class RunTest : public testing::Test {
         EXPECT_TRUE(server.Hears("desc ", number));
         return vorel;
     }
-    void ExpectNoPassword(const Vorel& vorel) const {
-        for (const QByteArray& text : {vorel.out, vorel.err, files.Read("log.txt"), files.Read("rec.txt")}) {
+    void ExpectNoPassword(const Vorel& vorel, const QString& recording) const {
+        for (const QByteArray& text : {vorel.out, vorel.err, files.Read("log.txt"), files.Read(recording)}) {
             EXPECT_FALSE(text.contains("3t-w0rd")) << text.toStdString();
         }
-        EXPECT_TRUE(files.Read("rec.txt").contains("connect bot ********"));
+        EXPECT_TRUE(files.Read(recording).contains("connect bot ********"));
+    }
+    QFile::Permissions OthersMay(const QString& name) const {
+        return QFile::permissions(files.Path(name)) &
+               ~(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+    }
+    /// What `vorel try` makes of a recording: its exit status, unless an expectation has failed.
+    int Rehearse(const QString& recording) const {
+        Vorel rehearsal(files, {"try", "bot.tvm", recording});
+        const int status = rehearsal.Ends();
+        EXPECT_FALSE(rehearsal.out.contains("failed")) << rehearsal.out.toStdString();
+        return status;
     }
 
     BotFiles files;
@@ -32,15 +43,19 @@ class RunTest : public testing::Test {
 
 constexpr char kGone[] = "(0:2) when disconnected,\r\n (5:2) note {gone}.\r\n";
 
-TEST_F(RunTest, SignalsDisconnectInOrder) {
+TEST_F(RunTest, SignalsDisconnectInOrderAndAreRecorded) {
     files.WriteBot("bot", kGone);
     for (const int signal : {SIGTERM, SIGINT}) {
-        const auto vorel = Run({"bot.tvm"});
+        const auto vorel = Run({"bot.tvm", "--record", "rec.txt"});
         server.Say("(hello there\n", number);
         ASSERT_TRUE(vorel->Shows("hello there\n"));
         vorel->Signal(signal);
         EXPECT_EQ(vorel->Ends(), 0);
         EXPECT_EQ(vorel->out, "hello there\ngone\n");
+    }
+    for (const char* recording : {"rec.txt", "rec-2.txt"}) {
+        EXPECT_TRUE(files.Read(recording).endsWith("server (hello there\r\nclose\r\n"));
+        EXPECT_EQ(Rehearse(recording), 0);
     }
 }
 
@@ -71,19 +86,29 @@ TEST_F(RunTest, TheScriptMayConnectAgainAndTheLastAttemptCounts) {
 }
 
 TEST_F(RunTest, LogsWithTimesAndWithoutThePassword) {
-    files.WriteBot("bot");
-    for (const QByteArray line : {"caf\xE9 \x1B[2J", "second time"}) {
+    const QByteArray password = kPassword,
+                     trigger = "(0:46) told,\r\n (5:15) of {" + password + "}\r\n (5:2) {no " + password + "}";
+    files.WriteBot("bot", trigger);
+    for (const char* recording : {"rec.txt", "rec-2.txt"}) {
         const auto vorel = Run({"bot.tvm", "--quiet", "--log", "log.txt", "--record", "rec.txt"});
-        vorel->write(QByteArray("`connect bot ") + kPassword + "\nconnect bot " + kPassword + "\n");
-        ASSERT_TRUE(server.Hears("\"connect bot", number));
-        server.Say("(" + line + "\n]f\n", number);
+        for (const char* typed : {"`connect bot ", "connect bot ", "\"connect bot ", ":connect bot ", "/Ann it is "}) {
+            vorel->write(typed + password + "\n");
+        }
+        vorel->write("\"&now\n");
+        ASSERT_TRUE(server.Hears("desc " + password, number));
+        server.Say("(caf\xE9 \x1B[2J " + password + "\n]f\n", number);
         EXPECT_EQ(vorel->Ends(), 70);
         EXPECT_EQ(vorel->out, "");
-        ExpectNoPassword(*vorel);
+        EXPECT_EQ(vorel->err.contains("rec.txt holds something; recording to rec-2.txt\n"),
+                  recording != QString("rec.txt"));
+        ExpectNoPassword(*vorel, recording);
+        EXPECT_EQ(OthersMay(recording) | OthersMay("log.txt"), QFile::Permissions());
+        EXPECT_TRUE(files.Read(recording).contains("]f\r\n# Invalid procedure call")) << "the fault";
+        EXPECT_EQ(Rehearse(recording), 3);
     }
     const QString log = QString::fromUtf8(files.Read("log.txt")), time = "\\d{4}(-\\d\\d){2} \\d\\d(:\\d\\d){2} ";
-    EXPECT_TRUE(QRegularExpression("^" + time + "café  \\[2J\n" + time + "second time\n$").match(log).hasMatch())
-        << log.toStdString();
+    const QString run = time + "no \\*{8}\n" + time + "café  \\[2J \\*{8}\n" + time + "Invalid procedure call.*\n";
+    EXPECT_TRUE(QRegularExpression("^(" + run + "){2}$").match(log).hasMatch()) << log.toStdString();
 }
 
 TEST_F(RunTest, ClientModeRelaysAndKeepsThePasswordToo) {
@@ -105,10 +130,8 @@ while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; d
     EXPECT_EQ(vorel->Ends(), 0);
     // Without a display a line before these says that the client's window can't be found.
     EXPECT_TRUE(vorel->out.endsWith("any news?\ngone\n")) << vorel->out.toStdString();
-    ExpectNoPassword(*vorel);
-    Vorel rehearsal(files, {"try", "bot.tvm", "rec.txt"});
-    EXPECT_EQ(rehearsal.Ends(), 0) << "lines of one packet, some passed on, some answered: "
-                                   << rehearsal.out.toStdString();
+    ExpectNoPassword(*vorel, "rec.txt");
+    EXPECT_EQ(Rehearse("rec.txt"), 0) << "lines of one packet, some passed on, some answered";
 }
 
 TEST_F(RunTest, SeveralBotsShareTheTerminal) {

@@ -77,6 +77,13 @@ TEST_F(Console, IsReadFoundCopiedSavedAndLogged) {
     EXPECT_TRUE(The<QAction>("mnuTimestamps").isChecked());
     for (const char* const line : {"1", "2", "3"}) window->ShowConsoleLine(line);
     EXPECT_EQ(ConsoleText().count('\n'), 2) << "as many as were chosen";
+
+    Choose("mnuLog");
+    const QByteArray script = Read("bot.vs");
+    Choose("mnuLog", {Path("bot.vs")});
+    EXPECT_TRUE(ConsoleText().contains("bot.vs can't be written: the file holds something that is no log"));
+    window->ShowConsoleLine("four");
+    EXPECT_EQ(Read("bot.vs"), script);
 }
 
 class Variables : public Desk {};
