@@ -76,6 +76,7 @@ Remarks must not begin with a parenthesis.
 
 (0:6) When somebody whispers
  (1:4) something like {remember *},
+ (1:7) and nothing with {}} in it, which would end the line too early,
      (5:76) write the line {[startingword2]} into the section {[player]} of the file {memories}.
      (5:12) whisper back {I will remember [startingword2].}
 
