@@ -49,6 +49,7 @@ class ArchiveFile {
             work();
         } catch (const RuntimeFault& fault) {
             why_ = ShownPath(fault.Detail());
+            file_.reset();
         }
     }
 };

@@ -6,23 +6,20 @@
 //   tvorel_faults full FOLDER [KIND]   the same saves on a disk that is full, or nearly; skipped where none can be
 //                                      mounted
 
-#include <fcntl.h>
-#include <sched.h>
 #include <sys/mount.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iomanip>
 #include <iostream>
-#include <mutex>
 #include <thread>
 
 #include "Bench.h"
 #include "Cases.h"
+#include "FullDisk.h"
+#include "Truth.h"
 
 namespace fs = std::filesystem;
 
@@ -40,11 +37,6 @@ struct Count {
     int cases = 0, killed = 0, told = 0, violations = 0;
 };
 
-/// What the file holds before and after a save.
-struct Contents {
-    std::string laid, before, after;
-};
-
 std::vector<Errand> Errands(const std::string& filter) {
     std::vector<Errand> errands;
     for (const Kind& kind : kKinds) {
@@ -53,52 +45,6 @@ std::vector<Errand> Errands(const std::string& filter) {
         errands.push_back({kind, false});
     }
     return errands;
-}
-
-Contents Learn(const Bench& bench) {
-    Contents contents;
-    bench.Lay();
-    contents.laid = bench.Content();
-    bench.Save("0:before");  // a program may tidy up before it comes to saving
-    contents.before = bench.Content();
-    bench.Lay();
-    const bool saved = bench.IsSuccess(bench.Save());
-    contents.after = bench.Content();
-    if (!saved || contents.after == contents.before || contents.after == contents.laid) contents.after.clear();
-    return contents;
-}
-
-/// What is wrong with what a process has told; empty when it is the truth.
-std::string UntruthOf(const Bench& bench, const Outcome& outcome, const Fault& fault, bool isNew) {
-    const auto tells = [&](const std::string& what) { return outcome.told.find(what) != std::string::npos; };
-    const std::string name = bench.File().filename();
-    if (outcome.status == -1) return "it has crashed, or hung";
-    if (bench.IsSuccess(outcome)) {
-        if (!isNew) return "it says that all went well, and nothing was written";
-        return fault.mustBeTold ? "nothing was told" : "";
-    }
-    if ((!isNew || fault.mustBeTold) && !tells(name)) return "what was told names no " + name;
-    if (fault.error != 0 && !tells(std::strerror(fault.error))) return "what was told gives no reason";
-    return "";
-}
-
-/// What is wrong after a save; empty when nothing is.
-std::string WrongAfter(const Bench& bench, const Contents& contents, const Outcome& outcome, const Fault& fault) {
-    const std::string content = bench.Content();
-    const bool isNew = content == contents.after;
-    if (!isNew && content != contents.before && content != contents.laid)
-        return "it is neither the old nor the new: " + content;
-    if (!outcome.killed) {
-        const std::string untruth = UntruthOf(bench, outcome, fault, isNew);
-        if (!untruth.empty()) return untruth;
-    }
-    const auto left = bench.Leftovers();
-    if (left.empty()) return "";
-    // It could be taken away only if nothing has failed besides.
-    const bool onlyOne = fault.plan.find(' ') == std::string::npos;
-    if (!outcome.killed && onlyOne) return left.front() + " is left";
-    bench.StartAgain();
-    return bench.Leftovers().empty() ? "" : left.front() + " is left after the next start";
 }
 
 void Judge(Count& count, const Errand& errand, const Bench& bench, const Contents& contents, const Fault& fault) {
@@ -162,27 +108,6 @@ int RunAll(const fs::path& folder, const std::vector<Errand>& errands) {
 
 constexpr std::uintmax_t kPage = 4096;
 constexpr int kMostPages = 8;  // more than any of the files needs
-
-/// A small disk in memory that only this process and what it starts can see; gone with them.
-bool MountSmallDisk(const fs::path& place) {
-    const uid_t user = geteuid();
-    if (unshare(CLONE_NEWNS) != 0) {
-        if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
-        std::ofstream("/proc/self/uid_map") << "0 " << user << " 1";
-    }
-    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) return false;
-    return mount("tvorel_faults", place.c_str(), "tmpfs", 0, "size=1m") == 0;
-}
-
-/// Leaves so much room on the disk.
-void FillUp(const fs::path& ballast, std::uintmax_t room) {
-    const std::string page(kPage, 'b');
-    const int file = open(ballast.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-    std::uintmax_t size = 0;
-    while (write(file, page.data(), page.size()) == static_cast<ssize_t>(page.size())) size += page.size();
-    close(file);
-    fs::resize_file(ballast, size > room ? size - room : 0);
-}
 
 Count RunFull(const Errand& errand, const fs::path& disk, const std::string& notes) {
     const fs::path ballast = disk / "ballast";

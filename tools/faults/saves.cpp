@@ -139,6 +139,7 @@ void FetchArchive(Desk& desk) {
                           archive);
         });
     });
+    const Armed armed;  // until the archive is let go of
     UpdateCheck check(QUrl(QString("http://127.0.0.1:%1").arg(server.serverPort())));
     QEventLoop done;
     bool isDone = false;
@@ -147,7 +148,6 @@ void FetchArchive(Desk& desk) {
         isDone = true;
         done.quit();
     });
-    const Armed armed;
     check.FetchArchive(desk.user.file);
     if (!isDone) done.exec();
 }
