@@ -8,12 +8,25 @@
 #include <fstream>
 #include <string>
 
+namespace {
+
+void Put(const char* file, const std::string& text) { std::ofstream(file) << text; }
+
+/// Mounts of its own: by right, or by being root in a world of its own.
+bool LeaveForOwnMounts() {
+    const std::string user = std::to_string(geteuid()), group = std::to_string(getegid());
+    if (unshare(CLONE_NEWNS) == 0) return true;
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+    Put("/proc/self/uid_map", "0 " + user + " 1");
+    Put("/proc/self/setgroups", "deny");  // or the next is not allowed
+    Put("/proc/self/gid_map", "0 " + group + " 1");
+    return true;
+}
+
+}  // namespace
+
 bool MountSmallDisk(const std::filesystem::path& place) {
-    const uid_t user = geteuid();
-    if (unshare(CLONE_NEWNS) != 0) {
-        if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
-        std::ofstream("/proc/self/uid_map") << "0 " << user << " 1";
-    }
+    if (!LeaveForOwnMounts()) return false;
     if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) return false;
     return mount("tvorel_faults", place.c_str(), "tmpfs", 0, "size=1m") == 0;
 }
