@@ -79,7 +79,7 @@ TEST_F(Writing, IsDoneWholeOrNotAtAll) {
 TEST_F(Writing, KeepsModesAndLinks) {
     disk.Write(path, "new");
     EXPECT_EQ(ModeOf("pets.ini"), 0600) << "for its owner alone";
-    for (const mode_t mode : {0644U, 0660U, 0200U}) {
+    for (const mode_t mode : {0200U, 0660U, 0644U}) {
         chmod(path.c_str(), mode);
         disk.Write(path, "more");
         EXPECT_EQ(ModeOf("pets.ini"), mode);
