@@ -5,7 +5,7 @@
 #include "cli/Report.h"
 
 std::string ConsoleOutput::LogTo(const std::string& path) {
-    const std::string refused = "the log " + path + " can't be written";
+    std::string refused = "the log " + path + " can't be written";
     switch (log_.Open(path)) {
         case ConsoleLog::Refusal::None:
             return "";

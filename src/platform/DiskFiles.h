@@ -12,13 +12,13 @@ class DiskFiles final : public Files {
     std::optional<std::string> Find(const std::string& path) const override;
     std::string Absolute(const std::string& path) const override;
     std::string DataPath(const std::string& folder, const std::string& name) const override {
-        return PosixDataFolder::PathOf(folder, name);
+        return dataFolder::PathOf(folder, name);
     }
-    std::optional<std::string> ReadData(const std::string& path) const override { return PosixDataFolder::Read(path); }
+    std::optional<std::string> ReadData(const std::string& path) const override { return dataFolder::Read(path); }
     bool LeadToSameFile(const std::string& a, const std::string& b) const override {
-        return PosixDataFolder::LeadToSameFile(a, b);
+        return dataFolder::LeadToSameFile(a, b);
     }
     std::unique_ptr<Lock> LockFolder(const std::string& folder) override {
-        return PosixDataFolder::LockFolder(folder, PosixDataFolder::kPatience);
+        return dataFolder::LockFolder(folder, dataFolder::kPatience);
     }
 };

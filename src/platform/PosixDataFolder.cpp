@@ -88,11 +88,11 @@ std::string ReadAll(const Descriptor& file, const std::string& path, std::size_t
 
 }  // namespace
 
-std::string PosixDataFolder::PathOf(const std::string& folder, const std::string& name) {
+std::string dataFolder::PathOf(const std::string& folder, const std::string& name) {
     std::string safe = name;
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
     std::replace_if(safe.begin(), safe.end(), isControl, '_');
-    const std::string path = JoinPath(folder, safe);
+    std::string path = JoinPath(folder, safe);
     if (Exists(path)) return path;
     const QDir there(folder.empty() ? "." : QString::fromStdString(folder));
     const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System;
@@ -103,7 +103,7 @@ std::string PosixDataFolder::PathOf(const std::string& folder, const std::string
     return path;
 }
 
-std::optional<std::string> PosixDataFolder::Read(const std::string& path) {
+std::optional<std::string> dataFolder::Read(const std::string& path) {
     const std::optional<std::string> real = Canonical(path);
     if (!real && !Exists(path)) return std::nullopt;
     if (!real) CantBeOpened(path, "it is a link that leads nowhere");
@@ -119,17 +119,16 @@ std::optional<std::string> PosixDataFolder::Read(const std::string& path) {
     return ReadAll(file, path, static_cast<std::size_t>(what.st_size));
 }
 
-bool PosixDataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
-    struct stat first {
-    }, second{};
+bool dataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
+    struct stat first = {};
+    struct stat second = {};
     const bool firstIsThere = ::stat(a.c_str(), &first) == 0, secondIsThere = ::stat(b.c_str(), &second) == 0;
     if (firstIsThere && secondIsThere) return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
     const std::optional<std::string> folder = CanonicalFolderOf(a);
     return folder && folder == CanonicalFolderOf(b) && SameName(FileNameOf(a), FileNameOf(b));
 }
 
-std::unique_ptr<Files::Lock> PosixDataFolder::LockFolder(const std::string& folder,
-                                                         std::chrono::milliseconds patience) {
+std::unique_ptr<Files::Lock> dataFolder::LockFolder(const std::string& folder, std::chrono::milliseconds patience) {
     const std::string path = folder.empty() ? "." : folder;
     auto lock = std::make_unique<Descriptor>(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     const Clock::time_point end = Clock::now() + patience;

@@ -8,7 +8,7 @@
 #include "engine/Files.h"
 
 /// The folder of the scripts' data files on POSIX systems. What each operation takes and returns stands in Files.
-namespace PosixDataFolder {
+namespace dataFolder {
 
 /// How long a program waits for another one's lock. One is held for a few milliseconds, so that this is for ever.
 inline constexpr std::chrono::milliseconds kPatience{5000};
@@ -21,4 +21,4 @@ bool LeadToSameFile(const std::string& a, const std::string& b);
 /// system that knows no such lock, and in a folder that is not there, nothing is locked.
 std::unique_ptr<Files::Lock> LockFolder(const std::string& folder, std::chrono::milliseconds patience);
 
-}  // namespace PosixDataFolder
+}  // namespace dataFolder

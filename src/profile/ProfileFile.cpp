@@ -76,8 +76,8 @@ void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& l
 }
 
 /// The lines of a profile's file. Which character files they name is known before a script among them is loaded.
-std::vector<std::string> ReadProfileLines(Bot& bot, const std::string& path) {
-    std::vector<std::string> lines = FileLines(bot.host.Disk().Read(path));
+std::vector<std::string> ProfileLines(Bot& bot, std::string_view bytes) {
+    std::vector<std::string> lines = FileLines(bytes);
     bot.characterPaths.clear();
     for (const std::string& line : lines) {
         if (const Entry entry = ReadEntry(line); entry.key == "furcadiacharacter=")
@@ -104,7 +104,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     ProfileLoad load{true};
     std::string section;
     PlaceMark place(bot, *found);
-    for (const std::string& line : ReadProfileLines(bot, *found)) {
+    for (const std::string& line : ProfileLines(bot, bot.host.Disk().Read(*found))) {
         place.NextLine();
         if (IsSectionLine(line)) {
             section = SectionName(line);
@@ -125,7 +125,7 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
 
     ProfileLoad load{true};
     PlaceMark place(bot, *found);
-    for (const std::string& line : ReadProfileLines(bot, *found)) {
+    for (const std::string& line : ProfileLines(bot, bot.host.Disk().Read(*found))) {
         place.NextLine();
         const Entry entry = ReadEntry(line);
         TakeEntry(bot, entry, LowerCase(entry.value) != "end", load);

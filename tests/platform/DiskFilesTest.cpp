@@ -228,7 +228,7 @@ TEST(DataFolder, OpensOrdinaryFilesOfItsOwnAndNamesTheRest) {
 TEST(DataFolder, IsLockedForOneAtATime) {
     const BotFiles files;
     const std::string folder = files.Path().toStdString();
-    const auto lock = [&] { return PosixDataFolder::LockFolder(folder, std::chrono::milliseconds(0)); };
+    const auto lock = [&] { return dataFolder::LockFolder(folder, std::chrono::milliseconds(0)); };
     auto first = lock();
     EXPECT_THAT(lock, Fails(FaultKind::PathOrFileAccess, folder + ": another program keeps its data files locked"));
     first.reset();
