@@ -1,13 +1,22 @@
 #include "engine/Lists.h"
 
 #include "engine/Compare.h"
+#include "text/Limits.h"
 #include "text/Text.h"
 
 namespace {
 constexpr std::string_view kSeparator = ", ";
 }
 
+std::string JoinedList(const std::vector<std::string>& entries) {
+    std::size_t length = 0;
+    for (const std::string& entry : entries) length += entry.size() + kSeparator.size();
+    CheckTextLength(length);
+    return Join(entries, kSeparator);
+}
+
 std::string WithEntry(std::string_view list, std::string_view entry) {
+    CheckTextLength(list.size() + kSeparator.size() + entry.size());
     std::string longer(list);
     if (!longer.empty()) longer += kSeparator;
     return longer.append(entry);

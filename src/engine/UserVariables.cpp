@@ -1,54 +1,78 @@
 #include "engine/UserVariables.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace {
-auto HasName(std::string_view name) {
-    return [name](const UserVariable& row) { return row.name == name; };
-}
+
+unsigned char First(std::string_view name) { return static_cast<unsigned char>(name.front()); }
+unsigned char Last(std::string_view name) { return static_cast<unsigned char>(name.back()); }
+std::size_t Unbracketed(std::string_view name) { return name.find('[') == name.npos ? 1 : 0; }
+
 }  // namespace
 
 const std::string* UserVariables::Find(std::string_view name) const {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), HasName(name));
-    return row == rows_.end() ? nullptr : &row->value;
+    const auto rank = ranks_.find(name);
+    return rank == ranks_.end() ? nullptr : &rows_.at(rank->second).value;
 }
 
 void UserVariables::Set(std::string_view name, std::string_view value) {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), HasName(name));
-    if (row != rows_.end()) {
-        row->value = value;
+    ++revision_;
+    if (const auto rank = ranks_.find(name); rank != ranks_.end()) {
+        rows_.at(rank->second).value = value;
     } else {
-        rows_.push_back({std::string(name), std::string(value)});
+        rows_.emplace(next_, UserVariable{std::string(name), std::string(value)});
+        AddName(name, next_++);
     }
-    NoteChange();
 }
 
 void UserVariables::Rename(std::string_view name, std::string_view newName) {
-    if (name == newName || !Find(name)) return;
-    std::erase_if(rows_, HasName(newName));
-    std::find_if(rows_.begin(), rows_.end(), HasName(name))->name = newName;
-    NoteChange();
+    const auto found = ranks_.find(name);
+    if (name == newName || found == ranks_.end()) return;
+    const Rank rank = found->second;
+    Remove(newName);
+    RemoveName(name);
+    rows_.at(rank).name = newName;
+    AddName(newName, rank);
 }
 
 void UserVariables::SetAll(std::string_view value) {
-    for (UserVariable& row : rows_) row.value = value;
-    NoteChange();
+    for (auto& [rank, row] : rows_) row.value = value;
+    ++revision_;
 }
 
 void UserVariables::Remove(std::string_view name) {
-    std::erase_if(rows_, HasName(name));
-    NoteChange();
+    ++revision_;
+    const auto found = ranks_.find(name);
+    if (found == ranks_.end()) return;
+    rows_.erase(found->second);
+    RemoveName(name);
 }
 
 void UserVariables::Clear() {
-    rows_.clear();
-    NoteChange();
+    const std::size_t revision = revision_, next = next_;
+    *this = UserVariables();
+    revision_ = revision + 1;
+    next_ = next;
 }
 
-void UserVariables::NoteChange() {
-    ++revision_;
-    allBracketed_ = std::all_of(rows_.begin(), rows_.end(),
-                                [](const UserVariable& row) { return row.name.find('[') != std::string::npos; });
+void UserVariables::AddName(std::string_view name, Rank rank) {
+    ranks_.emplace(name, rank);
+    unbracketed_ += Unbracketed(name);
+    if (name.empty()) return;  // stands nowhere
+    ++lengthsOfNames_[name.size()];
+    ++startsOfNames_[First(name)];
+    ++endsOfNames_[Last(name)];
+}
+
+void UserVariables::RemoveName(std::string_view name) {
+    unbracketed_ -= Unbracketed(name);
+    if (!name.empty()) {
+        const auto length = lengthsOfNames_.find(name.size());
+        if (--length->second == 0) lengthsOfNames_.erase(length);
+        --startsOfNames_[First(name)];
+        --endsOfNames_[Last(name)];
+    }
+    ranks_.erase(ranks_.find(name));
 }
 
 std::string BracketedName(std::string_view name) {

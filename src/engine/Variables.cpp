@@ -1,32 +1,115 @@
 #include "engine/Variables.h"
 
+#include <algorithm>
+#include <charconv>
+#include <functional>
+#include <set>
+#include <utility>
+#include <vector>
+
 #include "engine/Bot.h"
 #include "engine/Events.h"
 #include "engine/Host.h"
+#include "text/Limits.h"
 #include "text/Text.h"
 
 namespace {
 
-/// The text on its way through the replacements. A value is worked out only where its variable stands.
+/// The text on its way through the replacements. A value is worked out only where its variable stands, and the memory
+/// for it is taken only when the text stays within its bounds.
 class Expansion {
   public:
     Expansion(const Bot& bot, std::string_view text) : bot_(bot), text_(text) {}
 
+    /// Replaces a name wherever it stands, by what value() gives.
+    /// @return how many bytes were put in each time, and at which indices of the new text
     template <typename Value>
-    void Replace(std::string_view name, Value value) {
-        if (text_.find(name) != std::string::npos) text_ = ReplaceAll(text_, name, value());
+    std::pair<std::size_t, std::vector<std::size_t>> Replace(std::string_view name, Value value) {
+        std::vector<std::size_t> places = PlacesOf(name);
+        if (places.empty()) return {};
+        const std::string put(value());
+        CheckTextLength(text_.size() - places.size() * name.size() + places.size() * put.size());
+        std::string replaced;
+        std::size_t from = 0;
+        for (std::size_t& place : places) {
+            replaced.append(text_, from, place - from);
+            from = place + name.size();
+            place = replaced.size();
+            replaced.append(put);
+        }
+        text_ = replaced.append(text_, from);
+        return {put.size(), std::move(places)};
     }
     void ReplaceText(std::string_view name, std::string_view value) {
         Replace(name, [&] { return value; });
     }
     bool Holds(std::string_view part) const { return text_.find(part) != std::string::npos; }
     const Bot& bot() const { return bot_; }
+    std::string_view Text() const { return text_; }
     std::string Take() { return std::move(text_); }
 
   private:
     const Bot& bot_;
     std::string text_;
+
+    std::vector<std::size_t> PlacesOf(std::string_view name) const {
+        std::vector<std::size_t> places;
+        for (std::size_t at = text_.find(name); at != std::string::npos; at = text_.find(name, at + name.size())) {
+            places.push_back(at);
+        }
+        return places;
+    }
 };
+
+/// Replaces the names of a long list in turn, each with a replacement of its own whose result the next one sees. Rows
+/// are not tried one by one: only those have a turn whose name stands in the text, or may have come about where another
+/// one's value was put in.
+/// @tparam Names  NamesAt(text, at, found) and LongestName() as UserVariables has them, NameOf(rank), ValueOf(rank)
+template <typename Names>
+class TurnsOf {
+  public:
+    TurnsOf(Expansion& text, const Names& names) : text_(text), names_(names) {}
+
+    void Take() {
+        LookBetween(0, text_.Text().size());
+        while (!waiting_.empty()) {
+            const std::size_t rank = *waiting_.begin();
+            waiting_.erase(waiting_.begin());
+            next_ = rank + 1;
+            const auto [length, places] = text_.Replace(names_.NameOf(rank), [&] { return names_.ValueOf(rank); });
+            LookAround(length, places);
+        }
+    }
+
+  private:
+    Expansion& text_;
+    const Names& names_;
+    std::set<std::size_t> waiting_;  ///< the ranks that may have a turn
+    std::size_t next_ = 0;           ///< lower ranks have had theirs
+
+    void LookBetween(std::size_t from, std::size_t to) {
+        for (std::size_t at = from; at < to; ++at) {
+            names_.NamesAt(text_.Text(), at, [this](std::size_t rank) {
+                if (rank >= next_) waiting_.insert(rank);
+            });
+        }
+    }
+
+    /// A name that was not there before holds something of what was put in, or reaches over where it was put.
+    void LookAround(std::size_t length, const std::vector<std::size_t>& places) {
+        std::size_t seen = 0;
+        for (const std::size_t place : places) {
+            const std::size_t reach = std::min(place, names_.LongestName());
+            LookBetween(std::max(seen, place - reach), place + length);
+            seen = place + length;
+        }
+    }
+};
+
+template <typename Names>
+void ReplaceInTurn(Expansion& text, const Names& names) {
+    TurnsOf<Names>(text, names).Take();
+}
 
 std::string Pair(const Square& square) { return "(" + std::to_string(square.x) + "," + std::to_string(square.y) + ")"; }
 
@@ -146,9 +229,64 @@ constexpr Variable kDiceVariables[] = {
 #undef NUMBER
 #undef PAIR
 
-void ReplaceUserVariables(Expansion& text) {
-    for (const UserVariable& variable : text.bot().variables.Rows()) text.ReplaceText(variable.name, variable.value);
-}
+/// The user variables, which go in the order of their list.
+class UserNames {
+  public:
+    explicit UserNames(const UserVariables& variables) : variables_(variables) {}
+
+    template <typename Found>
+    void NamesAt(std::string_view text, std::size_t at, Found found) const {
+        variables_.NamesAt(text, at, found);
+    }
+    std::size_t LongestName() const { return variables_.LongestName(); }
+    std::string_view NameOf(std::size_t rank) const { return variables_.Rows().at(rank).name; }
+    std::string_view ValueOf(std::size_t rank) const { return variables_.Rows().at(rank).value; }
+
+  private:
+    const UserVariables& variables_;
+};
+
+/// Variables with a number from 1 on behind their stem, such as "[die3]". All of one number go before the next, in the
+/// order of their stems.
+class NumberedNames {
+  public:
+    using Value = std::function<std::string(std::size_t stem, std::size_t number)>;
+
+    NumberedNames(std::vector<std::string_view> stems, std::size_t count, Value value)
+        : stems_(std::move(stems)), count_(count), value_(std::move(value)) {}
+
+    template <typename Found>
+    void NamesAt(std::string_view text, std::size_t at, Found found) const {
+        if (text[at] != '[') return;
+        for (std::size_t stem = 0; stem < stems_.size(); ++stem) {
+            if (!text.substr(at).starts_with(stems_[stem])) continue;
+            if (const std::size_t number = NumberAt(text, at + stems_[stem].size())) found(RankOf(stem, number));
+        }
+    }
+    std::size_t LongestName() const {
+        return NameOf(RankOf(stems_.size() - 1, std::max<std::size_t>(count_, 1))).size();
+    }
+    std::string NameOf(std::size_t rank) const {
+        return std::string(stems_[rank % stems_.size()]) + std::to_string(rank / stems_.size() + 1) + "]";
+    }
+    std::string ValueOf(std::size_t rank) const { return value_(rank % stems_.size(), rank / stems_.size() + 1); }
+
+  private:
+    std::vector<std::string_view> stems_;  ///< the longest one last
+    std::size_t count_;
+    Value value_;
+
+    std::size_t RankOf(std::size_t stem, std::size_t number) const { return (number - 1) * stems_.size() + stem; }
+
+    /// The number that stands there up to its "]", written as numbers are; 0 when there is none, or no such variable.
+    std::size_t NumberAt(std::string_view text, std::size_t at) const {
+        std::size_t number = 0;
+        const char* const end = text.data() + text.size();
+        const auto read = std::from_chars(text.data() + at, end, number);
+        const bool whole = read.ec == std::errc() && read.ptr != end && *read.ptr == ']';
+        return whole && text[at] != '0' && number <= count_ ? number : 0;
+    }
+};
 
 void ReplacePlayerName(Expansion& text, std::string_view name) {
     text.ReplaceText("[player]", name);
@@ -229,20 +367,18 @@ std::string WordsFrom(const std::vector<std::string>& words, std::size_t first) 
 void ReplaceWords(Expansion& text) {
     if (text.bot().state.message.empty() || !(text.Holds("[word") || text.Holds("[startingword"))) return;
     const std::vector<std::string> words = Split(text.bot().state.message, " ");
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::string number = std::to_string(i + 1);
-        text.ReplaceText("[word" + number + "]", words[i]);
-        text.Replace("[startingword" + number + "]", [&] { return WordsFrom(words, i); });
-    }
+    ReplaceInTurn(text, NumberedNames({"[word", "[startingword"}, words.size(), [&](std::size_t stem, std::size_t n) {
+                      return stem == 0 ? words[n - 1] : WordsFrom(words, n - 1);
+                  }));
 }
 
 void ReplaceDice(Expansion& text) {
     const Dice& dice = text.bot().state.dice;
     if (dice.amount > 0 && text.Holds("[die")) {
         const std::size_t kept = std::min(dice.values.size(), static_cast<std::size_t>(dice.amount));
-        for (std::size_t i = 0; i < kept; ++i) {
-            text.ReplaceText("[die" + std::to_string(i + 1) + "]", std::to_string(dice.values[i]));
-        }
+        ReplaceInTurn(text, NumberedNames({"[die"}, kept, [&](std::size_t, std::size_t n) {
+                          return std::to_string(dice.values[n - 1]);
+                      }));
     }
     ReplaceEach(text, kDiceVariables);
 }
@@ -250,9 +386,10 @@ void ReplaceDice(Expansion& text) {
 }  // namespace
 
 std::string ExpandVariables(const Bot& bot, std::string_view text) {
+    CheckTextLength(text.size());
     if (text.find('[') == text.npos && bot.variables.AllBracketed()) return std::string(text);
     Expansion expansion(bot, text);
-    ReplaceUserVariables(expansion);
+    ReplaceInTurn(expansion, UserNames(bot.variables));
     ReplaceEventPlayer(expansion);
     ReplaceWords(expansion);
     ReplaceEach(expansion, kBotVariables);

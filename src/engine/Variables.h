@@ -9,4 +9,5 @@ struct Bot;
 /// event, the words of the message, and the rest of the bot's state, each a plain replacement whose result the next
 /// one sees. Variables are told apart by case; an unknown one stays as written.
 /// @param text  any text, not only a script line
+/// @throws RuntimeFault OutOfMemory, before a text longer than kLongestText comes about
 std::string ExpandVariables(const Bot& bot, std::string_view text);

@@ -17,6 +17,7 @@
 #include "engine/Variables.h"
 #include "movement/modMovement.h"
 #include "net/modSend.h"
+#include "text/Limits.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
@@ -128,6 +129,7 @@ void ChangeList(Bot& bot, const Arguments& arguments, std::string_view) {
 // --- variables ---------------------------------------------------------------------------------------------------
 
 void StoreVariable(Bot& bot, std::string_view name, std::string_view value) {
+    CheckTextLength(value.size());  // a data file's line may be any length
     bot.variables.Set(BracketedName(name), value);
 }
 
@@ -201,7 +203,7 @@ void AddListLine(Bot& bot, const Arguments& arguments, std::string_view) {
 
 void ReadList(Bot& bot, const Arguments& arguments, std::string_view) {
     const std::optional<DataFile> file = OpenDataFile(bot, arguments[1]);
-    if (file) StoreVariable(bot, arguments[2], Join(file->Lines(arguments[0]), ", "));
+    if (file) StoreVariable(bot, arguments[2], JoinedList(file->Lines(arguments[0])));
 }
 
 void RemoveListLine(Bot& bot, const Arguments& arguments, std::string_view) {

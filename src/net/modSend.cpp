@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <vector>
 
 #include "Version.h"
 #include "engine/Bot.h"
@@ -10,6 +9,7 @@
 #include "engine/Host.h"
 #include "engine/Variables.h"
 #include "net/Base95.h"
+#include "text/Limits.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
@@ -90,9 +90,13 @@ void SendLookAt(Bot& bot, std::int16_t x, std::int16_t y) {
 void SendMoves(Bot& bot, std::string& moves) {
     if (moves.empty()) return;
     moves = ExpandVariables(bot, moves);
-    std::vector<std::string> commands;
-    std::transform(moves.begin(), moves.end(), std::back_inserter(commands), MoveCommand);
-    if (!commands.empty()) SendLine(bot, Join(commands, "\n"));
+    std::string commands;
+    for (const char move : moves) {
+        if (!commands.empty()) commands += '\n';
+        commands += MoveCommand(move);
+        CheckTextLength(commands.size());
+    }
+    if (!commands.empty()) SendLine(bot, commands);
 }
 
 void SendEject(Bot& bot, std::string_view name) { SendSpeechWithText(bot, "eject ", name); }

@@ -13,6 +13,8 @@ enum class FaultKind {
     InvalidProcedureCall,  ///< a cut with a negative length, a line too short, a code no character has
     FileNotFound,          ///<
     PathOrFileAccess,      ///< a file that can't be opened, read or written
+    OutOfMemory,           ///< a text longer than kLongestText, or no memory left
+    Internal,              ///< what only a mistake of the program can bring about
 };
 
 /// The only exception the core throws. It is caught in one place of each program, which names it to the user, puts
@@ -35,3 +37,7 @@ class RuntimeFault : public std::exception {
     FaultKind kind_;
     std::string detail_;
 };
+
+/// The fault that an exception amounts to: itself when it is one, OutOfMemory when memory was refused, otherwise
+/// Internal, with what the exception says as its detail.
+RuntimeFault AsFault(const std::exception& exception);

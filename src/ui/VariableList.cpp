@@ -30,13 +30,13 @@ void VariableList::Refresh() {
     refreshing_ = true;
     const auto& rows = variables_.Rows();
     while (topLevelItemCount() > static_cast<int>(rows.size())) delete takeTopLevelItem(topLevelItemCount() - 1);
-    for (int i = 0; i < static_cast<int>(rows.size()); ++i) {
+    int i = 0;
+    for (const auto& [rank, row] : rows) {
         if (i == topLevelItemCount()) {
             auto* const item = new QTreeWidgetItem(this);
             item->setFlags(item->flags() | Qt::ItemIsEditable);
         }
-        const UserVariable& row = rows[static_cast<std::size_t>(i)];
-        QTreeWidgetItem* const item = topLevelItem(i);
+        QTreeWidgetItem* const item = topLevelItem(i++);
         if (item->text(0) != Shown(row.name)) item->setText(0, Shown(row.name));
         if (item->text(1) != Shown(row.value)) item->setText(1, Shown(row.value));
         item->setData(0, kNameRole, Shown(row.name));

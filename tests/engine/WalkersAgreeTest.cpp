@@ -107,7 +107,7 @@ class Subject : public RehearsalBot {
         std::vector<std::string> outcome = TakeTold();
         if (fault) outcome.push_back("fault " + std::string(RuntimeFault(*fault).Name()));
         if (fault) outcome.push_back("at line " + std::to_string(bot.place.line));
-        for (const UserVariable& row : bot.variables.Rows()) outcome.push_back(row.name + "=" + row.value);
+        for (const auto& [rank, row] : bot.variables.Rows()) outcome.push_back(row.name + "=" + row.value);
         outcome.push_back("event " + std::to_string(bot.currentEvent));
         outcome.push_back("profile " + bot.profile.owners + " " + std::to_string(bot.profile.connectClient));
         return outcome;

@@ -60,7 +60,7 @@ class BusyGreeter : public GreeterBench {
             {"owners", bot.profile.owners},
             {"walk", host.IsMovementTimerEnabled() ? target : "none"},
         };
-        for (const UserVariable& variable : bot.variables.Rows()) all[variable.name] = variable.value;
+        for (const auto& [rank, variable] : bot.variables.Rows()) all[variable.name] = variable.value;
         for (const auto& [path, bytes] : files.contents) all[path] = ReplaceAll(bytes, "\r\n", "/");
         return all;
     }

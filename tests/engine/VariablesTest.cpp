@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <utility>
+
+#include "engine/Variables.h"
+#include "support/Cases.h"
+#include "support/RehearsalBot.h"
+#include "text/Limits.h"
+
+namespace {
+
+using Rows = std::vector<std::pair<std::string, std::string>>;
+
+/// What the list of user variables does, in the plainest way.
+class PlainRows {
+  public:
+    Rows rows;
+
+    void Set(const std::string& name, const std::string& value) {
+        const auto row = Row(name);
+        row == rows.end() ? rows.push_back({name, value}) : void(row->second = value);
+    }
+    void Rename(const std::string& name, const std::string& newName) {
+        if (name == newName || Row(name) == rows.end()) return;
+        Remove(newName);
+        Row(name)->first = newName;
+    }
+    void Remove(const std::string& name) {
+        std::erase_if(rows, [&](const auto& row) { return row.first == name; });
+    }
+
+  private:
+    Rows::iterator Row(const std::string& name) {
+        return std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.first == name; });
+    }
+};
+
+/// What ExpandVariables does with user variables, words and dice: one replacement after the other.
+std::string ExpandPlainly(std::string text, const Rows& rows, const std::vector<std::string>& words,
+                          const std::vector<std::int16_t>& dice) {
+    for (const auto& [name, value] : rows) text = ReplaceAll(text, name, value);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        std::string rest;
+        for (std::size_t k = i; k < words.size(); ++k) rest = rest.empty() ? words[k] : rest + " " + words[k];
+        text = ReplaceAll(text, "[word" + std::to_string(i + 1) + "]", words[i]);
+        text = ReplaceAll(text, "[startingword" + std::to_string(i + 1) + "]", rest);
+    }
+    for (std::size_t i = 0; i < dice.size(); ++i) {
+        text = ReplaceAll(text, "[die" + std::to_string(i + 1) + "]", std::to_string(dice[i]));
+    }
+    return text;
+}
+
+TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
+    constexpr const char* kPieces[] = {"[",
+                                       "]",
+                                       "a",
+                                       "b",
+                                       "[a]",
+                                       "[b]",
+                                       "[a[b]",
+                                       "ab",
+                                       "[ab",
+                                       "[[",
+                                       "]]",
+                                       "[x]",
+                                       "[word1]",
+                                       "[word2]",
+                                       " ",
+                                       "[word",
+                                       "2]",
+                                       "[word03]",
+                                       "[die2]",
+                                       "[startingword2]",
+                                       "[startingword1",
+                                       "[die",
+                                       "[die9]",
+                                       "word1]",
+                                       "x"};
+    std::mt19937 random(7);
+    const auto below = [&](std::size_t limit) { return random() % limit; };
+    const auto text = [&](std::size_t longest) {
+        std::string made;
+        for (std::size_t count = below(longest + 1); count > 0; --count) made += kPieces[below(std::size(kPieces))];
+        return made;
+    };
+    RehearsalBot fast;
+    PlainRows plain;
+    fast.bot.state.dice.amount = 2;
+    fast.bot.state.dice.values = {7, 1};
+    int replaced = 0;
+    for (int round = 0; round < 20000; ++round) {
+        const std::string name = text(2), other = text(3);
+        const auto change = below(10);
+        if (change < 7) plain.Set(name, other), fast.bot.variables.Set(name, other);
+        if (change == 7) plain.Rename(name, other), fast.bot.variables.Rename(name, other);
+        if (change > 7 || plain.rows.size() > 8) plain.Remove(name), fast.bot.variables.Remove(name);
+        if (plain.rows.size() > 12) plain.rows.clear(), fast.bot.variables.Clear();
+        fast.bot.state.message = "w" + text(4);  // an empty message has no words at all
+        const std::string line = text(9);
+        const std::string expected =
+            ExpandPlainly(line, plain.rows, Split(fast.bot.state.message, " "), fast.bot.state.dice.values);
+        ASSERT_EQ(ExpandVariables(fast.bot, line), expected) << round << ": " << line;
+        ASSERT_EQ(
+            fast.bot.variables.Find(name) != nullptr,
+            std::any_of(plain.rows.begin(), plain.rows.end(), [&](const auto& row) { return row.first == name; }));
+        replaced += line == expected ? 0 : 1;
+    }
+    EXPECT_GT(replaced, 5000);
+}
+
+TEST(Variables, MakeNoTextBeyondItsBounds) {
+    RehearsalBot bot;
+    const std::string names(std::size_t{3} * 1024, 'v');
+    bot.bot.variables.Set("vvv", std::string(1024, 'x'));
+    EXPECT_EQ(ExpandVariables(bot.bot, names).size(), kLongestText);
+    EXPECT_EQ(FaultOf([&] { ExpandVariables(bot.bot, names + "y"); }), FaultKind::OutOfMemory);
+    EXPECT_EQ(FaultOf([&] { ExpandVariables(bot.bot, std::string(kLongestText + 1, 'y')); }), FaultKind::OutOfMemory);
+}
+
+/// Ways to make ever more of a message of 400,000 letters, and of a memory that names itself 200 times.
+class Multiplies : public testing::TestWithParam<const char*> {};
+
+TEST_P(Multiplies, EndsInAFault) {
+    RehearsalBot bot;
+    bot.files.contents["folder/f.ini"] = "[list]\r\n" + ReplaceAll(std::string(400000, 'a'), "a", "a\r\n") +
+                                         "[long]\r\nkey=" + std::string(kLongestText + 1, 'a');
+    bot.bot.variables.Set("[memory]", ReplaceAll(std::string(200, 'm'), "m", "[memory]"));
+    bot.SetScript({"(0:46) told,", GetParam(), "(0:2) never,"});
+    const auto tell = [&] { bot.session.TypeLine("\"&" + std::string(400000, 'b')); };
+    EXPECT_EQ(FaultOf([&] { tell(), tell(), tell(); }), FaultKind::OutOfMemory);
+    EXPECT_TRUE(bot.told.empty()) << bot.told.front().size();
+}
+
+INSTANTIATE_TEST_SUITE_P(Variables, Multiplies,
+                         testing::Values("(5:15) describe {[memory]}", "(5:8) say {[word1][word1][startingword1]}",
+                                         "(5:22) move {[message]}", "(5:82) take the owner {[message]}",
+                                         "(5:77) {list} {f} {v}", "(5:74) {long} {f} {key} {v}"));
+
+}  // namespace
