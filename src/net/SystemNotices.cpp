@@ -1,11 +1,12 @@
 #include "net/SystemNotices.h"
 
-#include <algorithm>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "engine/Bot.h"
 #include "engine/Dispatcher.h"
+#include "engine/Host.h"
 #include "net/ServerLine.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
@@ -13,6 +14,8 @@
 namespace {
 
 constexpr std::size_t kFirstWordAt = 4;
+constexpr std::string_view kTooManyVisitors =
+    "The list of visitors names somebody so often that not every event of it is raised.";
 constexpr std::string_view kStandardTime = "(* Furcadia Standard Time: ";
 
 /// (* Player name …, with 23 characters behind the name
@@ -43,22 +46,49 @@ std::vector<std::string> Names(const std::string& list) {
     return list.empty() ? std::vector<std::string>() : Split(list, ", ");
 }
 
-/// Raises the events for the visitors that stayed, left and came.
-void CompareVisitors(Bot& bot, const std::vector<std::string>& before, const std::vector<std::string>& now) {
-    for (const std::string& name : before) {
-        const auto times = std::count(now.begin(), now.end(), name);
-        for (auto i = times; i > 0; --i) {
-            bot.state.present = name;
-            RunScript(bot, EventVisitorPresent);
+using NameCount = std::unordered_map<std::string_view, std::size_t>;
+
+NameCount CountNames(const std::vector<std::string>& names) {
+    NameCount counts;
+    for (const std::string& name : names) ++counts[name];
+    return counts;
+}
+
+/// Raises the events of one visitor list, as long as they stay within their bounds.
+class VisitorEvents {
+  public:
+    explicit VisitorEvents(Bot& bot) : bot_(bot) {}
+
+    void Raise(GameEvent event, std::string BotState::*visitor, const std::string& name) {
+        if (raised_++ < kMostVisitorEvents) {
+            bot_.state.*visitor = name;
+            RunScript(bot_, event);
+        } else if (raised_ == kMostVisitorEvents + 1) {
+            bot_.host.ShowConsoleLine(kTooManyVisitors);
         }
-        if (times > 0) continue;
-        bot.state.departed = name;
-        RunScript(bot, EventVisitorLeft);
+    }
+    bool Full() const { return raised_ > kMostVisitorEvents; }
+
+  private:
+    Bot& bot_;
+    std::size_t raised_ = 0;
+};
+
+/// Raises the events for the visitors that stayed, left and came: a name that stood in the list before stays once for
+/// each time that it stands in the list now.
+void CompareVisitors(Bot& bot, const std::vector<std::string>& before, const std::vector<std::string>& now) {
+    const NameCount timesBefore = CountNames(before), timesNow = CountNames(now);
+    VisitorEvents events(bot);
+    for (const std::string& name : before) {
+        const auto found = timesNow.find(name);
+        if (found == timesNow.end()) events.Raise(EventVisitorLeft, &BotState::departed, name);
+        const std::size_t times = found == timesNow.end() ? 0 : found->second;
+        for (std::size_t i = 0; i < times && !events.Full(); ++i) {
+            events.Raise(EventVisitorPresent, &BotState::present, name);
+        }
     }
     for (const std::string& name : now) {
-        if (std::find(before.begin(), before.end(), name) != before.end()) continue;
-        bot.state.arrived = name;
-        RunScript(bot, EventVisitorArrived);
+        if (!timesBefore.contains(name)) events.Raise(EventVisitorArrived, &BotState::arrived, name);
     }
 }
 

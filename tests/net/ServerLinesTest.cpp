@@ -39,6 +39,24 @@ TEST(ServerLines, WhatCannotBeReadIsAFault) {
     }
 }
 
+TEST(ServerLines, AVisitorNamedSeveralTimesStaysOnceForEachPair) {
+    RehearsalBot rehearsal;
+    rehearsal.SetScript({"(0:20) came,", "(5:2) {+[player]}", "(0:21) stayed,", "(5:2) {=[player]}", "(0:22) left,",
+                         "(5:2) {-[player]}"});
+    const auto hear = [&](const std::string& list) {
+        ParseServerLine(rehearsal.bot, "(* Current players: " + list);
+        auto told = rehearsal.TakeTold();
+        std::erase_if(told, [](const std::string& line) { return line.starts_with("console * "); });
+        return ReplaceAll(Join(told, " "), "console ", "");
+    };
+    EXPECT_EQ(hear("Ann, Bea, Ann"), "+Ann +Bea +Ann");
+    EXPECT_EQ(hear("Cleo, Ann, Dan, Cleo, Ann"), "=Ann =Ann -Bea =Ann =Ann +Cleo +Dan +Cleo");
+    const std::string many = ReplaceAll(std::string(16000, ','), ",", "Zed, ") + "Zed";
+    rehearsal.bot.script.reset();
+    hear(many);
+    EXPECT_EQ(hear(many), "The list of visitors names somebody so often that not every event of it is raised.");
+}
+
 TEST(ServerLines, StatusNamesProductAndVersionInAnyCase) {
     RehearsalBot rehearsal;
     constexpr char kAnswer[] = "sent wh Ann .* \\[Press F8 now\\] \\[Tandry Vorel [0-9]+[.][0-9]+[.][0-9]+\\]";
