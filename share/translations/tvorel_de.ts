@@ -819,14 +819,6 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         </translation>
     </message>
     <message>
-        <source>Line %1 of the script</source>
-        <translation>Zeile %1 des Skripts</translation>
-    </message>
-    <message>
-        <source>%1, line %2</source>
-        <translation>%1, Zeile %2</translation>
-    </message>
-    <message>
         <source>Unsaved work was put aside in %1, and will be offered at the next start.</source>
         <translation>Nicht Gespeichertes wurde in %1 beiseitegelegt und wird beim nächsten Start angeboten.</translation>
     </message>

@@ -2,24 +2,24 @@
 
 #include <algorithm>
 
-#include "net/Passwords.h"
+#include "net/FaultText.h"
 #include "text/Text.h"
 
-std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
-    std::string text(fault.Name());
-    if (!fault.Detail().empty()) text += ": " + fault.Detail();
-    if (!bot.place.file.empty()) text += ", at " + bot.place.file;
-    if (bot.place.line > 0) text += " line " + std::to_string(bot.place.line);
-    return WithoutPasswords(bot, text);
+namespace {
+
+/// Control characters, which are the same in both encodings, can't make a terminal do anything.
+std::string Harmless(std::string text) {
+    const auto isControl = [](char c) { return (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7F; };
+    std::replace_if(text.begin(), text.end(), isControl, ' ');
+    return text;
 }
+
+}  // namespace
+
+std::string FaultForTerminal(const RuntimeFault& fault, const Bot& bot) { return Harmless(DescribeFault(fault, bot)); }
 
 std::string MissingScript(const std::string& profilePath, const ProfileLoad& load) {
     return profilePath + ": there is no script " + ToUtf8(load.missingScript) + "; the bot runs without one";
 }
 
-std::string Printable(std::string_view text) {
-    std::string printable(text);
-    const auto isControl = [](char c) { return (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7F; };
-    std::replace_if(printable.begin(), printable.end(), isControl, ' ');
-    return ToUtf8(printable);
-}
+std::string Printable(std::string_view text) { return ToUtf8(Harmless(std::string(text))); }

@@ -4,10 +4,16 @@
 #include <iostream>
 
 #include "cli/Report.h"
+#include "net/FaultText.h"
 #include "net/Passwords.h"
 #include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "text/Text.h"
+
+namespace {
+constexpr char kSplitLineAdvice[] =
+    " The network may have split it: --keep-split-lines puts such lines together again.";
+}
 
 TerminalBot::TerminalBot(std::string profilePath, const std::string& folder, ConsoleOutput& output, Owner owner)
     : profilePath_(std::move(profilePath)), output_(output), owner_(std::move(owner)), host_(*this, folder) {}
@@ -69,7 +75,13 @@ void TerminalBot::StatusChanged() {
 }
 
 void TerminalBot::EndWithFault(const RuntimeFault& fault) {
-    const std::string why = DescribeFault(fault, host_.bot());
+    std::string why = FaultForTerminal(fault, host_.bot());
     if (recording_) recording_->Remark(FromUtf8(why));
-    owner_.onFault(why);
+    if (!keepsSplitLines_ && MayComeOfASplitLine(host_.bot())) why += kSplitLineAdvice;
+    owner_.onFault(hasLabel_ ? "[" + Label() + "] " + why : why);
+}
+
+void TerminalBot::KeepSplitLines(bool keep) {
+    keepsSplitLines_ = keep;
+    host_.session().KeepSplitLines(keep);
 }

@@ -52,6 +52,9 @@ class TerminalBot final : public FrontEnd {
 
     Session& session() { return host_.session(); }
 
+    /// See Session::KeepSplitLines.
+    void KeepSplitLines(bool keep);
+
     // FrontEnd
     void ShowConsoleLine(std::string_view line) override;
     void ClearConsole() override {}
@@ -63,7 +66,7 @@ class TerminalBot final : public FrontEnd {
     std::string profilePath_;
     ConsoleOutput& output_;
     Owner owner_;
-    bool hasLabel_ = false;
+    bool hasLabel_ = false, keepsSplitLines_ = false;
     RecordingFile recordFile_;
     std::unique_ptr<Recording> recording_;
     QtHost host_;

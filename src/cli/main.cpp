@@ -3,11 +3,14 @@
 
 #include <CLI/CLI.hpp>
 #include <csignal>
+#include <iostream>
 #include <string>
 
 #include "Version.h"
 #include "cli/Verbs.h"
+#include "net/FaultText.h"
 #include "platform/CoreDumps.h"
+#include "text/Fault.h"
 
 namespace {
 
@@ -54,5 +57,10 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : UsageExit(app);
     }
-    return action();
+    try {
+        return action();
+    } catch (const std::exception& exception) {
+        std::cerr << "vorel: " << DescribeFault(AsFault(exception)) << std::endl;
+        return kFaultExit;
+    }
 }

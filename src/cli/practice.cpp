@@ -10,7 +10,10 @@
 #include "cli/TourFile.h"
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
+#include "net/FaultText.h"
+#include "platform/Guarded.h"
 #include "practice/PracticeServer.h"
+#include "text/Fault.h"
 #include "text/Text.h"
 
 namespace {
@@ -54,8 +57,10 @@ int Practice(const PracticeOptions& options) {
     int argumentCount = 1;
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
-    std::optional<QCoreApplication> application;
-    if (!QCoreApplication::instance()) application.emplace(argumentCount, arguments);
+    Guarded<QCoreApplication> application(argumentCount, arguments);
+    application.OnException([](const std::exception& exception) {
+        QCoreApplication::exit(Refuse(kFaultExit, DescribeFault(AsFault(exception))));
+    });
     PracticeSettings settings;
     settings.tour = std::move(reading.tour);
     PracticeServer server(std::move(settings));

@@ -17,8 +17,11 @@
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
 #include "engine/Compare.h"
+#include "net/FaultText.h"
 #include "platform/DiskFiles.h"
+#include "platform/Guarded.h"
 #include "practice/PracticeServer.h"
+#include "text/Fault.h"
 #include "text/Text.h"
 
 namespace {
@@ -59,6 +62,16 @@ class TerminalRun {
         return QCoreApplication::exec();
     }
 
+    /// A fault has ended a bot, or what the bots run in; UTF-8.
+    void OnFault(const std::string& why) {
+        std::cerr << "vorel run: " << why << std::endl;
+        output_.Log(why);
+        End(kFaultExit);
+        // A fault on the way out counts too.
+        exit_ = kFaultExit;
+        QCoreApplication::exit(kFaultExit);
+    }
+
   private:
     const RunOptions& options_;
     ConsoleOutput output_;
@@ -87,7 +100,7 @@ class TerminalRun {
         auto& bot = *bots_.emplace_back(std::make_unique<TerminalBot>(profile, options_.folder, output_, owner));
         bot.session().SetServer(options_.server, options_.port);
         if (practice_) bot.session().SetServer("127.0.0.1", practicePort_);
-        bot.session().KeepSplitLines(options_.keepSplitLines);
+        bot.KeepSplitLines(options_.keepSplitLines);
         if (options_.profiles.size() > 1) bot.ShowLabel();
         if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
         if (exit_) return *exit_;
@@ -148,15 +161,6 @@ class TerminalRun {
         End(std::any_of(bots_.begin(), bots_.end(), failed) ? kUnavailableExit : 0);
     }
 
-    void OnFault(const std::string& why) {
-        std::cerr << "vorel run: " << why << std::endl;
-        output_.Log(why);
-        End(kFaultExit);
-        // A fault on the way out counts too.
-        exit_ = kFaultExit;
-        QCoreApplication::exit(kFaultExit);
-    }
-
     /// Disconnects every bot, so that its script hears of it, and leaves.
     void End(int status) {
         if (exit_) return;
@@ -170,8 +174,10 @@ int Run(const RunOptions& options) {
     int argumentCount = 1;
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
-    const QCoreApplication application(argumentCount, arguments);
-    return TerminalRun(options).Run();
+    Guarded<QCoreApplication> application(argumentCount, arguments);
+    TerminalRun run(options);
+    application.OnException([&](const std::exception& exception) { run.OnFault(DescribeFault(AsFault(exception))); });
+    return run.Run();
 }
 
 }  // namespace

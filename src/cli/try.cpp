@@ -70,9 +70,12 @@ int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& 
         const ProfileLoad load = LoadProfile(rehearsal.bot, options.profile);
         if (!load.missingScript.empty()) std::cerr << MissingScript(options.profile, load) << "\n";
         rehearsal.Play(session);
-    } catch (const RuntimeFault& fault) {
+    } catch (const std::exception& exception) {
+        const RuntimeFault fault = AsFault(exception);
         PrintLine("fault " + std::string(fault.Name()));
-        std::cerr << "vorel try: " << DescribeFault(fault, rehearsal.bot) << "\n";
+        std::cerr << "vorel try: " << FaultForTerminal(fault, rehearsal.bot);
+        if (rehearsal.Line() > 0) std::cerr << " It came with line " << rehearsal.Line() << " of the session.";
+        std::cerr << "\n";
         return kFault;
     }
     return rehearsal.FailedExpectations() == 0 ? 0 : kExpectationFailed;

@@ -43,6 +43,13 @@ struct Place {
     std::size_t line = 0;  ///< counted from 1
 };
 
+/// The line the bot is at work on, as it came, so that a fault can name it.
+struct Heard {
+    enum class From { Nobody, Game, Client, User };
+    From from = From::Nobody;
+    std::string line;
+};
+
 /// Everything one bot is. Every operation takes the Bot it works on, so that one process can run many.
 struct Bot {
     explicit Bot(Host& itsHost) : host(itsHost) {}
@@ -56,6 +63,7 @@ struct Bot {
     Walk walk;
     SessionStatus status;
     Place place;
+    Heard heard;
 
     /// Every character file that the profile's file names, as written there, for a script may be loaded before the line
     /// that counts is read. No script can open one.

@@ -1,26 +1,44 @@
 #pragma once
 
+#include <cstddef>
 #include <exception>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "engine/Bot.h"
 
-/// Marks, for as long as it lives, where the bot is reading or running. When a fault unwinds, the mark stays, so that
-/// the program can name the place where it came from.
-class PlaceMark {
+/// Puts a value in a place for as long as it lives, and back what was there. When a fault unwinds, the value stays, so
+/// that the program can tell where the fault came from.
+template <typename Value>
+class Mark {
   public:
-    PlaceMark(Bot& bot, std::string file) : bot_(bot), before_(std::exchange(bot.place, Place{std::move(file), 0})) {}
-    ~PlaceMark() {
-        if (std::uncaught_exceptions() == unwinding_) bot_.place = std::move(before_);
+    Mark(Value& where, Value value) : where_(where), before_(std::exchange(where, std::move(value))) {}
+    ~Mark() {
+        if (std::uncaught_exceptions() == unwinding_) where_ = std::move(before_);
     }
-    PlaceMark(const PlaceMark&) = delete;
-    PlaceMark& operator=(const PlaceMark&) = delete;
+    Mark(const Mark&) = delete;
+    Mark& operator=(const Mark&) = delete;
 
-    void AtLine(std::size_t line) { bot_.place.line = line; }
-    void NextLine() { ++bot_.place.line; }
+  protected:
+    Value& where_;
 
   private:
-    Bot& bot_;
-    Place before_;
+    Value before_;
     int unwinding_ = std::uncaught_exceptions();
+};
+
+/// Marks where the bot is reading or running.
+class PlaceMark : public Mark<Place> {
+  public:
+    PlaceMark(Bot& bot, std::string file) : Mark(bot.place, Place{std::move(file), 0}) {}
+
+    void AtLine(std::size_t line) { where_.line = line; }
+    void NextLine() { ++where_.line; }
+};
+
+/// Marks which line the bot is at work on, and whose it is.
+class HeardMark : public Mark<Heard> {
+  public:
+    HeardMark(Bot& bot, Heard::From from, std::string_view line) : Mark(bot.heard, Heard{from, std::string(line)}) {}
 };

@@ -155,6 +155,7 @@ void Session::StandAlone() {
 
 void Session::TypeLine(std::string_view text) {
     Note(Happening::Typed, text);
+    HeardMark heard(bot_, Heard::From::User, text);
     const auto sendIfAccepted = [this](std::string_view line) {
         if (FilterClientLine(bot_, line)) modSend::SendLine(bot_, line);
     };
@@ -213,6 +214,7 @@ void Session::OnServerData(std::string_view packet) {
     std::string relayed;
     for (const std::string& line : serverLines_.Take(packet)) {
         Note(Happening::ServerLine, line);
+        HeardMark heard(bot_, Heard::From::Game, line);
         ParseServerLine(bot_, line);
         relayed.append(line).append("\n");
     }
@@ -252,6 +254,7 @@ void Session::OnClientData(std::string_view packet) {
     std::string relayed;
     for (const std::string& line : clientLines_.Take(packet)) {
         Note(Happening::ClientLine, line);
+        HeardMark heard(bot_, Heard::From::Client, line);
         if (!FilterClientLine(bot_, line)) continue;
         relayed.append(line).append("\n");
         // Behind its line, as if each had come in a packet of its own: so a recording can be played line by line.

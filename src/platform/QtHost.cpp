@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <utility>
 
 #include "Version.h"
 #include "engine/Dispatcher.h"
@@ -95,10 +96,14 @@ void QtHost::RunHandler(const std::function<void()>& handler) {
     if (ended_) return;
     try {
         handler();
-    } catch (const RuntimeFault& fault) {
-        ended_ = true;
-        frontEnd_.EndWithFault(fault);
+    } catch (const std::exception& exception) {
+        EndWith(exception);
     }
+}
+
+void QtHost::EndWith(const std::exception& exception) {
+    if (std::exchange(ended_, true)) return;
+    frontEnd_.EndWithFault(AsFault(exception));
 }
 
 void QtHost::Leave() {

@@ -36,8 +36,11 @@ class QtHost final : public QObject, public Host, public Link {
     void SetObserver(SessionObserver* observer);
 
     /// Runs what something from outside calls for: a socket, a timer, a key. The one place where a run-time fault is
-    /// caught; after it nothing runs any more.
+    /// caught, and whatever else is thrown; after it nothing runs any more.
     void RunHandler(const std::function<void()>& handler);
+
+    /// Ends the bot for what came out of a handler elsewhere; see Guarded.
+    void EndWith(const std::exception& exception);
 
     /// Disconnects for good: the script hears of the end, but can't connect again.
     void Leave();

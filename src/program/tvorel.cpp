@@ -4,6 +4,7 @@
 
 #include "Version.h"
 #include "platform/CoreDumps.h"
+#include "platform/Guarded.h"
 #include "ui/Dialogs.h"
 #include "ui/Options.h"
 #include "ui/ProgramFolder.h"
@@ -14,7 +15,7 @@
 int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a fault like a full disk, and told like one
     TurnOffCoreDumps();
-    QApplication application(argc, argv);
+    Guarded<QApplication> application(argc, argv);
     QApplication::setApplicationName("tvorel");
     QApplication::setApplicationVersion(kProductVersion);
     QApplication::setDesktopFileName("org.tandryvorel.tvorel");
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
     const std::string noCommandList = ProvideCommandList(folder);
     QtDialogs dialogs;
     frmVorel window(dialogs, folder);
+    application.OnException([&](const std::exception& exception) { window.host().EndWith(exception); });
     window.Start(documents, arguments.isSet(practice));
     window.show();
     if (!noCommandList.empty())

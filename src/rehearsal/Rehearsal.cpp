@@ -17,6 +17,7 @@ void Rehearsal::Play(const WrittenSession& written) {
 }
 
 void Rehearsal::Play(const SessionStep& step) {
+    line_ = step.line;
     switch (step.kind) {
         case SessionStep::Kind::Connect:
             host.SetServerConnected(true);

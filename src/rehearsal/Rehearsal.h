@@ -22,12 +22,15 @@ class Rehearsal {
 
     std::size_t FailedExpectations() const { return failed_; }
 
+    /// The session's line of the instruction that was carried out last, counted from 1; 0 before the first.
+    std::size_t Line() const { return line_; }
+
     RehearsalHost host;
     Bot bot;
     Session session;
 
   private:
-    std::size_t failed_ = 0;
+    std::size_t failed_ = 0, line_ = 0;
 
     bool IsAsExpected(const std::string& sent, const std::string& expected) const;
     void Expect(const SessionStep& step);

@@ -2,8 +2,7 @@
 
 #include <QLockFile>
 #include <QString>
-
-#include "text/Fault.h"
+#include <exception>
 
 namespace {
 
@@ -40,8 +39,9 @@ std::string Recovery::Keep(Slot& slot, const std::optional<Copy>& unsaved) {
         const bool nothingThere = packed.empty() && !disk_.Find(slot.file);
         if (slot.written != packed && !nothingThere) disk_.Write(slot.file, packed);
         slot.written = packed;
-    } catch (const RuntimeFault& fault) {
-        return fault.Detail();  // the work itself is still in the window; the next try may do better
+    } catch (const std::exception& exception) {
+        const RuntimeFault fault = AsFault(exception);  // the work itself is still in the window; the next try may do better
+        return fault.Detail().empty() ? std::string(fault.Name()) : fault.Detail();
     }
     return {};
 }
@@ -53,7 +53,7 @@ std::optional<Recovery::Copy> Recovery::Found(const Slot& slot) const {
         const std::size_t first = packed.find('\n'), second = packed.find('\n', first + 1);
         if (first == packed.npos || second == packed.npos) return std::nullopt;
         return Copy{packed.substr(0, first), packed.substr(first + 1, second - first - 1), packed.substr(second + 1)};
-    } catch (const RuntimeFault&) {
+    } catch (const std::exception&) {
         return std::nullopt;  // a copy that can't be read helps nobody
     }
 }

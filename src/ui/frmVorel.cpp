@@ -20,6 +20,7 @@
 
 #include "Version.h"
 #include "engine/Dispatcher.h"
+#include "net/FaultText.h"
 #include "net/Passwords.h"
 #include "net/modSend.h"
 #include "platform/WholeFile.h"
@@ -333,14 +334,8 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
     faulted_ = true;
     if (opened_.isValid() && !opened_.hasExpired(kTrustedAfterMs))
         options_.Set("recent/faulted", ShownPath(bot().profile.path));
-    const Place place = bot().place;
-    QString text = ShownFault(fault);
-    if (place.line > 0) {
-        text += "\n\n" + (place.file.empty() ? tr("Line %1 of the script").arg(place.line)
-                                             : tr("%1, line %2").arg(ShownPath(place.file)).arg(place.line));
-    }
-    text = QString::fromStdString(WithoutPasswords(bot(), text.toStdString()));
-    Announce(text.simplified());  // for the log
+    QString text = ShownPath(DescribeFault(fault, bot()));
+    Announce(text);  // for the log
     // Before the first time, what an earlier run has left is still to be offered.
     const QString unkept = keepUnsaved_.isActive() ? KeepUnsavedWork() : QString();
     if (!unkept.isEmpty()) {

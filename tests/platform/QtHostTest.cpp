@@ -14,6 +14,13 @@ class QtHostTest : public HostBench {
     }
 };
 
+TEST_F(QtHostTest, WhateverIsThrownIsAFaultThatEndsTheBot) {
+    host.RunHandler([] { std::string().reserve(std::string().max_size() + 1); });
+    host.RunHandler([this] { screen.lines.emplace_back("nothing runs after it"); });
+    host.EndWith(std::runtime_error("nor is there a second one"));
+    EXPECT_THAT(screen.lines, ElementsAre("Out of memory"));
+}
+
 TEST_F(QtHostTest, AFloodLosesNoLineAndLeavesOthersTheirTurn) {
     host.session().KeepSplitLines(true);
     LogIn();

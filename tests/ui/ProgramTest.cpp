@@ -1,3 +1,4 @@
+#include "platform/Guarded.h"
 #include "profile/ProfileFile.h"
 #include "ui/Desk.h"
 
@@ -240,9 +241,10 @@ TEST_F(AfterACrash, FaultsAreToldAndEndTheProgramWithTheWorkPutAside) {
     WriteBot("bad", "(0:0) loaded,\r\n(5:99999) what?");
     TakeBack();
     EXPECT_TRUE(Open("bad.tvm", {"No", "No"})
-                    .endsWith("|critical [Tandry Vorel] Overflow\n\n" + Path("bad.vs") +
-                              ", line 3\n\nUnsaved work was put aside in " + Path() +
-                              ", and will be offered at the next start."));
+                    .endsWith("|critical [Tandry Vorel] Overflow, at " + Path("bad.vs") +
+                              " line 3: a number is too large; whole ones go from -32768 to 32767.\n\nUnsaved work was "
+                              "put aside in " +
+                              Path() + ", and will be offered at the next start."));
     EXPECT_EQ(QCoreApplication::exec(), 70);
     const QString shown = ConsoleText();
     Choose("mnuRun");
@@ -254,11 +256,18 @@ TEST_F(AfterACrash, FaultsAreToldAndEndTheProgramWithTheWorkPutAside) {
     EXPECT_EQ(Editor().ScriptText(), unsaved);
 
     Write("large.tvm", "[General]\r\nPort=99999\r\n");
-    EXPECT_TRUE(Open("large.tvm", {"No"}).contains(Path("large.tvm") + ", line 2\n\n"));
+    EXPECT_TRUE(Open("large.tvm", {"No"}).contains(Path("large.tvm") + " line 2: "));
     EXPECT_EQ(QCoreApplication::exec(), 70);
     Start({"No"});
     EXPECT_FALSE(bot().profile.dirty || Editor().IsDirty());
     EXPECT_EQ(Start(), "") << "what is not wanted goes";
+
+    // What comes out of a slot that is no handler of the bot's.
+    static_cast<Guarded<QApplication>&>(*qApp).OnException([this](const auto& what) { window->host().EndWith(what); });
+    bot().profile.dirty = true;
+    QTimer::singleShot(0, window.get(), [] { throw std::bad_alloc(); });
+    const QString told = dialogs.During({}, [] { EXPECT_EQ(QCoreApplication::exec(), 70); });
+    EXPECT_TRUE(told.startsWith("critical [Tandry Vorel] Out of memory: ") && told.contains("was put aside")) << told;
 }
 
 TEST_F(Program, TellsOnceWhatItCantKeepAndKeepsItLater) {
