@@ -768,6 +768,14 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         <translation>&amp;Neu verbinden, wenn die Verbindung verloren geht</translation>
     </message>
     <message>
+        <source>&amp;Keep lines that the network has split</source>
+        <translation>&amp;Zeilen behalten, die das Netz geteilt hat</translation>
+    </message>
+    <message>
+        <source>The network may have split it: Session, Keep lines that the network has split, mends that.</source>
+        <translation>Vielleicht hat das Netz sie geteilt: Dagegen hilft Sitzung, Zeilen behalten, die das Netz geteilt hat.</translation>
+    </message>
+    <message>
         <source>Connect when the program &amp;starts</source>
         <translation>Beim &amp;Start verbinden</translation>
     </message>

@@ -72,3 +72,10 @@ void Options::AddRecentProfile(const QString& path) {
     profiles.prepend(path);
     Set("recent/profiles", profiles.mid(0, kRecentCount));
 }
+
+void Options::KeepSplitLines(const QString& profile, bool keep) {
+    QStringList keepers = SplitLineKeepers();
+    keepers.removeAll(profile);
+    if (keep) keepers.append(profile);
+    Set("connection/keepSplitLines", keepers);
+}

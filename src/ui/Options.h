@@ -27,6 +27,8 @@ class Options {
     bool Reconnect() const { return Flag("connection/reconnect", false); }
     bool ConnectAtStart() const { return Flag("connection/atStart", false); }
     QString ServerAddress() const { return Value("connection/address").toString(); }
+    /// Whether the bot of a profile keeps lines that the network has split; off for profiles that are not known.
+    bool KeepsSplitLines(const QString& profile) const { return SplitLineKeepers().contains(profile); }
     bool NotifyWhispers() const { return Flag("desktop/notifyWhispers", false); }
     bool TrayExplained() const { return Flag("desktop/trayExplained", false); }
     QString Language() const { return Value("desktop/language").toString(); }
@@ -40,6 +42,8 @@ class Options {
     /// Puts a profile at the head of the recent ones.
     void AddRecentProfile(const QString& path);
 
+    void KeepSplitLines(const QString& profile, bool keep);
+
     /// Writes what could not be written before.
     void Keep();
 
@@ -51,6 +55,7 @@ class Options {
     std::function<void(const QString& why)> tell_;
 
     QVariant Value(const char* key, const QVariant& usual = {}) const { return values_.value(key, usual); }
+    QStringList SplitLineKeepers() const { return Value("connection/keepSplitLines").toStringList(); }
     bool Flag(const char* key, bool usual) const { return Value(key, usual).toBool(); }
     void Trying(const std::function<void()>& work);
 };

@@ -4,6 +4,8 @@
 #include <QString>
 #include <exception>
 
+#include "text/Fault.h"
+
 namespace {
 
 constexpr int kMostPrograms = 16;

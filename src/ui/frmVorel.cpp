@@ -113,6 +113,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     ::NewProfile(bot());
     bot().profile.serverAddress =
         TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
+    ShowSplitLines();
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
                                              [this](const QString& path) { OpenDocument(TypedPath(path)); });
     ShowTitle();
@@ -205,6 +206,8 @@ void frmVorel::BuildMenus() {
               });
     AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
               [this](bool on) { options_.Set("connection/atStart", on); });
+    keepsSplitLines_ = AddOption(*session, "mnuKeepSplitLines", tr("&Keep lines that the network has split"), false,
+                                 [this](bool on) { KeepSplitLines(on); });
 
     QMenu* const script = AddMenu(*menuBar(), "mnuScript", "&Script");
     AddItem(*script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
@@ -335,6 +338,8 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
     if (opened_.isValid() && !opened_.hasExpired(kTrustedAfterMs))
         options_.Set("recent/faulted", ShownPath(bot().profile.path));
     QString text = ShownPath(DescribeFault(fault, bot()));
+    if (!keepsSplitLines_->isChecked() && MayComeOfASplitLine(bot()))
+        text += " " + tr("The network may have split it: Session, Keep lines that the network has split, mends that.");
     Announce(text);  // for the log
     // Before the first time, what an earlier run has left is still to be offered.
     const QString unkept = keepUnsaved_.isActive() ? KeepUnsavedWork() : QString();
@@ -429,6 +434,7 @@ void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) 
         const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
         if (!script) return editor_->NewScript();
         editor_->ShowFile(*script);
+        ShowSplitLines();
         Announce(tr("%1 stands in the editor (Script, Edit); saving it there loads it.").arg(ShownPath(*script)));
     } catch (const RuntimeFault& fault) {
         Announce(tr("%1 can't be read: %2.").arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))));
@@ -490,6 +496,7 @@ void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     editor_->ShowBotScript();
     options_.AddRecentProfile(ShownPath(path));
     if (!load.missingScript.empty()) {
+    ShowSplitLines();
         Announce(tr("The profile names the script %1, which does not exist.").arg(Shown(load.missingScript)));
     }
 }
@@ -498,6 +505,20 @@ void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
     for (const QString& path : options_.RecentProfiles()) {
         mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] { OpenDocument(TypedPath(path)); });
+/// Shows whether the bot keeps split lines, and lets it: a new one does, a profile as its user has chosen.
+void frmVorel::ShowSplitLines() {
+    const std::string& path = bot().profile.path;
+    const bool keep = path.empty() || options_.KeepsSplitLines(ShownPath(path));
+    keepsSplitLines_->setChecked(keep);
+    host_.session().KeepSplitLines(keep);
+}
+
+void frmVorel::KeepSplitLines(bool keep) {
+    host_.session().KeepSplitLines(keep);
+    const QString path = ShownPath(bot().profile.path);
+    if (!path.isEmpty() && options_.KeepsSplitLines(path) != keep) options_.KeepSplitLines(path, keep);
+}
+
     }
 }
 
@@ -513,6 +534,7 @@ void frmVorel::NewProfile() {
 
 bool frmVorel::SaveProfile() { return bot().profile.path.empty() ? SaveProfileAs() : WriteProfile(bot().profile.path); }
 
+    ShowSplitLines();
 bool frmVorel::SaveProfileAs() {
     const auto chosen = AskSaveName(dialogs_, this, "Save Tandry Vorel As...", kProfileFilter,
                                     ShownPath(FolderOf(bot().profile.path)), kProfileExtension);
@@ -540,6 +562,7 @@ bool frmVorel::MayDropChanges(bool offersCancel) {
     // The script first: saved under a new name, it changes the profile.
     if (!editor_->MayDropChanges(offersCancel) || faulted_) return false;
     if (!bot().profile.dirty) return true;
+    KeepSplitLines(keepsSplitLines_->isChecked());  // under its new name, perhaps
     const auto answer =
         dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", offersCancel);
     if (faulted_) return false;  // while the question was open

@@ -18,6 +18,7 @@ class ConsoleFrame;
 class Dialogs;
 class DocumentDrops;
 class PracticeServer;
+class QAction;
 class QMenu;
 class TrayIcon;
 class VariableList;
@@ -90,6 +91,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     VariableList* lvwVars_;
     QLabel *panelName_, *panelConnection_, *panelReason_;
     QMenu* mnuRecent_;
+    QAction* keepsSplitLines_;
     std::unique_ptr<frmGS> editor_;
     TrayIcon* tray_;
     std::unique_ptr<DocumentDrops> drops_;
@@ -102,6 +104,8 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Bot& bot() { return host_.bot(); }
     void ShowTitle();
     void ShowRecentProfiles();
+    void ShowSplitLines();
+    void KeepSplitLines(bool keep);
     void ShowLoaded(const ProfileLoad& load, const std::string& path);
     void ShowStatus();
     void OnSessionEnd();

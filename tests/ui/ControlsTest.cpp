@@ -94,6 +94,17 @@ TEST_F(InSession, TypedLinesAreSentAndComeBackWithUpAndDown) {
     EXPECT_EQ(line->text(), "caf\u00e9 \u4e2d");
 }
 
+TEST_F(InSession, LinesThatTheNetworkHasSplitAreKeptWhenThatIsChosen) {
+    GameServer server;
+    window->host().session().SetServer("127.0.0.1", server.listener.serverPort());
+    Choose("mnuKeepSplitLines");
+    ASSERT_TRUE(Connect());
+    server.Say("(whole\n(cut");
+    ASSERT_TRUE(Eventually([this] { return ConsoleText().contains("whole\n"); })) << "by now the packet has been read";
+    server.Say(" in two\n");
+    EXPECT_TRUE(Eventually([this] { return ConsoleText().contains("cut in two\n"); }));
+}
+
 TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
     EXPECT_EQ(State(), "+--  Disconnected ");
     QTest::keyClick(line, Qt::Key_K, Qt::ControlModifier);
