@@ -963,4 +963,13 @@ Der nächste Start kennt dieses Profil und den Platz des Fensters nicht.</transl
         <translation>Die Liste der Befehle kann nicht geschrieben werden, darum zeigt der Skripteditor keine: %1</translation>
     </message>
 </context>
+<context>
+    <name>UnnamedFile</name>
+    <message>
+        <source>The profile can&apos;t name %1: it is written in the letters of Windows-1252, and this path holds others.
+A profile that is saved in the same folder, or beside it, can name the file from there. Save it there first.</source>
+        <translation>Das Profil kann %1 nicht nennen: Es ist mit den Zeichen von Windows-1252 geschrieben, und dieser Pfad enthält andere.
+Ein Profil, das im selben Ordner oder daneben gespeichert ist, kann die Datei von dort aus nennen. Speichere es zuerst dort.</translation>
+    </message>
+</context>
 </TS>

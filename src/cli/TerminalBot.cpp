@@ -28,6 +28,7 @@ bool TerminalBot::Load() {
         load = LoadProfile(host_.bot(), profilePath_);
         faulted = false;
     });
+    for (const std::string& remark : load.remarks) std::cerr << "vorel run: " << remark << std::endl;
     if (!load.missingScript.empty()) std::cerr << "vorel run: " << MissingScript(profilePath_, load) << std::endl;
     return load.found || faulted;
 }

@@ -68,6 +68,7 @@ void PrintLine(const std::string& line) {
 int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& session) {
     try {
         const ProfileLoad load = LoadProfile(rehearsal.bot, options.profile);
+        for (const std::string& remark : load.remarks) std::cerr << "vorel try: " << remark << "\n";
         if (!load.missingScript.empty()) std::cerr << MissingScript(options.profile, load) << "\n";
         rehearsal.Play(session);
     } catch (const std::exception& exception) {

@@ -10,7 +10,9 @@
 #include "engine/Host.h"
 #include "engine/Place.h"
 #include "engine/Script.h"
+#include "profile/FileRemarks.h"
 #include "profile/ProfilePaths.h"
+#include "text/Fault.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
@@ -65,18 +67,35 @@ void TakeValue(Profile& profile, const Entry& entry, bool signatureFirst) {
     }
 }
 
+void AddRemark(ProfileLoad& load, const std::optional<std::string>& remark) {
+    if (remark) load.remarks.push_back(*remark);
+}
+
+/// The character file is read only when the bot logs in; what is the matter with it is told before.
+void RemarkOnCharacter(const Bot& bot, ProfileLoad& load) {
+    const auto path = FindProfileFile(bot, bot.profile.characterPath);
+    if (!path) return;
+    try {
+        AddRemark(load, FileRemark(FileKind::Character, *path, bot.host.Disk().Read(*path)));
+    } catch (const RuntimeFault&) {
+        // The login will name it.
+    }
+}
+
 void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& load) {
     TakeValue(bot.profile, entry, signatureFirst);
     if (entry.key != "script=") return;
     if (const auto path = FindProfileFile(bot, entry.value)) {
-        LoadScript(bot, *path);
+        AddRemark(load, LoadScript(bot, *path));
     } else {
         load.missingScript = entry.value;
     }
 }
 
 /// The lines of a profile's file. Which character files they name is known before a script among them is loaded.
-std::vector<std::string> ProfileLines(Bot& bot, std::string_view bytes) {
+std::vector<std::string> ReadProfileLines(Bot& bot, const std::string& path, ProfileLoad& load) {
+    const std::string bytes = bot.host.Disk().Read(path);
+    AddRemark(load, FileRemark(FileKind::Profile, path, bytes));
     std::vector<std::string> lines = FileLines(bytes);
     bot.characterPaths.clear();
     for (const std::string& line : lines) {
@@ -104,7 +123,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
     ProfileLoad load{true};
     std::string section;
     PlaceMark place(bot, *found);
-    for (const std::string& line : ProfileLines(bot, bot.host.Disk().Read(*found))) {
+    for (const std::string& line : ReadProfileLines(bot, *found, load)) {
         place.NextLine();
         if (IsSectionLine(line)) {
             section = SectionName(line);
@@ -115,6 +134,7 @@ ProfileLoad LoadProfile(Bot& bot, const std::string& path) {
             bot.profile.ignores.push_back(line);
         }
     }
+    RemarkOnCharacter(bot, load);
     return load;
 }
 
@@ -125,11 +145,12 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path) {
 
     ProfileLoad load{true};
     PlaceMark place(bot, *found);
-    for (const std::string& line : ProfileLines(bot, bot.host.Disk().Read(*found))) {
+    for (const std::string& line : ReadProfileLines(bot, *found, load)) {
         place.NextLine();
         const Entry entry = ReadEntry(line);
         TakeEntry(bot, entry, LowerCase(entry.value) != "end", load);
     }
+    RemarkOnCharacter(bot, load);
     return load;
 }
 
@@ -180,9 +201,11 @@ void NewProfile(Bot& bot) {
     bot.script = std::make_shared<Script>(kNewScript);
 }
 
-void LoadScript(Bot& bot, const std::string& path) {
-    bot.script = std::make_shared<Script>(ScriptTextFromFile(bot.host.Disk().Read(path)), path);
+std::optional<std::string> LoadScript(Bot& bot, const std::string& path) {
+    const std::string bytes = bot.host.Disk().Read(path);
+    bot.script = std::make_shared<Script>(ScriptTextFromFile(bytes), path);
     RunScript(bot, EventScriptLoaded);
+    return FileRemark(FileKind::Script, path, bytes);
 }
 
 std::string WithExtension(const std::string& path, const char* extension) {

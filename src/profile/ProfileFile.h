@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 struct Bot;
 struct Profile;
@@ -11,8 +13,9 @@ inline constexpr char kScriptExtension[] = ".vs";
 
 /// What came of reading a profile, for the program to tell the user.
 struct ProfileLoad {
-    bool found = false;           ///< is there a profile of that name; if not, nothing was loaded
-    std::string missingScript{};  ///< the script the profile names, when there is no such file (Windows-1252)
+    bool found = false;                  ///< is there a profile of that name; if not, nothing was loaded
+    std::string missingScript{};         ///< the script the profile names, when there is no such file (Windows-1252)
+    std::vector<std::string> remarks{};  ///< what is the matter with the files that were read (UTF-8); see FileRemark
 };
 
 /// Reads a profile in place of the current one, as at start-up: with its ignore list and its script. The script's
@@ -43,8 +46,9 @@ void NewProfile(Bot& bot);
 
 /// Reads a script file in place of the current script and raises EventScriptLoaded.
 /// @param path  of an existing file, UTF-8
+/// @return what is the matter with it; see FileRemark
 /// @throws RuntimeFault when it can't be read; what the script raises
-void LoadScript(Bot& bot, const std::string& path);
+std::optional<std::string> LoadScript(Bot& bot, const std::string& path);
 
 /// The name with an extension added when it does not end in it, letter case apart.
 std::string WithExtension(const std::string& path, const char* extension);

@@ -25,9 +25,10 @@ Settings LoadSettings(const Files& disk, const std::string& folder) {
 }
 
 void SaveSettings(Files& disk, const std::string& folder, const Settings& settings) {
+    const std::string recent = FitsCodePage(settings.recent) ? FromUtf8(settings.recent) : std::string();
     disk.Write(JoinPath(folder, kSettingsFile), JoinFileLines({
                                                     "[General]",
-                                                    "Recent=" + FromUtf8(settings.recent),
+                                                    "Recent=" + recent,
                                                     "Top=" + FormatNumber(settings.top),
                                                     "Left=" + FormatNumber(settings.left),
                                                 }));

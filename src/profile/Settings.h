@@ -8,7 +8,7 @@ inline constexpr char kSettingsFile[] = "tvorel.cfg";
 
 /// What the program remembers from one run to the next, in "tvorel.cfg" in its own folder.
 struct Settings {
-    std::string recent;        ///< path of the last profile, UTF-8; empty when none
+    std::string recent;        ///< path of the last profile, UTF-8; empty when none, or none that the file can hold
     double top = 0, left = 0;  ///< the main window's place, in the window system's units
     bool hasPlace = false;     ///< whether the file tells the place
 };

@@ -168,3 +168,15 @@ std::string FromUtf8(std::string_view utf8) {
     for (std::size_t position = 0; position < utf8.size();) text += FromUnicode(NextUtf8(utf8, position));
     return text;
 }
+
+bool FitsCodePage(std::string_view utf8) { return ToUtf8(FromUtf8(utf8)) == utf8; }
+
+bool HoldsUtf8(std::string_view bytes) {
+    bool beyondAscii = false;
+    for (std::size_t position = 0; position < bytes.size();) {
+        const char32_t point = NextUtf8(bytes, position);
+        if (point == 0xFFFD) return false;
+        beyondAscii = beyondAscii || point >= 0x80;
+    }
+    return beyondAscii;
+}

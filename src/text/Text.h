@@ -38,3 +38,9 @@ std::string ToUtf8(std::string_view text);
 
 /// UTF-8 to Windows-1252; what the code page lacks, and bytes that are no UTF-8, become "?".
 std::string FromUtf8(std::string_view utf8);
+
+/// Whether UTF-8 text survives the way to Windows-1252 and back.
+bool FitsCodePage(std::string_view utf8);
+
+/// Whether bytes are UTF-8 with at least one character beyond ASCII. Windows-1252 hardly ever looks like it.
+bool HoldsUtf8(std::string_view bytes);

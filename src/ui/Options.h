@@ -35,6 +35,9 @@ class Options {
     /// The profile that has ended the program soon after it was opened; empty when none.
     QString FaultedProfile() const { return Value("recent/faulted").toString(); }
 
+    /// The profile that was open at the end, when the settings can't hold its path; otherwise empty.
+    QString OpenProfile() const { return Value("recent/open").toString(); }
+
     QStringList RecentProfiles() const { return Value("recent/profiles").toStringList(); }
 
     void Set(const char* key, const QVariant& value);

@@ -14,8 +14,10 @@
 #include <QStackedLayout>
 
 #include "engine/Files.h"
+#include "profile/ProfilePaths.h"
 #include "ui/Dialogs.h"
 #include "ui/ShownText.h"
+#include "ui/UnnamedFile.h"
 
 namespace {
 
@@ -261,29 +263,50 @@ void frmCfg::cmdRI_Click() {
     delete lstIgnores_->takeItem(lstIgnores_->currentRow());
 }
 
-void frmCfg::cmdClient_Click() {
-    const auto chosen =
-        dialogs_.AskOpenFile(this, "Select a Furcadia client", "Furcadia Client (Furcadia.exe) | Furcadia.exe",
-                             ShownPath(FolderOf(TypedPath(txtClient_->text()))));
-    if (!chosen) return;
-    txtClient_->setText(*chosen);
+QString frmCfg::FolderOfNamed(const QLineEdit& edit) const {
+    const std::string folder = FolderOf(TypedPath(edit.text()));
+    // A file that is named from the profile's folder, because its whole path can't be.
+    const bool fromProfile = !FitsCodePage(profile_.path) && !folder.starts_with('/');
+    return ShownPath(fromProfile ? JoinPath(FolderOf(profile_.path), folder) : folder);
+}
+
+std::optional<std::string> frmCfg::NameOf(const QString& path) {
+    auto name = NameInProfile(profile_.path, TypedPath(path));
+    if (!name) dialogs_.ShowMessage(this, WhyNotNamed(TypedPath(path)), "Invalid");
+    return name;
+}
+
+void frmCfg::TakeChosen(QLineEdit& edit, const QString& path) {
+    const auto name = NameOf(path);
+    if (!name) return;
+    edit.setText(Shown(*name));
     edit_.MarkChanged();
+}
+
+std::optional<std::string> frmCfg::NameIn(const QLineEdit& edit, const std::string& before) {
+    return edit.text() == Shown(before) ? before : NameOf(edit.text());
+}
+
+void frmCfg::cmdClient_Click() {
+    const auto chosen = dialogs_.AskOpenFile(
+        this, "Select a Furcadia client", "Furcadia Client (Furcadia.exe) | Furcadia.exe", FolderOfNamed(*txtClient_));
+    if (chosen) TakeChosen(*txtClient_, *chosen);
 }
 
 void frmCfg::cmdINI_Click() {
     const auto chosen = dialogs_.AskOpenFile(this, "Select a Furcadia character", "Furcadia Character (*.ini) | *.ini",
-                                             ShownPath(FolderOf(TypedPath(txtINI_->text()))));
-    if (!chosen) return;
-    txtINI_->setText(*chosen);
-    edit_.MarkChanged();
+                                             FolderOfNamed(*txtINI_));
+    if (chosen) TakeChosen(*txtINI_, *chosen);
 }
 
 void frmCfg::cmdOK_Click() {
     if (!ProfileEdit::IsUsablePort(Typed(cmbPort_->currentText()))) {
         return dialogs_.ShowMessage(this, tr("The port is a number from 1 to 32767."), "Invalid");
     }
-    edit_.Apply({Typed(txtClient_->text()), Typed(txtINI_->text()), chkClient_->isChecked(), chkClose_->isChecked(),
-                 optSignatureFirst_->isChecked(), Typed(cmbPort_->currentText()),
-                 TypedPath(cmbAddress_->currentData().toString())});
+    const auto client = NameIn(*txtClient_, profile_.clientPath);
+    const auto character = client ? NameIn(*txtINI_, profile_.characterPath) : std::nullopt;
+    if (!client || !character) return;
+    edit_.Apply({*client, *character, chkClient_->isChecked(), chkClose_->isChecked(), optSignatureFirst_->isChecked(),
+                 Typed(cmbPort_->currentText()), TypedPath(cmbAddress_->currentData().toString())});
     accept();
 }

@@ -51,6 +51,12 @@ class frmCfg final : public QDialog {
     void ShowProfile();
     void ShowPage(int page);
 
+    /// What the profile is to call a file; nothing, and the user told why, when it can't.
+    std::optional<std::string> NameOf(const QString& path);
+    std::optional<std::string> NameIn(const QLineEdit& edit, const std::string& before);
+    void TakeChosen(QLineEdit& edit, const QString& path);
+    QString FolderOfNamed(const QLineEdit& edit) const;
+
     void cmdAdd_Map_Click();
     void cmdDel_Map_Click();
     void cmdAdd_Owner_Click();

@@ -15,6 +15,7 @@
 #include "engine/Script.h"
 #include "platform/QtHost.h"
 #include "platform/WholeFile.h"
+#include "profile/FileRemarks.h"
 #include "profile/ProfileFile.h"
 #include "profile/ProfilePaths.h"
 #include "text/Fault.h"
@@ -23,6 +24,7 @@
 #include "ui/FindBar.h"
 #include "ui/MenuItems.h"
 #include "ui/ShownText.h"
+#include "ui/UnnamedFile.h"
 #include "ui/VorelSpeakLexer.h"
 
 namespace {
@@ -203,6 +205,7 @@ void frmGS::ShowBotScript() {
     const auto& script = host_.bot().script;
     if (!script) return NewScript();
     // Absolute, for keeping: the next start may be from another folder.
+    unnamed_ = false;
     path_ = script->File().empty() ? std::string() : host_.Disk().Absolute(script->File());
     if (!path_.empty()) ClearUnfinished(FolderOf(path_));
     SetText(script->Text());
@@ -217,6 +220,7 @@ std::string frmGS::ShowFile(const std::string& path) {
 }
 
 void frmGS::NewScript() {
+    unnamed_ = false;
     path_.clear();
     SetText(kNewScript);
 }
@@ -258,18 +262,37 @@ void frmGS::ReadFrom(const std::string& path) {
     host_.RunHandler([&] {
         const std::string text = ShowFile(*found);
         NameInProfile();
-        host_.bot().script = std::make_shared<Script>(text, path_);
-        RunScript(host_.bot(), EventScriptLoaded);
+        RunText(text);
     });
+}
+
+void frmGS::RunText(const std::string& text) {
+    host_.bot().script = std::make_shared<Script>(text, path_);
+    if (const auto remark = FileRemark(FileKind::Script, path_, ScriptTextToFile(text))) {
+        emit ScriptRemarked(ShownPath(*remark));
+    }
+    RunScript(host_.bot(), EventScriptLoaded);
 }
 
 /// A profile that names this file already, perhaps from its own folder, keeps it as it stands.
 void frmGS::NameInProfile() {
     Bot& bot = host_.bot();
+    const std::string path = host_.Disk().Absolute(path_);
+    unnamed_ = false;
     const auto named = FindProfileFile(bot, bot.profile.scriptPath);
-    if (named && host_.Disk().Absolute(*named) == host_.Disk().Absolute(path_)) return;
-    bot.profile.scriptPath = FromUtf8(path_);
+    if (named && host_.Disk().Absolute(*named) == path) return;
+    const auto name = ::NameInProfile(bot.profile.path, FitsCodePage(path_) ? path_ : path);
+    unnamed_ = !name;
+    if (unnamed_) return dialogs_.ShowMessage(this, WhyNotNamed(path), kSaveTitle, Dialogs::Icon::Critical);
+    bot.profile.scriptPath = *name;
     emit ScriptFileChanged();
+}
+
+void frmGS::NameScriptFrom(const std::string& profile) {
+    if (!unnamed_) return;
+    const auto name = ::NameInProfile(profile, host_.Disk().Absolute(path_));
+    if (name) host_.bot().profile.scriptPath = *name;
+    unnamed_ = !name;
 }
 
 bool frmGS::Save() { return path_.empty() ? SaveAs() : WriteTo(path_); }
@@ -311,10 +334,7 @@ bool frmGS::WriteTo(const std::string& path) {
     txtScript_->setModified(false);
     ShowTitle();
     NameInProfile();
-    host_.RunHandler([&] {
-        host_.bot().script = std::make_shared<Script>(text, path_);
-        RunScript(host_.bot(), EventScriptLoaded);
-    });
+    host_.RunHandler([&] { RunText(text); });
     return true;
 }
 

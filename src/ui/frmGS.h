@@ -53,6 +53,10 @@ class frmGS final : public QMainWindow {
     std::string ScriptText() const;
     const std::string& Path() const { return path_; }
 
+    /// Names a script in the profile that could not be named there, when a profile at another path can.
+    /// @param profile  where the profile is about to be saved, absolute, UTF-8
+    void NameScriptFrom(const std::string& profile);
+
     /// Fills the tree of commands from the command list.
     /// @param path  UTF-8; a missing file leaves the roots empty
     void LoadCommands(const std::string& path);
@@ -67,6 +71,9 @@ class frmGS final : public QMainWindow {
     /// Another script than the profile named was saved or opened; it names that one now.
     void ScriptFileChanged();
 
+    /// The script that was opened or saved can't run, or not as it is meant; see FileRemark.
+    void ScriptRemarked(const QString& remark);
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -76,6 +83,7 @@ class frmGS final : public QMainWindow {
     Dialogs& dialogs_;
     std::string path_;  ///< of the script file, UTF-8; empty for a new script
     bool unloading_ = false;
+    bool unnamed_ = false;  ///< the profile, as it lies now, can't name the script
 
     QsciScintilla* txtScript_;
     VorelSpeakLexer* lexer_;
@@ -97,6 +105,7 @@ class frmGS final : public QMainWindow {
     void Open();
     void ReadFrom(const std::string& path);
     void NameInProfile();
+    void RunText(const std::string& text);
     bool WriteTo(const std::string& path);
     bool LosesNothing();
 };

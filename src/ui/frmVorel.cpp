@@ -39,6 +39,7 @@
 #include "ui/ProgramFolder.h"
 #include "ui/ShownText.h"
 #include "ui/TrayIcon.h"
+#include "ui/UnnamedFile.h"
 #include "ui/VariableList.h"
 #include "ui/frmCfg.h"
 #include "ui/frmGS.h"
@@ -99,6 +100,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(tray_, &TrayIcon::ExitChosen, this, &QWidget::close);
 
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
+    connect(editor_.get(), &frmGS::ScriptRemarked, this, &frmVorel::Announce);
     connect(&reconnector_, &Reconnector::TryNow, this, [this] {
         if (bot().status.canConnect) host_.RunHandler([this] { host_.Connect(); });
     });
@@ -111,9 +113,9 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWorkOrTell);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
     ::NewProfile(bot());
+    ShowSplitLines();
     bot().profile.serverAddress =
         TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
-    ShowSplitLines();
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
                                              [this](const QString& path) { OpenDocument(TypedPath(path)); });
     ShowTitle();
@@ -204,10 +206,10 @@ void frmVorel::BuildMenus() {
                   options_.Set("connection/reconnect", on);
                   if (!on) reconnector_.Stop();
               });
-    AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
-              [this](bool on) { options_.Set("connection/atStart", on); });
     keepsSplitLines_ = AddOption(*session, "mnuKeepSplitLines", tr("&Keep lines that the network has split"), false,
                                  [this](bool on) { KeepSplitLines(on); });
+    AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
+              [this](bool on) { options_.Set("connection/atStart", on); });
 
     QMenu* const script = AddMenu(*menuBar(), "mnuScript", "&Script");
     AddItem(*script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
@@ -388,7 +390,8 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
         AnnounceTrouble(
             tr("Nothing can be written in %1: neither settings nor unsaved work will be kept.").arg(folder_));
     editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
-    const Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
+    Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
+    if (settings.recent.empty()) settings.recent = TypedPath(options_.OpenProfile());
     MoveTo(settings);
     auto profile = recovery_.FoundProfile(), script = recovery_.FoundScript();
     if (profile && !Wants(tr("configuration"), profile->path)) profile.reset();
@@ -431,10 +434,10 @@ void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) 
         scriptLeftOut_ = true;
         reconnector_.Stop();
         ShowTitle();
+        ShowSplitLines();
         const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
         if (!script) return editor_->NewScript();
         editor_->ShowFile(*script);
-        ShowSplitLines();
         Announce(tr("%1 stands in the editor (Script, Edit); saving it there loads it.").arg(ShownPath(*script)));
     } catch (const RuntimeFault& fault) {
         Announce(tr("%1 can't be read: %2.").arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))));
@@ -493,18 +496,15 @@ void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     ClearUnfinished(FolderOf(path));
     reconnector_.Stop();  // it was for another bot
     ShowTitle();
+    ShowSplitLines();
     editor_->ShowBotScript();
     options_.AddRecentProfile(ShownPath(path));
+    for (const std::string& remark : load.remarks) Announce(ShownPath(remark));
     if (!load.missingScript.empty()) {
-    ShowSplitLines();
         Announce(tr("The profile names the script %1, which does not exist.").arg(Shown(load.missingScript)));
     }
 }
 
-void frmVorel::ShowRecentProfiles() {
-    mnuRecent_->clear();
-    for (const QString& path : options_.RecentProfiles()) {
-        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] { OpenDocument(TypedPath(path)); });
 /// Shows whether the bot keeps split lines, and lets it: a new one does, a profile as its user has chosen.
 void frmVorel::ShowSplitLines() {
     const std::string& path = bot().profile.path;
@@ -519,6 +519,10 @@ void frmVorel::KeepSplitLines(bool keep) {
     if (!path.isEmpty() && options_.KeepsSplitLines(path) != keep) options_.KeepSplitLines(path, keep);
 }
 
+void frmVorel::ShowRecentProfiles() {
+    mnuRecent_->clear();
+    for (const QString& path : options_.RecentProfiles()) {
+        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] { OpenDocument(TypedPath(path)); });
     }
 }
 
@@ -530,11 +534,11 @@ void frmVorel::NewProfile() {
     bot().profile.serverAddress = address;
     editor_->NewScript();
     ShowTitle();
+    ShowSplitLines();
 }
 
 bool frmVorel::SaveProfile() { return bot().profile.path.empty() ? SaveProfileAs() : WriteProfile(bot().profile.path); }
 
-    ShowSplitLines();
 bool frmVorel::SaveProfileAs() {
     const auto chosen = AskSaveName(dialogs_, this, "Save Tandry Vorel As...", kProfileFilter,
                                     ShownPath(FolderOf(bot().profile.path)), kProfileExtension);
@@ -542,6 +546,12 @@ bool frmVorel::SaveProfileAs() {
 }
 
 bool frmVorel::WriteProfile(const std::string& path) {
+    const std::string absolute = host_.Disk().Absolute(path);
+    editor_->NameScriptFrom(absolute);
+    if (const auto unnamed = NameFilesFrom(bot(), absolute)) {
+        dialogs_.ShowMessage(this, WhyNotNamed(*unnamed), "Save Vorel", Dialogs::Icon::Critical);
+        return false;
+    }
     try {
         ::SaveProfile(bot(), path);
     } catch (const RuntimeFault& fault) {
@@ -552,6 +562,7 @@ bool frmVorel::WriteProfile(const std::string& path) {
         return false;
     }
     ShowTitle();
+    KeepSplitLines(keepsSplitLines_->isChecked());  // under its new name, perhaps
     options_.AddRecentProfile(ShownPath(bot().profile.path));
     return true;
 }
@@ -562,7 +573,6 @@ bool frmVorel::MayDropChanges(bool offersCancel) {
     // The script first: saved under a new name, it changes the profile.
     if (!editor_->MayDropChanges(offersCancel) || faulted_) return false;
     if (!bot().profile.dirty) return true;
-    KeepSplitLines(keepsSplitLines_->isChecked());  // under its new name, perhaps
     const auto answer =
         dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", offersCancel);
     if (faulted_) return false;  // while the question was open
@@ -574,6 +584,7 @@ bool frmVorel::MayDropChanges(bool offersCancel) {
 void frmVorel::SaveAllSettings() {
     Settings settings;
     settings.recent = bot().profile.path;
+    options_.Set("recent/open", FitsCodePage(settings.recent) ? QString() : ShownPath(settings.recent));
     if (!isMinimized()) {
         settings.top = y();
         settings.left = x();
@@ -670,6 +681,13 @@ void frmVorel::txtSend_Enter(const QString& line) {
     host_.RunHandler([&] { host_.session().TypeLine(Typed(line)); });
 }
 
+/// For a program that starts in another folder; as the profile has it when there is no such file.
+QString frmVorel::CharacterFile() {
+    const auto found = FindProfileFile(bot(), bot().profile.characterPath);
+    const bool named = !found || FitsCodePage(host_.Disk().Absolute(*found));
+    return named ? Shown(bot().profile.characterPath) : ShownPath(host_.Disk().Absolute(*found));
+}
+
 void frmVorel::cmdC_Click(const QString& caption) {
     if (caption == kVorelConfigurationTool) return ShowConfiguration();
     const std::string folder = host_.CurrentFolder();
@@ -678,7 +696,7 @@ void frmVorel::cmdC_Click(const QString& caption) {
     if (!program) return;
     // A bare name would be looked for along the search path.
     const QString absolute = ShownPath(host_.Disk().Absolute(*program));
-    const QStringList arguments = playerEditor ? QStringList{Shown(bot().profile.characterPath)} : QStringList();
+    const QStringList arguments = playerEditor ? QStringList{CharacterFile()} : QStringList();
     if (!QProcess::startDetached(absolute, arguments, ShownPath(folder))) {
         Announce(tr("%1 could not be started.").arg(absolute));
     }

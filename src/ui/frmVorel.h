@@ -124,6 +124,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void MoveTo(const Settings& settings);
 
     void txtSend_Enter(const QString& line);
+    QString CharacterFile();
     void cmdC_Click(const QString& caption);
     void cmdHelp_Click();
     void ShowConfiguration();

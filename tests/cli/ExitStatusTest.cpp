@@ -10,6 +10,8 @@ TEST(ExitStatus, TellsWhatWentWrongInOneLine) {
     files.WriteBot("faulty", "(0:0) loaded,\r\n (5:68) {n} and store {5}\r\n (5:72) {n} by {0}");
     files.Write("homeless.tvm", "[General]\nOwners=Ann\n");
     files.WriteBot("told", "(0:46) told,\r\n (5:2) note }{");
+    files.WriteBot("marked");
+    files.Write("marked.ini", "\xEF\xBB\xBFName=marked\n");
     files.Write("told.txt", "type \"&go\n");
     files.Write("cut.txt", "connect\nserver ([ hello to you. ]\n");
     files.Write("bad.txt", "connect\nnonsense\n");

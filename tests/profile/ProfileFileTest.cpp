@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "profile/FileRemarks.h"
 #include "profile/ProfileFile.h"
 #include "profile/ProfilePaths.h"
 #include "profile/Settings.h"
@@ -123,6 +124,61 @@ TEST(Profile, RelativePathsPreferTheCurrentFolder) {
     EXPECT_EQ(FindProfileFile(bot.bot, "none.vs"), std::nullopt);
     EXPECT_EQ(FindProfileFile(bot.bot, ""), std::nullopt);
 }
+
+TEST(Profile, NamesAFileFromItsFolderWhenOnlyThatFits) {
+    const std::string home = "/home/\xc5\x82ukasz/", profile = home + "bots/bot.tvm";
+    struct {
+        std::string profile, path;
+        std::optional<std::string> name;
+    } const cases[] = {
+        {profile, "/home/caf\xc3\xa9/a.vs", "/home/caf\xe9/a.vs"},
+        {profile, home + "bots/a?.vs", "a?.vs"},
+        {profile, home + "bots/more/a.vs", "more/a.vs"},
+        {profile, home + "a.vs", "../a.vs"},
+        {profile, "/home/\xc5\x82ukas/bots/a.vs", std::nullopt},
+        {profile, home + "bots/\xc5\x82.vs", std::nullopt},
+        {"", home + "a.vs", std::nullopt},
+        {"/bots/bot.tvm", home + "a.vs", std::nullopt},
+    };
+    for (const auto& [from, path, name] : cases) EXPECT_EQ(NameInProfile(from, path), name) << path;
+}
+
+struct RemarkCase : Row {
+    FileKind kind;
+    std::string bytes, matter;  ///< none: nothing is the matter
+};
+
+const std::string kGood = "VSPK 01.00 Vorel\r\n(0:0) x,\r\n";
+const RemarkCase kRemarks[] = {
+    {"Good", FileKind::Script, "vspk 01.00 VOREL\ncaf\xe9\r\r\n", ""},
+    {"Empty", FileKind::Script, "", ""},
+    {"Utf16", FileKind::Script, "\xFF\xFEV" + std::string(1, '\0'),
+     "the script can't run, for it is written in UTF-16"},
+    {"Utf16WithoutMark", FileKind::Profile, std::string("[\0G\0", 4), "it is written in UTF-16"},
+    {"Mark", FileKind::Character, "\xEF\xBB\xBFName=a\n", "it begins with a byte-order mark"},
+    {"CROnly", FileKind::Script, "VSPK 01.00 Vorel\r(0:0) x,\r",
+     "the script can't run, for its lines end with CR alone"},
+    {"BlankBehind", FileKind::Script, "VSPK 01.00 Vorel\t\n\n", "the script can't run, for blanks stand"},
+    {"HeaderOnly", FileKind::Script, "VSPK 01.00 Vorel", "the script can't run, for there is nothing behind"},
+    {"NoHeader", FileKind::Script, "(0:0) x,\n", "the script can't run, for its first line is not its header"},
+    {"ProfilesNeedNone", FileKind::Profile, "[General]\n", ""},
+    {"Utf8", FileKind::Script, kGood + "caf\xc3\xa9", "it is written in UTF-8"},
+    {"NoUtf8", FileKind::Script, kGood + "\xc3\xa9 \xe9", ""},
+};
+
+class Remarks : public testing::TestWithParam<RemarkCase> {};
+
+TEST_P(Remarks, TellWhatIsTheMatterOfAScriptThatCantRun) {
+    const RemarkCase& file = GetParam();
+    const std::string remark = FileRemark(file.kind, "f", file.bytes).value_or("");
+    EXPECT_EQ(remark.substr(0, file.matter.empty() ? remark.npos : file.matter.size() + 3),
+              file.matter.empty() ? "" : "f: " + file.matter);
+    const bool told = remark.find("can't run") != remark.npos || file.bytes.empty();
+    EXPECT_EQ(file.kind == FileKind::Script && !Script(ScriptTextFromFile(file.bytes)).IsValid(),
+              told && file.kind == FileKind::Script);
+}
+
+INSTANTIATE_TEST_SUITE_P(File, Remarks, testing::ValuesIn(kRemarks), kCaseName);
 
 TEST(Profile, IgnoredNamesMatchWithBarsAndCaseApart) {
     Profile profile;

@@ -1,6 +1,7 @@
 #include "platform/Guarded.h"
 #include "profile/ProfileFile.h"
 #include "ui/Desk.h"
+#include "ui/frmCfg.h"
 
 namespace {
 
@@ -63,6 +64,74 @@ TEST_F(Program, OpensAndSavesProfilesByTheMenu) {
     window->show();
     Close({"Yes", Path("no/folder/bot.tvm")});
     EXPECT_TRUE(window->isVisible()) << "while it can't be saved";
+}
+
+TEST_F(Program, KeepsSplitLinesOfNewBotsAndWhereItWasChosen) {
+    Start();
+    const auto keeps = [this] { return The<QAction>("mnuKeepSplitLines").isChecked(); };
+    EXPECT_TRUE(keeps());
+    Open("bot.tvm");
+    EXPECT_FALSE(keeps());
+    Choose("mnuNew");
+    Choose("mnuSave", {Path("mybot")});
+    Start();
+    EXPECT_TRUE(keeps());
+    Open("bot.tvm");
+    EXPECT_FALSE(keeps());
+    Open("mybot.tvm");
+    EXPECT_TRUE(keeps());
+    Choose("mnuKeepSplitLines");
+    Open("mybot.tvm");
+    EXPECT_FALSE(keeps());
+}
+
+TEST_F(Program, NamesFilesFromTheProfileWhoseWholePathItCannotHold) {
+    const QString home = "łukasz/";
+    QDir(Path()).mkpath(home + "bots");
+    QFile::copy(Path("bot.ini"), Path(home + "my.ini"));
+    QFile::copy(Path("bot.vs"), Path(home + "my.vs"));
+    const QString refusal = "The profile can't name " + Path(home);
+    Start();
+    EXPECT_TRUE(Open(home + "my.vs").startsWith("critical [Save Script] " + refusal + "my.vs"));
+    EXPECT_EQ(bot().profile.scriptPath, "");
+    const auto choose = [&](const QString& file) {
+        frmCfg form(bot().profile, {}, dialogs);
+        const QString told = dialogs.During({Path(file)}, [&] { dialogs.Choose(form, "cmdINI"); });
+        dialogs.Choose(form, "cmdOK");
+        return told.section('|', -1);
+    };
+    EXPECT_TRUE(choose(home + "my.ini").startsWith("message [Invalid] " + refusal));
+    Choose("mnuSave", {Path(home + "my")});
+    choose(home + "my.ini");
+    EXPECT_EQ(bot().profile.characterPath, "my.ini");
+    EXPECT_TRUE(Choose("mnuSaveAs", {Path("mine")}).contains("|critical [Save Vorel] " + refusal));
+    EXPECT_FALSE(QFile::exists(Path("mine.tvm")));
+    EXPECT_FALSE(Choose("mnuSaveAs", {Path(home + "bots/my")}).contains(refusal));
+    EXPECT_TRUE(Read(home + "bots/my.tvm").contains("\r\nFurcadiaCharacter=../my.ini\r\n"));
+    EXPECT_TRUE(Read(home + "bots/my.tvm").contains("\r\nScript=../my.vs\r\n"));
+    Close();
+    EXPECT_TRUE(Read("tvorel.cfg").contains("\r\nRecent=\r\n"));
+    Start();
+    EXPECT_EQ(window->windowTitle().section(' ', -1) + ConsoleText(), "[my.tvm]ready\n");
+    Choose("mnuNew");
+    Close();
+    Start();
+    EXPECT_EQ(ConsoleText(), "") << "without a profile the next start has none either";
+}
+
+TEST_F(Program, TellsWhyAScriptThatIsOpenedOrSavedCantRun) {
+    Write("marked.vs", "\xEF\xBB\xBF" + ScriptText(""));
+    Write("marked.tvm", "\xEF\xBB\xBF[General]\r\nOwners=Ann\r\n");
+    Start();
+    Open("marked.tvm");
+    Open("marked.vs");
+    Editor().RestoreText(Path("marked.vs").toStdString(), "VSPK 01.00 Vorel \r\n");
+    ChooseInEditor("mnuSave");
+    const QStringList told = ConsoleText().split('\n');
+    ASSERT_EQ(told.size(), 4) << ConsoleText();
+    EXPECT_TRUE(told[0].startsWith(Path("marked.tvm") + ": it begins with a byte-order mark"));
+    EXPECT_TRUE(told[1].startsWith(Path("marked.vs") + ": the script can't run, for it begins with a byte-order mark"));
+    EXPECT_TRUE(told[2].startsWith(Path("marked.vs") + ": the script can't run, for blanks stand before or behind"));
 }
 
 /// The ways to leave a profile and a script with unsaved changes: controls, and what else there is.

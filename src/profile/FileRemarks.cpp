@@ -1,0 +1,75 @@
+#include "profile/FileRemarks.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "engine/Script.h"
+#include "text/Text.h"
+
+namespace {
+
+bool IsUtf16(std::string_view bytes) {
+    return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+           bytes.substr(0, 4).find('\0') != bytes.npos;
+}
+
+bool HasMark(std::string_view bytes) { return bytes.starts_with("\xEF\xBB\xBF"); }
+
+bool EndsLinesWithCR(std::string_view bytes) {
+    return bytes.find('\n') == bytes.npos && bytes.find('\r') != bytes.npos;
+}
+
+std::string FirstLine(std::string_view bytes) {
+    const std::vector<std::string> lines = FileLines(bytes);
+    return lines.empty() ? std::string() : lines.front();
+}
+
+bool IsHeader(std::string_view line) { return UpperCase(line) == UpperCase(kScriptHeader); }
+
+bool HasBlanksAroundHeader(std::string_view bytes) {
+    std::string line = FirstLine(bytes);
+    std::replace(line.begin(), line.end(), '\t', ' ');
+    return !IsHeader(FirstLine(bytes)) && IsHeader(Trim(line));
+}
+
+bool HasHeaderOnly(std::string_view bytes) { return IsHeader(FirstLine(bytes)) && FileLines(bytes).size() == 1; }
+
+bool HasNoHeader(std::string_view bytes) { return !bytes.empty() && !IsHeader(FirstLine(bytes)); }
+
+/// What may be the matter with a file, in the order in which it is looked for, and what to do about it.
+struct Row {
+    bool scriptsOnly;
+    bool keepsFromRunning;  ///< a script
+    bool (*applies)(std::string_view bytes);
+    std::string_view matter, cure;
+};
+
+// clang-format off
+constexpr Row kRows[] = {
+    {false, true,  IsUtf16, "it is written in UTF-16, of which nothing can be read",
+                            "Save it as Windows-1252, which editors also call ANSI or Western."},
+    {false, true,  HasMark, "it begins with a byte-order mark, which spoils its first line",
+                            "Save it as Windows-1252, which editors also call ANSI or Western, or without the mark."},
+    {false, true,  EndsLinesWithCR, "its lines end with CR alone, so that all of it is one line",
+                            "Save it with the line ends of Windows or of Unix."},
+    {true,  true,  HasBlanksAroundHeader, "blanks stand before or behind its header",
+                            "Take them out of its first line."},
+    {true,  true,  HasHeaderOnly, "there is nothing behind its header", "Write some triggers."},
+    {true,  true,  HasNoHeader, "its first line is not its header",
+                            "Put the line \"VSPK 01.00 Vorel\" before all others."},
+    {false, false, HoldsUtf8, "it is written in UTF-8, so that letters beyond the English ones are taken for several others",
+                            "Save it as Windows-1252, which editors also call ANSI or Western."},
+};
+// clang-format on
+
+}  // namespace
+
+std::optional<std::string> FileRemark(FileKind kind, const std::string& path, std::string_view bytes) {
+    const bool script = kind == FileKind::Script;
+    const auto* const row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& candidate) {
+        return (script || !candidate.scriptsOnly) && candidate.applies(bytes);
+    });
+    if (row == std::end(kRows)) return std::nullopt;
+    return path + ": " + (script && row->keepsFromRunning ? "the script can't run, for " : "") +
+           std::string(row->matter) + ". " + std::string(row->cure);
+}
