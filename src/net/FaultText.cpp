@@ -76,7 +76,8 @@ std::string DescribeFault(const RuntimeFault& fault, const Bot& bot) {
     const Reason& reason = ReasonOf(fault.Kind());
     const std::string named = WithoutPasswords(bot, Named(fault)), why(reason.otherwise);
     const bool heard = bot.heard.from != Heard::From::Nobody;
-    if (!IsInFile(bot.place)) return named + ": " + (heard ? Quoted(bot) + " " + std::string(reason.ofLine) : why) + ".";
+    if (!IsInFile(bot.place))
+        return named + ": " + (heard ? Quoted(bot) + " " + std::string(reason.ofLine) : why) + ".";
     return named + WhereIn(bot.place) + ": " + why + "." + (heard ? " The bot was answering " + Quoted(bot) + "." : "");
 }
 

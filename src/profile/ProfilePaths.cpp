@@ -5,6 +5,7 @@
 #include "engine/Bot.h"
 #include "engine/Files.h"
 #include "engine/Host.h"
+#include "text/Text.h"
 
 namespace {
 

@@ -37,8 +37,13 @@ int main(int argc, char** argv) {
     const std::string noCommandList = ProvideCommandList(folder);
     QtDialogs dialogs;
     frmVorel window(dialogs, folder);
-    application.OnException([&](const std::exception& exception) { window.host().EndWith(exception); });
-    window.Start(documents, arguments.isSet(practice));
+    const auto endWith = [&](const std::exception& exception) { window.host().EndWith(exception); };
+    application.OnException(endWith);
+    try {
+        window.Start(documents, arguments.isSet(practice));
+    } catch (const std::exception& exception) {
+        endWith(exception);
+    }
     window.show();
     if (!noCommandList.empty())
         window.AnnounceTrouble(

@@ -42,7 +42,8 @@ std::string Recovery::Keep(Slot& slot, const std::optional<Copy>& unsaved) {
         if (slot.written != packed && !nothingThere) disk_.Write(slot.file, packed);
         slot.written = packed;
     } catch (const std::exception& exception) {
-        const RuntimeFault fault = AsFault(exception);  // the work itself is still in the window; the next try may do better
+        const RuntimeFault fault =
+            AsFault(exception);  // the work itself is still in the window; the next try may do better
         return fault.Detail().empty() ? std::string(fault.Name()) : fault.Detail();
     }
     return {};
