@@ -17,8 +17,17 @@ int OpenWakeUp() {
 }
 
 void WakeUp(int) {
+    // A second hangup is no impatience: a terminal that closes and its shell both send one.
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
     const char byte = 0;
     if (::write(wakeUp[1], &byte, 1) < 0) return;  // nothing that could be done here
+}
+
+void WakeUpOnHangup() {
+    struct sigaction before {};
+    ::sigaction(SIGHUP, nullptr, &before);
+    if (before.sa_handler != SIG_IGN) std::signal(SIGHUP, WakeUp);
 }
 
 }  // namespace
@@ -31,10 +40,12 @@ EndSignals::EndSignals(std::function<void()> onEnd)
     });
     std::signal(SIGINT, WakeUp);
     std::signal(SIGTERM, WakeUp);
+    WakeUpOnHangup();
 }
 
 EndSignals::~EndSignals() {
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
+    // A late hangup keeps its handler, which finds the pipe closed: the program is on its way out already.
     for (int& end : wakeUp) ::close(std::exchange(end, -1));
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cli/EndSignals.h"
+#include "cli/Printing.h"
 #include "cli/Report.h"
 #include "cli/TourFile.h"
 #include "cli/TypedInput.h"
@@ -76,5 +77,9 @@ void AddPracticeVerb(CLI::App& app, VerbAction& action) {
         ->capture_default_str();
     verb->add_option("--tour", options->tourFile, "the file that says which visitors come and what they do");
     verb->add_option("--name", options->name, "your own furre's name")->capture_default_str();
-    verb->callback([options, &action] { action = [options] { return Practice(*options); }; });
+    const auto practice = [options] {
+        Printing printing;
+        return printing.Leave(Practice(*options));
+    };
+    verb->callback([practice, &action] { action = practice; });
 }

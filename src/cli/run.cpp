@@ -12,6 +12,7 @@
 
 #include "cli/ConsoleOutput.h"
 #include "cli/EndSignals.h"
+#include "cli/Printing.h"
 #include "cli/TerminalBot.h"
 #include "cli/TourFile.h"
 #include "cli/TypedInput.h"
@@ -174,10 +175,11 @@ int Run(const RunOptions& options) {
     int argumentCount = 1;
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
+    Printing printing;
     Guarded<QCoreApplication> application(argumentCount, arguments);
     TerminalRun run(options);
     application.OnException([&](const std::exception& exception) { run.OnFault(DescribeFault(AsFault(exception))); });
-    return run.Run();
+    return printing.Leave(run.Run());
 }
 
 }  // namespace

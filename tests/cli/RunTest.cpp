@@ -45,7 +45,7 @@ constexpr char kGone[] = "(0:2) when disconnected,\r\n (5:2) note {gone}.\r\n";
 
 TEST_F(RunTest, SignalsDisconnectInOrderAndAreRecorded) {
     files.WriteBot("bot", kGone);
-    for (const int signal : {SIGTERM, SIGINT}) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         const auto vorel = Run({"bot.tvm", "--record", "rec.txt"});
         server.Say("(hello there\n", number);
         ASSERT_TRUE(vorel->Shows("hello there\n"));

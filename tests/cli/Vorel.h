@@ -6,11 +6,12 @@
 #include "support/BotFiles.h"
 #include "support/GameServer.h"
 
-/// The program itself, started with arguments in a folder.
+/// The program itself, started with arguments in a folder. `out` is what it prints, unless that goes into a file.
 class Vorel : public QProcess {
   public:
-    Vorel(const BotFiles& files, const QStringList& arguments) {
+    Vorel(const BotFiles& files, const QStringList& arguments, const QString& outputFile = {}) {
         setWorkingDirectory(files.Path());
+        if (!outputFile.isEmpty()) setStandardOutputFile(outputFile);
         connect(this, &QProcess::readyReadStandardOutput, [this] { out += readAllStandardOutput(); });
         connect(this, &QProcess::readyReadStandardError, [this] { err += readAllStandardError(); });
         start(VOREL_PROGRAM, arguments);
