@@ -25,6 +25,7 @@ seeds_for_scripts() {
     grep -h '^([15]:' tests/language/*.txt | a_file_each "$1"
     sed -i '1i (0:6) when somebody whispers,' "$1"/line-*
 }
+seeds_for_walkers() { seeds_for_scripts "$1"; }
 seeds_for_files() { copies "$1" examples/*/*.tvm examples/*/*.ini tests/sessions/*.tvm tests/sessions/*.ini tests/sessions/*/*; }
 seeds_for_sessions() { copies "$1" examples/*/rehearsal.txt tests/sessions/*.txt; }
 seeds_for_tours() {

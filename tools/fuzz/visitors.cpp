@@ -1,7 +1,7 @@
 // Visitors' text against the example bots, all in one practice dream. A line's first character says what it is:
 // "w" is whispered to every bot, "s" said, "e" emoted, ">" sent as a raw command, "t" lets two seconds pass, and "r" is
-// whispered by way of a game that takes out no control characters. Whatever visitors say: no bot faults, none tells its
-// password, and files are written only where data files belong.
+// whispered by way of a game that takes out no control characters. Whatever visitors say: no bot faults but for a text
+// grown too long, none tells its password, and files are written only where data files belong.
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -70,11 +70,17 @@ class Player {
     }
 
   private:
+    /// The rules let a text that grows without end, as words that hold themselves make one, end the bot.
+    static constexpr std::string_view kGrownTooLong = "Out of memory";
+
     template <typename Handler>
     void Handle(Handler handler) {
+        if (ended_) return;
         try {
             handler();
         } catch (const RuntimeFault& fault) {
+            ended_ = fault.Name() == kGrownTooLong;
+            if (ended_) return;
             Broken(name_ + " faults: " + std::string(fault.Name()) + " " + fault.Detail() + " at line " +
                    std::to_string(host_.bot.place.line) + " of " + host_.bot.place.file);
         }
@@ -93,7 +99,7 @@ class Player {
     std::string name_;
     Dream& dream_;
     FurreId furre_;
-    bool loggedIn_ = false;
+    bool loggedIn_ = false, ended_ = false;
     RehearsalBot host_;
 };
 
