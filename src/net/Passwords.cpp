@@ -1,6 +1,7 @@
 #include "net/Passwords.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "engine/Bot.h"
@@ -20,22 +21,30 @@ std::vector<std::string> Spellings(const Bot& bot) {
     return spellings;
 }
 
+struct Found {
+    std::size_t at, length;
+};
+
+/// The spelling that comes first in a text, and of several at one place the longest.
+std::optional<Found> FirstOf(const std::vector<std::string>& spellings, std::string_view text) {
+    std::optional<Found> first;
+    for (const std::string& spelling : spellings) {
+        const std::size_t at = text.find(spelling);
+        if (at != text.npos && (!first || at < first->at)) first = {at, spelling.size()};
+    }
+    return first;
+}
+
 }  // namespace
 
 std::string WithoutPasswords(const Bot& bot, std::string_view text) {
     const std::vector<std::string> spellings = Spellings(bot);
     std::string masked;
-    while (!text.empty()) {
-        const auto here = std::find_if(spellings.begin(), spellings.end(),
-                                       [&](const std::string& spelling) { return text.starts_with(spelling); });
-        if (here == spellings.end()) {
-            masked += text.front();
-        } else {
-            masked += kMaskedPassword;
-        }
-        text.remove_prefix(here == spellings.end() ? 1 : here->size());
+    while (const std::optional<Found> next = FirstOf(spellings, text)) {
+        masked.append(text.substr(0, next->at)).append(kMaskedPassword);
+        text.remove_prefix(next->at + next->length);
     }
-    return masked;
+    return masked.append(text);
 }
 
 std::string WithoutPassword(std::string_view line) {
