@@ -27,7 +27,7 @@ _vorel() {
             if [[ $cur == -* ]]; then
                 case $verb in
                     run) _vorel_words '--help --practice --tour --server --port --log --record --keep-split-lines
-                                       --quiet --folder' "$cur" ;;
+                                       --stay --quiet --folder' "$cur" ;;
                     try) _vorel_words '--help --now --seed --folder' "$cur" ;;
                     practice) _vorel_words '--help --port --tour --name' "$cur" ;;
                 esac

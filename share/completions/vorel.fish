@@ -15,6 +15,7 @@ complete -c vorel -n $run -l port -x -d 'Connect to this port'
 complete -c vorel -n $run -l log -rF -d 'Append the console to this file'
 complete -c vorel -n $run -l record -rF -d 'Write a session for vorel try'
 complete -c vorel -n $run -l keep-split-lines -d 'Keep lines cut by the end of a packet'
+complete -c vorel -n $run -l stay -d 'Connect again when the connection is lost'
 complete -c vorel -n $run -l quiet -d 'Show no console lines'
 complete -c vorel -n $run -l folder -xa '(__fish_complete_directories)' -d 'Where data files are'
 

@@ -18,6 +18,13 @@ std::string Harmless(std::string text) {
 
 std::string FaultForTerminal(const RuntimeFault& fault, const Bot& bot) { return Harmless(DescribeFault(fault, bot)); }
 
+std::string ReasonOfEnd(const SessionStatus& status) {
+    if (status.end == SessionStatus::End::ByError) return "no connection: " + status.reason;
+    if (status.refusals == 0) return "the server has ended the connection";
+    const std::string times = status.IsLoginRefused() ? " " + std::to_string(status.refusals) + " times running" : "";
+    return "the server has ended the connection" + times + " before the bot was let in: check its name and password";
+}
+
 std::string MissingScript(const std::string& profilePath, const ProfileLoad& load) {
     return profilePath + ": there is no script " + ToUtf8(load.missingScript) + "; the bot runs without one";
 }

@@ -10,6 +10,9 @@
 /// A fault in words for standard error (see DescribeFault): UTF-8, control characters put out of action.
 std::string FaultForTerminal(const RuntimeFault& fault, const Bot& bot);
 
+/// Why a session that was lost, or never came about, has ended. Windows-1252.
+std::string ReasonOfEnd(const SessionStatus& status);
+
 /// Tells which script a profile names in vain. UTF-8.
 std::string MissingScript(const std::string& profilePath, const ProfileLoad& load);
 

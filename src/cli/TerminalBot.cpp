@@ -50,9 +50,7 @@ std::string TerminalBot::Label() const {
     return name.empty() ? FileNameOf(profilePath_) : ToUtf8(name);
 }
 
-void TerminalBot::Connect() {
-    host_.RunHandler([this] { host_.Connect(); });
-}
+void TerminalBot::Connect() { host_.ConnectNow(); }
 
 void TerminalBot::Leave() { host_.Leave(); }
 
@@ -71,8 +69,14 @@ void TerminalBot::ShowMessage(std::string_view title, std::string_view text) {
 void TerminalBot::StatusChanged() {
     // Whether this is the end shows only when the script has had its turn: it may connect again.
     QTimer::singleShot(0, &host_, [this] {
-        if (IsIdle()) owner_.onIdle();
+        endTold_ = endTold_ && status().canConnect;
+        if (status().canConnect && status().IsLost() && !std::exchange(endTold_, true)) TellEnd();
+        if (status().IsIdle()) owner_.onIdle();
     });
+}
+
+void TerminalBot::TellEnd() {
+    std::cerr << "vorel run: " << profilePath_ << ": " << Printable(ReasonOfEnd(status())) << std::endl;
 }
 
 void TerminalBot::EndWithFault(const RuntimeFault& fault) {

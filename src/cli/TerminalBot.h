@@ -45,12 +45,9 @@ class TerminalBot final : public FrontEnd {
 
     void TypeLine(const std::string& line);
 
-    bool IsIdle() const { return host_.bot().status.canConnect; }
+    const SessionStatus& status() const { return host_.bot().status; }
 
-    /// Whether an error has ended its last connection, or kept it from being made, instead of an orderly end.
-    bool HasFailed() const { return host_.bot().status.end == SessionStatus::End::ByError; }
-
-    Session& session() { return host_.session(); }
+    QtHost& host() { return host_; }
 
     /// See Session::KeepSplitLines.
     void KeepSplitLines(bool keep);
@@ -68,8 +65,10 @@ class TerminalBot final : public FrontEnd {
     Owner owner_;
     bool hasLabel_ = false, keepsSplitLines_ = false;
     RecordingFile recordFile_;
+    bool endTold_ = false;  ///< why the last session has ended
     std::unique_ptr<Recording> recording_;
     QtHost host_;
 
     void Record(const std::string& lines);
+    void TellEnd();
 };

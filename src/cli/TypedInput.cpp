@@ -3,12 +3,13 @@
 #include <unistd.h>
 
 #include <array>
-#include <utility>
+#include <iostream>
 
 #include "text/Text.h"
 
 TypedInput::TypedInput(std::function<void(const std::string& line)> onLine)
     : onLine_(std::move(onLine)), notifier_(STDIN_FILENO, QSocketNotifier::Read) {
+    lines_.KeepSplitLines(true);
     QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] { Read(); });
 }
 
@@ -17,16 +18,16 @@ void TypedInput::Read() {
     const auto count = ::read(STDIN_FILENO, bytes.data(), bytes.size());
     if (count <= 0) {
         notifier_.setEnabled(false);
-        if (!unfinished_.isEmpty()) HandOver(std::exchange(unfinished_, {}));
+        if (const std::string rest = lines_.TakeRest(); !rest.empty()) HandOver(rest);
         return;
     }
-    QList<QByteArray> lines = (unfinished_ + QByteArray(bytes.data(), count)).split('\n');
-    unfinished_ = lines.takeLast();
-    for (const QByteArray& line : lines) HandOver(line);
+    for (const std::string& line : lines_.Take({bytes.data(), static_cast<std::size_t>(count)})) HandOver(line);
+    if (lines_.TakeDropped() > 0)
+        std::cerr << "vorel: a typed line was left out: it was longer than 1 MiB" << std::endl;
 }
 
-void TypedInput::HandOver(const QByteArray& line) {
-    std::string text = FromUtf8(line.toStdString());
+void TypedInput::HandOver(const std::string& line) {
+    std::string text = FromUtf8(line);
     if (text.ends_with('\r')) text.pop_back();
     onLine_(text);
 }

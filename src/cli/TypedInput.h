@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QByteArray>
 #include <QSocketNotifier>
 #include <functional>
 #include <string>
+
+#include "net/PacketLines.h"
 
 /// Lines typed on standard input, handed over from the event loop as Windows-1252 without their line end. At the end
 /// of the input it falls silent; a last line without an end still counts.
@@ -13,9 +14,9 @@ class TypedInput {
 
   private:
     void Read();
-    void HandOver(const QByteArray& line);
+    void HandOver(const std::string& line);
 
     std::function<void(const std::string&)> onLine_;
     QSocketNotifier notifier_;
-    QByteArray unfinished_;
+    PacketLines lines_;
 };

@@ -32,7 +32,7 @@ constexpr int kLastAnswersMs = 2000;
 
 struct RunOptions {
     std::vector<std::string> profiles;
-    bool practice = false, quiet = false, keepSplitLines = false;
+    bool practice = false, quiet = false, keepSplitLines = false, stay = false;
     std::string server, log, record, tour, folder = ".";
     int port = 0;
 };
@@ -56,7 +56,7 @@ class TerminalRun {
         if (const int refusal = Prepare()) return refusal;
         for (const auto& bot : bots_) bot->Connect();
         if (exit_) return *exit_;
-        if (std::all_of(bots_.begin(), bots_.end(), [](const auto& bot) { return bot->IsIdle(); })) return kConfigExit;
+        if (AllAreIdle()) return kConfigExit;
 
         const EndSignals endSignals([this] { End(0); });
         const TypedInput input([this](const std::string& line) { Type(line); });
@@ -99,9 +99,11 @@ class TerminalRun {
     int AddBot(const std::string& profile) {
         const TerminalBot::Owner owner{[this] { OnIdle(); }, [this](const std::string& why) { OnFault(why); }};
         auto& bot = *bots_.emplace_back(std::make_unique<TerminalBot>(profile, options_.folder, output_, owner));
-        bot.session().SetServer(options_.server, options_.port);
-        if (practice_) bot.session().SetServer("127.0.0.1", practicePort_);
+        Session& session = bot.host().session();
+        session.SetServer(options_.server, options_.port);
+        if (practice_) session.SetServer("127.0.0.1", practicePort_);
         bot.KeepSplitLines(options_.keepSplitLines);
+        bot.host().StayConnected(options_.stay);
         if (options_.profiles.size() > 1) bot.ShowLabel();
         if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
         if (exit_) return *exit_;
@@ -154,12 +156,24 @@ class TerminalRun {
         chosen->TypeLine(text);
     }
 
+    bool AllAreIdle() const {
+        return std::all_of(bots_.begin(), bots_.end(), [](const auto& bot) { return bot->status().IsIdle(); });
+    }
+
     /// Without a window nobody could connect an idle bot again: when the last one has gone idle, the run is over.
     void OnIdle() {
-        const auto idle = [](const auto& bot) { return bot->IsIdle(); };
-        const auto failed = [](const auto& bot) { return bot->HasFailed(); };
-        if (!std::all_of(bots_.begin(), bots_.end(), idle)) return;
-        End(std::any_of(bots_.begin(), bots_.end(), failed) ? kUnavailableExit : 0);
+        if (AllAreIdle()) End(StatusOfIdleBots());
+    }
+
+    /// What ends a run for good comes first: its supervisor is not to start it again.
+    int StatusOfIdleBots() const {
+        const auto any = [this](bool (*holds)(const SessionStatus&)) {
+            return std::any_of(bots_.begin(), bots_.end(), [&](const auto& bot) { return holds(bot->status()); });
+        };
+        if (any([](const SessionStatus& status) { return status.IsLoginRefused(); })) return kNoPermissionExit;
+        if (any([](const SessionStatus& status) { return status.end == SessionStatus::End::NotYet; }))
+            return kConfigExit;
+        return any([](const SessionStatus& status) { return status.IsLost(); }) ? kUnavailableExit : 0;
     }
 
     /// Disconnects every bot, so that its script hears of it, and leaves.
@@ -201,6 +215,7 @@ void AddRunVerb(CLI::App& app, VerbAction& action) {
     verb->add_option("--record", options->record, "write what comes and goes as a session for `vorel try`");
     verb->add_flag("--keep-split-lines", options->keepSplitLines, "keep a line that was cut by the end of a packet");
     verb->add_flag("--quiet", options->quiet, "show no console lines");
+    verb->add_flag("--stay", options->stay, "connect again, for ever, when the connection is lost or can't be had");
     verb->add_option("--folder", options->folder, "where data files are (default: the current folder)");
     verb->callback([options, &action] { action = [options] { return Run(*options); }; });
 }

@@ -35,6 +35,20 @@ struct SessionStatus {
     enum class End { NotYet, Asked, ByServer, ByError };
     End end = End::NotYet;
     std::string reason;  ///< of an error, in words
+
+    int nextTry = 0;  ///< in how many seconds the bot tries to connect again; 0 when it doesn't
+
+    /// How often running the server has closed the connection before it let the bot in. Once may be the server's own
+    /// trouble, so many times are a refused login.
+    int refusals = 0;
+    static constexpr int kRefusalsToBelieve = 5;
+    bool IsLoginRefused() const { return refusals >= kRefusalsToBelieve; }
+
+    /// Whether the bot is neither connected nor about to be.
+    bool IsIdle() const { return canConnect && nextTry == 0; }
+
+    /// Whether the last connection was lost, refused or could not be had, instead of given up by the bot.
+    bool IsLost() const { return end == End::ByServer || end == End::ByError; }
 };
 
 /// Where the program is in a file that it reads or runs, so that a fault can name the place.

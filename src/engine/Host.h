@@ -23,7 +23,8 @@ class Host {
     virtual void WriteToServer(std::string_view bytes) = 0;
     virtual void WriteToClient(std::string_view bytes) = 0;
 
-    /// The connect and disconnect routines of the bot's session.
+    /// The connect and disconnect routines of the bot's session. The host may let a bot wait that connects again and
+    /// again.
     virtual void Connect() = 0;
     virtual void Disconnect() = 0;
 

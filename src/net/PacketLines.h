@@ -2,24 +2,34 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// Cuts what arrives on a socket into lines. The protocol reader takes a packet as a whole: what follows the last
 /// line feed of a packet is dropped, unless it is to be kept for the next one. Carriage returns stay.
 class PacketLines {
   public:
+    /// No line of the game comes near this: a longer one is nobody's command, and is dropped up to its line feed.
+    static constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;
+
     void KeepSplitLines(bool keep) { keep_ = keep; }
 
     /// The ended lines of a packet, without their line feeds.
-    std::vector<std::string> Take(std::string_view packet);
+    /// @param goesOn  more of this packet is already there and comes with the next call, so that its end is no end
+    std::vector<std::string> Take(std::string_view packet, bool goesOn = false);
+
+    /// How many lines were dropped for their length since the last call.
+    std::size_t TakeDropped() { return std::exchange(dropped_, 0); }
+
+    /// What was kept of a line that has not ended, when nothing comes any more.
+    std::string TakeRest() { return std::exchange(kept_, {}); }
 
     /// Forgets what was kept; for a new connection.
-    void Clear() { kept_.clear(); }
+    void Clear();
 
   private:
-    /// No line of the game comes near this; more without a line feed is not worth keeping.
-    static constexpr std::size_t kLongestLine = std::size_t{64} * 1024;
-
     bool keep_ = false;
+    bool skips_ = false;  ///< up to the end of a line that is too long
+    std::size_t dropped_ = 0;
     std::string kept_;
 };

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "engine/Bot.h"
 #include "engine/Dispatcher.h"
@@ -70,6 +71,7 @@ std::string ErrorLine(std::string_view socket, const SocketError& error) {
 }  // namespace
 
 void Session::Connect() {
+    bot_.status.end = SessionStatus::End::NotYet;
     const bool character = FindProfileFile(bot_, bot_.profile.characterPath).has_value();
     // Without a client to link nobody needs its program.
     const bool client = !bot_.profile.IsClientMode() || FindProfileFile(bot_, bot_.profile.clientPath).has_value();
@@ -209,10 +211,12 @@ void Session::LogIn() {
     modSend::SendDesc(bot_, bot_.state.vorel.desc);
 }
 
-void Session::OnServerData(std::string_view packet) {
+void Session::OnServerData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsServerConnected()) return;
+    const std::vector<std::string> lines = serverLines_.Take(packet, goesOn);
+    TellDropped("the server", serverLines_);
     std::string relayed;
-    for (const std::string& line : serverLines_.Take(packet)) {
+    for (const std::string& line : lines) {
         Note(Happening::ServerLine, line);
         HeardMark heard(bot_, Heard::From::Game, line);
         ParseServerLine(bot_, line);
@@ -222,8 +226,15 @@ void Session::OnServerData(std::string_view packet) {
     if (!relayed.empty() && bot_.host.IsClientConnected()) bot_.host.WriteToClient(relayed);
 }
 
+void Session::TellDropped(std::string_view whose, PacketLines& lines) {
+    for (std::size_t dropped = lines.TakeDropped(); dropped > 0; --dropped) {
+        bot_.host.ShowConsoleLine("A line of " + std::string(whose) + " was left out: it was longer than 1 MiB.");
+    }
+}
+
 void Session::OnServerClosed() {
     Note(Happening::Closed);
+    bot_.status.refusals = WasLetIn() ? 0 : bot_.status.refusals + 1;
     ShowIdle(SessionStatus::End::ByServer);
     CloseClientWindow();
     RunScript(bot_, EventDisconnected);
@@ -231,10 +242,14 @@ void Session::OnServerClosed() {
 
 void Session::OnServerError(const SocketError& error) {
     link_.CloseServer();
+    if (WasLetIn()) bot_.status.refusals = 0;
     bot_.status.reason = error.description;
     ShowIdle(SessionStatus::End::ByError);
     bot_.host.ShowConsoleLine(ErrorLine("Server", error));
 }
+
+/// The game sends the map of the dream to whoever is let in.
+bool Session::WasLetIn() const { return !bot_.state.mapFile.empty(); }
 
 void Session::OnClientRequest() {
     link_.AcceptClient();
@@ -249,10 +264,12 @@ void Session::OnClientConnected() {
     ShowMenus(bot_.status.canDisconnect, true);
 }
 
-void Session::OnClientData(std::string_view packet) {
+void Session::OnClientData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsClientConnected()) return;
+    const std::vector<std::string> lines = clientLines_.Take(packet, goesOn);
+    TellDropped("the client", clientLines_);
     std::string relayed;
-    for (const std::string& line : clientLines_.Take(packet)) {
+    for (const std::string& line : lines) {
         Note(Happening::ClientLine, line);
         HeardMark heard(bot_, Heard::From::Client, line);
         if (!FilterClientLine(bot_, line)) continue;

@@ -40,16 +40,16 @@ class Session {
     /// anything else is said.
     void TypeLine(std::string_view text);
 
-    // What happens on the sockets.
+    // What happens on the sockets. A packet that goes on has its rest in the next call.
 
     void OnServerConnected();
-    void OnServerData(std::string_view packet);
+    void OnServerData(std::string_view packet, bool goesOn = false);
     void OnServerClosed();
     void OnServerError(const SocketError& error);
 
     void OnClientRequest();
     void OnClientConnected();
-    void OnClientData(std::string_view packet);
+    void OnClientData(std::string_view packet, bool goesOn = false);
     void OnClientClosed();
     void OnClientError(const SocketError& error);
 
@@ -75,11 +75,13 @@ class Session {
     SessionObserver* observer_ = nullptr;
 
     void Note(SessionObserver::Happening happening, std::string_view text = {});
+    void TellDropped(std::string_view whose, PacketLines& lines);
     void ConnectStandAlone();
     void ConnectThroughClient();
     void ConnectServer(const std::string& address);
     void LearnPassword();
     void LogIn();
+    bool WasLetIn() const;
     void ShowMenus(bool inSession, bool canStandAlone);
     void ShowIdle(SessionStatus::End end);
     void GiveUpClient(const std::string& why);

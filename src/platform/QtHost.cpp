@@ -19,13 +19,8 @@ using Happening = SessionObserver::Happening;
 
 namespace {
 
-/// How much of a flood is handled at a time, before the event loop gets its turn.
-constexpr qint64 kPacketLimit = qint64{64} * 1024;
-
-/// Property of a socket the rest of whose flood waits for its turn: what arrives meanwhile waits behind it.
-constexpr char kWaits[] = "waits";
-
-constexpr int kLastPort = 65535;
+/// A client that says more than the server takes waits until no more than this is left of it.
+constexpr qint64 kMostRelayed = qint64{64} * 1024;
 
 QString FromUtf8Text(const std::string& utf8) { return QString::fromStdString(utf8); }
 
@@ -50,14 +45,6 @@ std::string StartRefusal(const std::string& program, const QProcess& process) {
         return FromUtf8(program) + " may not be run as a program. Its file's permissions must allow that.";
     }
     return FromUtf8(program) + ": " + ToBotText(process.errorString());
-}
-
-/// One packet: what has arrived, or in a flood as many whole lines as fit the limit.
-QByteArray TakePacket(QTcpSocket& socket) {
-    if (socket.bytesAvailable() <= kPacketLimit) return socket.readAll();
-    const QByteArray peeked = socket.peek(kPacketLimit);
-    const qsizetype lines = peeked.lastIndexOf('\n') + 1;
-    return socket.read(lines > 0 ? lines : kPacketLimit);
 }
 
 }  // namespace
@@ -108,16 +95,80 @@ void QtHost::EndWith(const std::exception& exception) {
 
 void QtHost::Leave() {
     leaving_ = true;
-    RunHandler([this] { session_.Disconnect(); });
+    RunHandler([this] { Disconnect(); });
 }
 
-bool QtHost::IsConnected(const QTcpSocket* socket) const {
-    return socket && (socket->state() == QAbstractSocket::ConnectedState || socket == draining_);
+// --- connecting again --------------------------------------------------------------------------------------------
+
+void QtHost::ConnectNow() {
+    reconnector_.Forget();
+    bot_.status.refusals = 0;
+    Dial();
 }
 
-void QtHost::Write(QTcpSocket* socket, std::string_view bytes) {
-    if (socket && socket->state() == QAbstractSocket::ConnectedState)
-        socket->write(bytes.data(), static_cast<qint64>(bytes.size()));
+void QtHost::StayConnected(bool stays) {
+    stays_ = stays;
+    if (!stays) StopTrying();
+}
+
+void QtHost::StopTrying() {
+    reconnector_.Forget();
+    if (std::exchange(bot_.status.nextTry, 0) == 0) return;
+    bot_.status.canDisconnect = false;
+    StatusChanged();
+}
+
+void QtHost::Dial() {
+    if (leaving_) return;
+    const bool waited = std::exchange(bot_.status.nextTry, 0) > 0;
+    RunHandler([&] {
+        session_.Connect();
+        // The profile may have lost what it takes meanwhile: then the try is over before it has begun.
+        if (!waited || !bot_.status.canConnect) return;
+        bot_.status.canDisconnect = false;
+        StatusChanged();
+    });
+    TryAgainIfLost();
+}
+
+void QtHost::Connect() {
+    const SessionStatus& status = bot_.status;
+    if (leaving_ || !status.IsIdle() || status.IsLoginRefused()) return;
+    TryAgain(Reconnector::First::AtOnce);
+}
+
+void QtHost::Disconnect() {
+    reconnector_.EndPause();
+    bot_.status.nextTry = 0;
+    session_.Disconnect();
+}
+
+void QtHost::TryAgain(Reconnector::First first) {
+    constexpr int kSecondMs = 1000;
+    const int pause = reconnector_.Schedule(first);
+    if (pause == 0) return session_.Connect();
+    const int seconds = (pause + kSecondMs / 2) / kSecondMs;
+    bot_.status.nextTry = seconds;
+    bot_.status.canDisconnect = true;
+    ShowConsoleLine("Trying again in " + std::to_string(seconds) + (seconds == 1 ? " second." : " seconds."));
+    StatusChanged();
+}
+
+/// After a session's end, when the script has had its turn to connect by itself.
+void QtHost::TryAgainIfLost() {
+    const SessionStatus& status = bot_.status;
+    if (!stays_ || ended_ || leaving_ || !status.IsIdle() || !status.IsLost() || status.IsLoginRefused()) return;
+    RunHandler([this] { TryAgain(Reconnector::First::AfterAPause); });
+}
+
+// --- sockets and timers ------------------------------------------------------------------------------------------
+
+void QtHost::Write(Wire* wire, std::string_view bytes) {
+    if (wire) wire->Write(bytes);
+}
+
+void QtHost::Release(Wire*& wire) {
+    if (wire) std::exchange(wire, nullptr)->Close();
 }
 
 void QtHost::WriteToServer(std::string_view bytes) {
@@ -126,10 +177,10 @@ void QtHost::WriteToServer(std::string_view bytes) {
         if (lines.back().empty()) lines.pop_back();
         for (const std::string& line : lines) observer_->Note(Happening::Sent, line);
     }
-    Write(sckServer_, bytes);
+    Write(server_, bytes);
 }
 
-void QtHost::WriteToClient(std::string_view bytes) { Write(sckClient_, bytes); }
+void QtHost::WriteToClient(std::string_view bytes) { Write(client_, bytes); }
 
 void QtHost::SwitchMovementTimer(bool enabled) {
     if (!enabled) {
@@ -157,30 +208,49 @@ std::string QtHost::LongTime(const LocalTime& time) const {
 
 double QtHost::Random() { return QRandomGenerator::global()->generateDouble(); }
 
+void QtHost::CloseServer() {
+    if (online_.isValid()) reconnector_.SessionEnded(std::chrono::milliseconds(online_.elapsed()));
+    online_.invalidate();
+    Release(server_);
+}
+
 void QtHost::ConnectServer(const std::string& profileAddress, int profilePort) {
-    Release(sckServer_);
+    CloseServer();
     std::string address = profileAddress;
     int port = profilePort;
     if (resolver_) resolver_(address, port);
-    sckServer_ = new QTcpSocket(this);
-    connect(sckServer_, &QTcpSocket::connected, this, [this] {
-        RunHandler([this] { session_.OnServerConnected(); });
-        if (sckClient_) ReadPacket(sckClient_, &Session::OnClientData);
-    });
-    Watch(sckServer_, &Session::OnServerData, &Session::OnServerClosed, &Session::OnServerError);
-
-    if (port < 1 || port > kLastPort) {
-        const SocketError noPort{0, "there is no port " + std::to_string(port), 0, FromUtf8(address)};
-        QTimer::singleShot(0, sckServer_, [this, noPort] { RunHandler([&] { session_.OnServerError(noPort); }); });
-        return;
-    }
     const std::string builtIn = *kClientModeServer == '\0' ? kGameServer : kClientModeServer;
-    sckServer_->connectToHost(FromUtf8Text(ToUtf8(address.empty() ? builtIn : address)), static_cast<quint16>(port));
+    const std::string host = ToUtf8(address.empty() ? builtIn : address);
+    server_ = new Wire(new QTcpSocket, ServerListener(host), this);
+    server_->Connect(host, port);
 }
 
-void QtHost::CloseClient() {
-    listener_.close();
-    Release(sckClient_);
+Wire::Listener QtHost::ServerListener(const std::string& host) {
+    Wire::Listener listener;
+    listener.onConnected = [this] {
+        online_.start();
+        RunHandler([this] { session_.OnServerConnected(); });
+        if (client_) client_->Resume();
+    };
+    listener.onSilence = [this, host] {
+        ShowConsoleLine(FromUtf8(host) + " has not answered yet. It is given up when it has not answered within " +
+                        std::to_string(Wire::kAnswerWithin.count()) + " seconds.");
+    };
+    listener.onData = [this](std::string_view bytes, bool goesOn) {
+        RunHandler([&] { session_.OnServerData(bytes, goesOn); });
+    };
+    listener.onEnd = [this](const auto& error) { OnServerEnd(error); };
+    listener.onWritten = [this] {
+        if (client_) client_->Resume();
+    };
+    return listener;
+}
+
+void QtHost::OnServerEnd(const std::optional<SocketError>& error) {
+    CloseServer();
+    RunHandler([&] { error ? session_.OnServerError(*error) : session_.OnServerClosed(); });
+    TryAgainIfLost();
+    if (client_) client_->Resume();
 }
 
 bool QtHost::ListenForClient(std::int16_t port) {
@@ -188,13 +258,39 @@ bool QtHost::ListenForClient(std::int16_t port) {
     return listener_.listen(QHostAddress::LocalHost, static_cast<quint16>(port));
 }
 
-void QtHost::AcceptClient() {
-    Release(sckClient_);
-    sckClient_ = listener_.nextPendingConnection();
+void QtHost::CloseClient() {
     listener_.close();
-    if (!sckClient_) return;
-    sckClient_->setParent(this);
-    Watch(sckClient_, &Session::OnClientData, &Session::OnClientClosed, &Session::OnClientError);
+    Release(client_);
+}
+
+void QtHost::AcceptClient() {
+    Release(client_);
+    QTcpSocket* const socket = listener_.nextPendingConnection();
+    listener_.close();
+    if (socket) client_ = new Wire(socket, ClientListener(), this);
+}
+
+Wire::Listener QtHost::ClientListener() {
+    Wire::Listener listener;
+    listener.onData = [this](std::string_view bytes, bool goesOn) {
+        RunHandler([&] { session_.OnClientData(bytes, goesOn); });
+    };
+    listener.onEnd = [this](const auto& error) { OnClientEnd(error); };
+    listener.mayRead = [this] { return MayReadClient(); };
+    return listener;
+}
+
+/// A client may log in before the server it is to be led to has answered, and say more than that takes: it waits.
+bool QtHost::MayReadClient() const {
+    return !server_ || (server_->IsConnected() && server_->UnsentBytes() <= kMostRelayed);
+}
+
+void QtHost::OnClientEnd(const std::optional<SocketError>& error) {
+    Release(client_);
+    RunHandler([&] {
+        if (error) session_.OnClientError(*error);
+        session_.OnClientClosed();
+    });
 }
 
 std::string QtHost::StartClient(const std::string& program, const std::string& characterFile) {
@@ -220,62 +316,4 @@ std::int64_t QtHost::FindClientWindow() {
         ShowConsoleLine("On this desktop the Furcadia client's window can't be found, so it can't be closed either.");
     }
     return window.value_or(0);
-}
-
-void QtHost::Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)(), ErrorHandler onError) {
-    connect(socket, &QTcpSocket::readyRead, this, [this, socket, onData] {
-        if (!socket->property(kWaits).toBool()) ReadPacket(socket, onData);
-    });
-    connect(socket, &QTcpSocket::disconnected, this,
-            [this, socket, onData, onClosed] { Drain(socket, onData, onClosed); });
-    connect(socket, &QTcpSocket::errorOccurred, this, [this, socket, onError](QAbstractSocket::SocketError error) {
-        if (error == QAbstractSocket::RemoteHostClosedError) return;  // an orderly end, told by disconnected
-        const SocketError what{static_cast<int>(error), FromUtf8(socket->errorString().toStdString()), 0,
-                               FromUtf8(socket->peerName().toStdString())};
-        RunHandler([this, onError, &what] { (session_.*onError)(what); });
-    });
-}
-
-void QtHost::ReadPacket(QTcpSocket* socket, PacketHandler onData) {
-    if (!IsOurs(socket) || socket->bytesAvailable() == 0) return;
-    // A client may log in before the server it is to be led to has answered: what it says waits for that.
-    if (socket == sckClient_ && sckServer_ && !IsConnected(sckServer_)) return;
-    const QByteArray packet = TakePacket(*socket);
-    RunHandler([&] { (session_.*onData)({packet.data(), static_cast<std::size_t>(packet.size())}); });
-    // The rest of a flood waits until everything else has had its turn.
-    if (IsOurs(socket) && socket->bytesAvailable() > 0) {
-        socket->setProperty(kWaits, true);
-        QTimer::singleShot(0, socket, [this, socket, onData] {
-            socket->setProperty(kWaits, false);
-            ReadPacket(socket, onData);
-        });
-    }
-}
-
-/// The other side has closed: what it sent before still counts, as if the connection stood until it is read.
-void QtHost::Drain(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)()) {
-    while (IsOurs(socket) && socket->bytesAvailable() > 0 && !ended_) {
-        draining_ = socket;
-        const QByteArray packet = TakePacket(*socket);
-        RunHandler([&] { (session_.*onData)({packet.data(), static_cast<std::size_t>(packet.size())}); });
-        draining_ = nullptr;
-    }
-    if (!IsOurs(socket)) return;
-    Release(socket == sckServer_ ? sckServer_ : sckClient_);
-    RunHandler([this, onClosed] { (session_.*onClosed)(); });
-}
-
-void QtHost::Release(QTcpSocket*& socket) {
-    if (!socket) return;
-    QTcpSocket* const released = std::exchange(socket, nullptr);
-    released->disconnect(this);
-    // What was written before goes out before the connection closes.
-    released->flush();
-    if (released->state() == QAbstractSocket::ConnectedState) {
-        connect(released, &QTcpSocket::disconnected, released, &QObject::deleteLater);
-        released->disconnectFromHost();
-    } else {
-        released->abort();
-        released->deleteLater();
-    }
 }

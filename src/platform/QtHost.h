@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QTimer>
 #include <functional>
 #include <memory>
@@ -16,6 +16,8 @@
 #include "platform/ClientWindow.h"
 #include "platform/DiskFiles.h"
 #include "platform/FrontEnd.h"
+#include "platform/Reconnector.h"
+#include "platform/Wire.h"
 
 /// The real world of a bot: Qt's sockets, timers and clock. It owns the bot and its session, and calls them from the
 /// event loop, one handler at a time. It translates and decides nothing.
@@ -42,18 +44,26 @@ class QtHost final : public QObject, public Host, public Link {
     /// Ends the bot for what came out of a handler elsewhere; see Guarded.
     void EndWith(const std::exception& exception);
 
+    /// Connects at once, as the user wants it.
+    void ConnectNow();
+
+    /// Whether a connection that is lost, or can't be had, is tried again, with growing pauses and for ever. A refused
+    /// login is not.
+    void StayConnected(bool stays);
+
+    /// Calls off the try that was to come.
+    void StopTrying();
+
     /// Disconnects for good: the script hears of the end, but can't connect again.
     void Leave();
 
     // Host
-    bool IsServerConnected() const override { return IsConnected(sckServer_); }
-    bool IsClientConnected() const override { return IsConnected(sckClient_); }
+    bool IsServerConnected() const override { return IsConnected(server_); }
+    bool IsClientConnected() const override { return IsConnected(client_); }
     void WriteToServer(std::string_view bytes) override;
     void WriteToClient(std::string_view bytes) override;
-    void Connect() override {
-        if (!leaving_) session_.Connect();
-    }
-    void Disconnect() override { session_.Disconnect(); }
+    void Connect() override;
+    void Disconnect() override;
     void ShowConsoleLine(std::string_view line) override { frontEnd_.ShowConsoleLine(line); }
     void ClearConsole() override { frontEnd_.ClearConsole(); }
     void ShowMessage(std::string_view title, std::string_view text) override { frontEnd_.ShowMessage(title, text); }
@@ -68,8 +78,8 @@ class QtHost final : public QObject, public Host, public Link {
 
     // Link
     void ConnectServer(const std::string& profileAddress, int profilePort) override;
-    void CloseServer() override { Release(sckServer_); }
-    void RelayToServer(std::string_view bytes) override { Write(sckServer_, bytes); }
+    void CloseServer() override;
+    void RelayToServer(std::string_view bytes) override { Write(server_, bytes); }
     void CloseClient() override;
     bool ListenForClient(std::int16_t port) override;
     void AcceptClient() override;
@@ -86,29 +96,32 @@ class QtHost final : public QObject, public Host, public Link {
     FrontEnd& frontEnd_;
     std::string programFolder_, currentFolder_;
     DiskFiles disk_;
-    bool ended_ = false, leaving_ = false;
+    bool ended_ = false, leaving_ = false, stays_ = false;
     AddressResolver resolver_;
     SessionObserver* observer_ = nullptr;
 
-    QTcpSocket* sckServer_ = nullptr;  ///< a new one for every connection; null when there is none
-    QTcpSocket* sckClient_ = nullptr;
-    const QTcpSocket* draining_ = nullptr;  ///< closed by the other side, what it sent not read yet
+    Wire* server_ = nullptr;  ///< a new one for every connection; null when there is none
+    Wire* client_ = nullptr;
     QTcpServer listener_;
     QTimer tmrScript_{this}, tmrMove_{this};
     std::unique_ptr<ClientWindow> clientWindow_ = MachineClientWindow();
     bool toldNoWindows_ = false;
 
+    Reconnector reconnector_{[this] { return Random(); }, [this] { Dial(); }, this};
+    QElapsedTimer online_;  ///< since the server was connected; invalid when it isn't
+
     Bot bot_{*this};
     Session session_{bot_, *this};
 
-    using PacketHandler = void (Session::*)(std::string_view packet);
-    using ErrorHandler = void (Session::*)(const SocketError& error);
-
-    bool IsConnected(const QTcpSocket* socket) const;
-    bool IsOurs(const QTcpSocket* socket) const { return socket == sckServer_ || socket == sckClient_; }
-    void Write(QTcpSocket* socket, std::string_view bytes);
-    void Release(QTcpSocket*& socket);
-    void Watch(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)(), ErrorHandler onError);
-    void ReadPacket(QTcpSocket* socket, PacketHandler onData);
-    void Drain(QTcpSocket* socket, PacketHandler onData, void (Session::*onClosed)());
+    void Dial();
+    void TryAgain(Reconnector::First first);
+    void TryAgainIfLost();
+    static bool IsConnected(const Wire* wire) { return wire && wire->IsConnected(); }
+    static void Write(Wire* wire, std::string_view bytes);
+    static void Release(Wire*& wire);
+    Wire::Listener ServerListener(const std::string& address);
+    Wire::Listener ClientListener();
+    void OnServerEnd(const std::optional<SocketError>& error);
+    void OnClientEnd(const std::optional<SocketError>& error);
+    bool MayReadClient() const;
 };

@@ -73,7 +73,6 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
       options_(OptionsFile(folder)),
       host_(*this, TypedPath(folder)),
       recovery_(host_.Disk(), TypedPath(OwnFolder(folder))),
-      reconnector_([this] { return host_.Random(); }, this),
       updates_(QUrl(QString(kUpdateServer))),
       console_(new ConsoleFrame(options_, dialogs, this)),
       editor_(std::make_unique<frmGS>(host_, dialogs)) {
@@ -101,9 +100,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
 
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
     connect(editor_.get(), &frmGS::ScriptRemarked, this, &frmVorel::Announce);
-    connect(&reconnector_, &Reconnector::TryNow, this, [this] {
-        if (bot().status.canConnect) host_.RunHandler([this] { host_.Connect(); });
-    });
+    host_.StayConnected(options_.Reconnect());
     keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
@@ -190,21 +187,16 @@ void frmVorel::BuildMenus() {
     AddItem(*file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
 
     QMenu* const session = AddMenu(*menuBar(), "mnuSession", tr("S&ession"));
-    AddItem(*session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] {
-        reconnector_.Stop();
-        host_.RunHandler([this] { host_.Connect(); });
-    });
-    AddItem(*session, "mnuDisconnect", "&Disconnect", QKeySequence(Qt::CTRL | Qt::Key_D), [this] {
-        reconnector_.Stop();
-        host_.RunHandler([this] { host_.Disconnect(); });
-    });
+    AddItem(*session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] { host_.ConnectNow(); });
+    AddItem(*session, "mnuDisconnect", "&Disconnect", QKeySequence(Qt::CTRL | Qt::Key_D),
+            [this] { host_.RunHandler([this] { host_.Disconnect(); }); });
     AddItem(*session, "mnuSAM", "Stand Alone &Mode", {},
             [this] { host_.RunHandler([this] { host_.session().StandAlone(); }); });
     session->addSeparator();
     AddOption(*session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Reconnect(),
               [this](bool on) {
                   options_.Set("connection/reconnect", on);
-                  if (!on) reconnector_.Stop();
+                  host_.StayConnected(on);
               });
     keepsSplitLines_ = AddOption(*session, "mnuKeepSplitLines", tr("&Keep lines that the network has split"), false,
                                  [this](bool on) { KeepSplitLines(on); });
@@ -291,48 +283,30 @@ void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
     dialogs_.ShowMessage(this, Shown(text), Shown(title), critical ? Dialogs::Icon::Critical : Dialogs::Icon::None);
 }
 
-void frmVorel::StatusChanged() {
-    ShowStatus();
-    if (bot().status.connection == "Connected" && !connected_.isValid()) connected_.start();
-    if (!bot().status.canConnect) {
-        endTold_ = false;
-    } else if (bot().status.end != SessionStatus::End::NotYet && !std::exchange(endTold_, true)) {
-        // The script may connect again by itself; the end is one only after it has had its turn.
-        QTimer::singleShot(0, this, [this] { OnSessionEnd(); });
-    }
-}
+void frmVorel::StatusChanged() { ShowStatus(); }
 
 void frmVorel::ShowStatus() {
-    const SessionStatus& status = bot().status;
-    findChild<QAction*>("mnuConnect")->setEnabled(status.canConnect);
-    findChild<QAction*>("mnuDisconnect")->setEnabled(status.canDisconnect);
-    findChild<QAction*>("mnuSAM")->setEnabled(status.canStandAlone);
-    panelName_->setText(Shown(status.botName));
-    panelConnection_->setText(status.connection.empty() ? "Disconnected" : Shown(status.connection));
-    if (!status.canConnect) panelReason_->setText(status.connection == "Connected" ? QString() : tr("Connecting..."));
+    findChild<QAction*>("mnuConnect")->setEnabled(status().canConnect);
+    findChild<QAction*>("mnuDisconnect")->setEnabled(status().canDisconnect);
+    findChild<QAction*>("mnuSAM")->setEnabled(status().canStandAlone);
+    panelName_->setText(Shown(status().botName));
+    panelConnection_->setText(status().connection.empty() ? "Disconnected" : Shown(status().connection));
+    panelReason_->setText(HowItStands());
 }
 
-void frmVorel::OnSessionEnd() {
-    const SessionStatus& status = bot().status;
-    if (!status.canConnect || faulted_) return;
-    const bool refusedLogin = status.end == SessionStatus::End::ByServer && bot().state.mapFile.empty();
+/// Whether the bot is connecting; or why it is not connected, and when it tries again.
+QString frmVorel::HowItStands() const {
+    if (!status().canConnect) return status().connection == "Connected" ? QString() : tr("Connecting...");
     QString reason;
-    if (refusedLogin) {
+    if (status().end == SessionStatus::End::ByServer && status().refusals > 0) {
         reason = tr("The server has ended the connection before the bot was let in: check its name and password.");
-    } else if (status.end == SessionStatus::End::ByServer) {
+    } else if (status().end == SessionStatus::End::ByServer) {
         reason = tr("The server has ended the connection.");
-    } else if (status.end == SessionStatus::End::ByError) {
-        reason = tr("No connection: %1").arg(Shown(status.reason));
+    } else if (status().end == SessionStatus::End::ByError) {
+        reason = tr("No connection: %1").arg(Shown(status().reason));
     }
-    const std::chrono::milliseconds stood(connected_.isValid() ? connected_.elapsed() : 0);
-    connected_.invalidate();
-    const bool lost = status.end == SessionStatus::End::ByServer || status.end == SessionStatus::End::ByError;
-    if (lost && !refusedLogin && options_.Reconnect()) {
-        reason += " " + tr("Trying again in %n second(s).", nullptr, reconnector_.Schedule(stood) / 1000);
-    } else {
-        reconnector_.Stop();
-    }
-    panelReason_->setText(reason);
+    if (status().nextTry > 0) reason += " " + tr("Trying again in %n second(s).", nullptr, status().nextTry);
+    return reason;
 }
 
 void frmVorel::EndWithFault(const RuntimeFault& fault) {
@@ -375,7 +349,7 @@ void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
     if (faulted_) {
         QuitAfterFault();  // again, since a question that was open then has taken the first for itself
     } else if (!scriptLeftOut_ && (practice || options_.ConnectAtStart())) {
-        host_.RunHandler([this] { host_.Connect(); });
+        host_.ConnectNow();
     }
 }
 
@@ -432,7 +406,7 @@ void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) 
         RestoreProfile(bot(), path, bytes);
         bot().script.reset();
         scriptLeftOut_ = true;
-        reconnector_.Stop();
+        host_.StopTrying();
         ShowTitle();
         ShowSplitLines();
         const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
@@ -494,7 +468,7 @@ void frmVorel::OpenProfileByMenu() {
 void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
     if (!load.found) return;
     ClearUnfinished(FolderOf(path));
-    reconnector_.Stop();  // it was for another bot
+    host_.StopTrying();  // it was for another bot
     ShowTitle();
     ShowSplitLines();
     editor_->ShowBotScript();
@@ -528,7 +502,7 @@ void frmVorel::ShowRecentProfiles() {
 
 void frmVorel::NewProfile() {
     if (!MayDropChanges()) return;
-    reconnector_.Stop();
+    host_.StopTrying();
     const std::string address = bot().profile.serverAddress;
     ::NewProfile(bot());
     bot().profile.serverAddress = address;
@@ -611,7 +585,7 @@ void frmVorel::closeEvent(QCloseEvent* event) {
         recovery_.KeepProfile(std::nullopt);
         host_.Leave();
     }
-    reconnector_.Stop();
+    host_.StopTrying();
     editor_->Unload();
     editor_->close();
     tray_->hide();

@@ -10,7 +10,6 @@
 #include "platform/FrontEnd.h"
 #include "platform/QtHost.h"
 #include "ui/Options.h"
-#include "ui/Reconnector.h"
 #include "ui/Recovery.h"
 #include "ui/UpdateCheck.h"
 
@@ -77,11 +76,8 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QtHost host_;
     Recovery recovery_;
     QTimer keepUnsaved_{this};
-    Reconnector reconnector_;
     UpdateCheck updates_;
-    QElapsedTimer opened_;     ///< since the profile was opened; invalid for a new one
-    QElapsedTimer connected_;  ///< since the session came about; invalid before
-    bool endTold_ = false;     ///< of the session, to the user
+    QElapsedTimer opened_;  ///< since the profile was opened; invalid for a new one
     bool faulted_ = false;
     bool toldUnkept_ = false;     ///< that unsaved work can't be put aside
     bool scriptLeftOut_ = false;  ///< at the start: a bot without its script is not to connect by itself
@@ -102,13 +98,14 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void BuildStatusBar();
 
     Bot& bot() { return host_.bot(); }
+    const SessionStatus& status() const { return host_.bot().status; }
     void ShowTitle();
     void ShowRecentProfiles();
     void ShowSplitLines();
     void KeepSplitLines(bool keep);
     void ShowLoaded(const ProfileLoad& load, const std::string& path);
     void ShowStatus();
-    void OnSessionEnd();
+    QString HowItStands() const;
     void QuitAfterFault();
 
     void NewProfile();

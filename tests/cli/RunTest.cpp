@@ -78,11 +78,28 @@ TEST_F(RunTest, TheScriptMayConnectAgainAndTheLastAttemptCounts) {
     const auto vorel = Run({"bot.tvm", "--record", "/dev/full"});
     server.Close();
     ASSERT_TRUE(server.Hears("desc ", 1));
-    server.listener.close();
-    server.Close(1);
+    server.Reset(1);
     EXPECT_EQ(vorel->Ends(), 69);
-    EXPECT_EQ(vorel->out.count("gone\n"), 2);
-    EXPECT_EQ(vorel->err, "vorel run: the recording can't be written any more\n");
+    EXPECT_EQ(vorel->out.count("gone\n"), 1) << "a broken connection is no event";
+    EXPECT_EQ(vorel->err,
+              "vorel run: the recording can't be written any more\n"
+              "vorel run: bot.tvm: no connection: the connection was broken off\n");
+}
+
+TEST_F(RunTest, StaysUntilItIsToldToGo) {
+    files.WriteBot("bot", kGone);
+    const auto vorel = Run({"bot.tvm", "--stay"});
+    server.Say(";in.map\n");
+    server.Close();
+    ASSERT_TRUE(vorel->Shows("gone\nTrying again in 1 second.\n"));
+    vorel->Signal(SIGTERM);
+    EXPECT_EQ(vorel->Ends(), 0);
+    EXPECT_EQ(vorel->err, "vorel run: bot.tvm: the server has ended the connection\n");
+    for (const char* const line : {"([ Ann whispers, \"shut down\" to you. ]\n", "(You have been booted.\n"}) {
+        const auto sent = Run({"bot.tvm", "--stay"});
+        server.Say(QByteArray("]-#B65\n") + line, number);
+        EXPECT_EQ(sent->Ends(), 0) << line;
+    }
 }
 
 TEST_F(RunTest, LogsWithTimesAndWithoutThePassword) {
@@ -128,8 +145,7 @@ while read -r line <&3; do [ "$line" = '(any news?' ] && printf '"none\n' >&3; d
     server.Say("(any news?\n");
     EXPECT_TRUE(server.Hears("\"none\n"));
     server.Close();
-    EXPECT_EQ(vorel->Ends(), 0);
-    // Without a display a line before these says that the client's window can't be found.
+    EXPECT_EQ(vorel->Ends(), 69);
     EXPECT_TRUE(vorel->out.endsWith("any news?\ngone\n")) << vorel->out.toStdString();
     ExpectNoPassword(*vorel, "rec.txt");
     EXPECT_EQ(Rehearse("rec.txt"), 0) << "lines of one packet, some passed on, some answered";
@@ -153,7 +169,7 @@ TEST_F(RunTest, SeveralBotsShareTheTerminal) {
     server.Say("(for second\n", second);
     EXPECT_TRUE(vorel->Shows("[Second Cat] for second\n"));
     server.Close(second);
-    EXPECT_EQ(vorel->Ends(), 0);
+    EXPECT_EQ(vorel->Ends(), 69);
 }
 
 TEST_F(RunTest, WalksThePracticeDreamAndRehearsesTheRecording) {

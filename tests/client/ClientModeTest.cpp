@@ -21,7 +21,7 @@ class ClientMode : public HostBench {
         const std::size_t session = server.bots.size();
         files.Write("bot.ini", "leash=" + QByteArray::number(leash.listener.serverPort()) + "\nclass=" + className +
                                    "\ntells=" + (tellsProcess ? "true" : "false") + "\n");
-        host.Connect();
+        host.ConnectNow();
         ASSERT_TRUE(server.Hears("connect Bot|One made-up\n\"Hello!\n", session));
     }
     /// Whether the client has closed its window, because it was asked to.
@@ -131,7 +131,7 @@ TEST_F(ClientMode, AClientThatCantBeStartedEndsTheSessionWithAReason) {
     for (const auto& [permissions, reason] : {std::pair{QFile::ReadOwner | QFile::ExeOwner, "could not be started: "},
                                               {QFile::Permissions(QFile::ReadOwner), "may not be run as a program"}}) {
         QFile::setPermissions(files.Path("client.txt"), permissions);
-        host.Connect();
+        host.ConnectNow();
         EXPECT_EQ(screen.Count(reason), 1) << testing::PrintToString(screen.lines);
         EXPECT_TRUE(host.bot().status.canConnect);
     }

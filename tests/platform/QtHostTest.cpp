@@ -9,8 +9,9 @@ namespace {
 class QtHostTest : public HostBench {
   protected:
     void LogIn() {
-        host.Connect();
-        ASSERT_TRUE(server.Hears("connect bot s3cr3t-w0rd\ncolor cccccccccc!\"!\n\ndesc A bot"));
+        const std::size_t session = server.bots.size();
+        host.ConnectNow();
+        ASSERT_TRUE(server.Hears("connect bot s3cr3t-w0rd\ncolor cccccccccc!\"!\n\ndesc A bot", session));
     }
 };
 
@@ -52,12 +53,126 @@ TEST_F(QtHostTest, AFloodLosesNoLineAndLeavesOthersTheirTurn) {
 
 TEST_F(QtHostTest, DisconnectingSendsWhatWasSaidBefore) {
     LogIn();
-    const QByteArray much = "\"" + QByteArray(8000000, 'x') + "\n";
-    host.WriteToServer(much.toStdString());
+    const std::string line = "\"" + std::string(100000, 'x') + "\n";
+    QByteArray much;
+    for (auto& socket = *host.findChild<QTcpSocket*>(); socket.bytesToWrite() < 500000; socket.flush()) {
+        host.WriteToServer(line);  // more than the system takes at once
+        much += line.c_str();
+    }
     host.Disconnect();
     EXPECT_FALSE(host.IsServerConnected());
     EXPECT_TRUE(server.Hears(much + "<end>"));
     EXPECT_THAT(screen.lines, ElementsAre("gone"));
+}
+
+TEST_F(QtHostTest, LetsAServerGoThatDoesNotRead) {
+    LogIn();
+    server.bots[0]->setReadBufferSize(1);
+    for (int i = 0; i < 200; ++i) host.WriteToServer(std::string(100000, 'x') + "\n");
+    EXPECT_TRUE(host.IsServerConnected()) << "whoever writes is not interrupted";
+    EXPECT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+    EXPECT_THAT(screen.lines, ElementsAre("Server Socket Error 0: more than 1 MiB of what was sent has not been read "
+                                          "(0: 127.0.0.1)"));
+}
+
+TEST_F(QtHostTest, AResetIsNoOrderlyEndButWhatCameBeforeStillCounts) {
+    LogIn();
+    server.Say("(" + QByteArray(1500000, 'x') + "\n(still heard\n");
+    ASSERT_TRUE(Eventually([&] { return screen.Count("still heard") == 1; }));
+    server.Say("(the last words\n");
+    server.Reset();
+    EXPECT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+    EXPECT_THAT(screen.lines,
+                ElementsAre("A line of the server was left out: it was longer than 1 MiB.", "still heard",
+                            "the last words", "Server Socket Error 1: the connection was broken off (104: 127.0.0.1)"));
+}
+
+TEST_F(QtHostTest, GivesUpAHostThatDoesNotAnswer) {
+    QTcpServer deaf;
+    deaf.setListenBacklogSize(0);
+    deaf.listen(QHostAddress::LocalHost);
+    deaf.pauseAccepting();
+    QTcpSocket first;
+    first.connectToHost(deaf.serverAddress(), deaf.serverPort());
+    ASSERT_TRUE(first.waitForConnected());
+    host.session().SetServer("127.0.0.1", deaf.serverPort());
+    host.ConnectNow();
+    for (const auto& [timer, word] : {std::pair{"tmrSilence", "has not answered yet"},
+                                      {"tmrAnswer", "Server Socket Error 5: there was no answer within 20 seconds"}}) {
+        EXPECT_FALSE(host.bot().status.canConnect);
+        Timer(timer)->start(0);
+        EXPECT_TRUE(Eventually([&] { return screen.Count(word) == 1; })) << word;
+    }
+    EXPECT_TRUE(host.bot().status.canConnect);
+}
+
+TEST_F(QtHostTest, AScriptsTriesToConnectAgainComeAfterGrowingPauses) {
+    const QString script = files.Write("bot.vs", ScriptText("(0:2) gone,\r\n (5:0) reconnect.\r\n (5:0) reconnect."));
+    LoadProfile(host.bot(), files.Path("bot.tvm").toStdString());
+    const SessionStatus& status = host.bot().status;
+    LogIn();
+    server.Close();
+    ASSERT_TRUE(server.Hears("desc ", 1)) << "the first try comes at once";
+    for (std::size_t session = 1; session < 3; ++session) {
+        server.Close(session);
+        ASSERT_TRUE(Eventually([&] { return IsPausing(); }));
+        EXPECT_EQ(status.nextTry, static_cast<int>(session));
+        EXPECT_TRUE(status.canConnect && status.canDisconnect);
+        Timer("tmrReconnect")->start(0);
+        ASSERT_TRUE(server.Hears("desc ", session + 1));
+    }
+    server.Close(3);
+    ASSERT_TRUE(Eventually([&] { return IsPausing(); }));
+    host.Disconnect();
+    EXPECT_FALSE(IsPausing() || status.canDisconnect);
+    EXPECT_TRUE(status.IsIdle());
+    LogIn();
+    server.Close(4);
+    EXPECT_TRUE(server.Hears("desc ", 5)) << "what the user does begins afresh";
+}
+
+TEST_F(QtHostTest, StaysConnectedUntilItsLoginIsRefused) {
+    host.StayConnected(true);
+    LogIn();
+    server.Reset();
+    for (std::size_t session = 1; session <= 5; ++session) {
+        ASSERT_TRUE(Eventually([&] { return IsPausing(); })) << session;
+        Timer("tmrReconnect")->start(0);
+        ASSERT_TRUE(server.Hears("desc ", session));
+        server.Close(session);
+    }
+    ASSERT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+    EXPECT_TRUE(host.bot().status.IsLoginRefused());
+    EXPECT_FALSE(IsPausing());
+
+    LogIn();
+    server.Say(";in.map\n", 6);
+    ASSERT_TRUE(Eventually([&] { return !host.bot().state.mapFile.empty(); }));
+    server.Close(6);
+    ASSERT_TRUE(Eventually([&] { return IsPausing(); })) << "and the user may try again";
+    EXPECT_EQ(host.bot().status.refusals, 0);
+    files.Write("bot.ini", "");
+    QFile::remove(files.Path("bot.ini"));
+    Timer("tmrReconnect")->start(0);
+    ASSERT_TRUE(Eventually([&] { return host.bot().status.IsIdle(); }));
+    EXPECT_FALSE(host.bot().status.canDisconnect);
+}
+
+TEST(Reconnector, PausesGrowToFiveMinutesAndVaryByAQuarter) {
+    EXPECT_EQ(Reconnector::PauseMs(1, 0.5), 1125);
+    EXPECT_EQ(Reconnector::PauseMs(9, 0), 256000);
+    EXPECT_EQ(Reconnector::PauseMs(1000, 0.8), 360000);
+    Reconnector reconnector([] { return 0; }, [] {}, nullptr);
+    std::vector<int> pauses;
+    for (const auto& [stood, first] : {std::pair{0, Reconnector::First::AtOnce},
+                                       {59, Reconnector::First::AtOnce},
+                                       {0, Reconnector::First::AfterAPause},
+                                       {60, Reconnector::First::AfterAPause},
+                                       {60, Reconnector::First::AtOnce}}) {
+        reconnector.SessionEnded(std::chrono::seconds(stood));
+        pauses.push_back(reconnector.Schedule(first));
+    }
+    EXPECT_EQ(pauses, (std::vector<int>{0, 1000, 2000, 1000, 0})) << "short again after a steady session";
 }
 
 TEST_F(QtHostTest, TellsOfAConnectionThatCantBeMade) {
@@ -66,7 +181,7 @@ TEST_F(QtHostTest, TellsOfAConnectionThatCantBeMade) {
                                     {-1, "there is no port -1"}}) {
         screen.lines.clear();
         host.session().SetServer("127.0.0.1", port);
-        host.Connect();
+        host.ConnectNow();
         EXPECT_FALSE(host.bot().status.canConnect);
         EXPECT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
         EXPECT_THAT(screen.lines, ElementsAre(std::string("Server Socket Error 0: ") + why + " (0: 127.0.0.1)"))
@@ -87,7 +202,7 @@ TEST_F(QtHostTest, LeadsOneClientToTheServer) {
     host.bot().profile.connectClient = 1;
     host.bot().profile.clientPath = files.Write("client", "#!/bin/sh\n").toStdString();
     EXPECT_FALSE(host.ListenForClient(static_cast<std::int16_t>(server.listener.serverPort()))) << "it is taken";
-    host.Connect();
+    host.ConnectNow();
     const quint16 port = files.Read("proxy.ini").mid(10).trimmed().toUShort();
     EXPECT_EQ(files.Read("proxy.ini"), "localhost " + QByteArray::number(port) + "\r\n");
     QTcpServer elsewhere;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/socket.h>
+
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
@@ -33,6 +35,12 @@ class GameServer {
         bots[bot]->flush();
     }
     void Close(std::size_t bot = 0) { bots[bot]->disconnectFromHost(); }
+    /// Breaks the connection off.
+    void Reset(std::size_t bot = 0) {
+        const linger atOnce{1, 0};
+        ::setsockopt(static_cast<int>(bots[bot]->socketDescriptor()), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+        bots[bot]->abort();
+    }
 
     std::deque<QByteArray> heard;  ///< from each bot, in the order in which they came
     std::vector<QTcpSocket*> bots;

@@ -16,6 +16,9 @@ class HostBench : public testing::Test {
         host.session().SetServer("127.0.0.1", server.listener.serverPort());
     }
 
+    QTimer* Timer(const char* name) { return host.findChild<QTimer*>(name); }
+    bool IsPausing() { return Timer("tmrReconnect")->isActive(); }
+
     BotFiles files;
     GameServer server;
     Notebook screen;

@@ -1,0 +1,54 @@
+#include "platform/LinuxTcp.h"
+
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+struct Option {
+    int level, name, value;
+};
+
+constexpr Option kKeepAlive[] = {
+    {SOL_SOCKET, SO_KEEPALIVE, 1},
+    {IPPROTO_TCP, TCP_KEEPIDLE, 60},           // seconds of silence before the first question
+    {IPPROTO_TCP, TCP_KEEPINTVL, 15},          // seconds between one question and the next
+    {IPPROTO_TCP, TCP_KEEPCNT, 4},             // questions without an answer
+    {IPPROTO_TCP, TCP_USER_TIMEOUT, 120'000},  // milliseconds for which what was sent may stay unconfirmed
+};
+
+}  // namespace
+
+void KeepAlive(qintptr descriptor) {
+    // A system that lacks one of these does without.
+    for (const auto& [level, name, value] : kKeepAlive) {
+        ::setsockopt(static_cast<int>(descriptor), level, name, &value, sizeof value);
+    }
+}
+
+qint64 WaitingBytes(qintptr descriptor) {
+    int bytes = 0;
+    return ::ioctl(static_cast<int>(descriptor), FIONREAD, &bytes) == 0 ? bytes : 0;
+}
+
+EndWatch::EndWatch(qintptr descriptor) : descriptor_(::fcntl(static_cast<int>(descriptor), F_DUPFD_CLOEXEC, 0)) {}
+
+EndWatch::~EndWatch() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+}
+
+bool EndWatch::WasReset() const {
+    tcp_info info{};
+    socklen_t size = sizeof info;
+    if (::getsockopt(descriptor_, IPPROTO_TCP, TCP_INFO, &info, &size) != 0 || info.tcpi_state != TCP_CLOSE)
+        return false;  // it waits for this side to close too
+    // Behind an orderly end a reset only says that nobody reads any more. Its error is still there then, while that of
+    // a mere reset was taken by the reader.
+    int error = 0;
+    size = sizeof error;
+    return ::getsockopt(descriptor_, SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
+}
