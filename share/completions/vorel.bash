@@ -21,13 +21,14 @@ _vorel() {
         run--record | run--tour | practice--tour) _vorel_files txt "$cur" ;;
         run--folder | try--folder) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$cur") ;;
         run--server) mapfile -t COMPREPLY < <(compgen -A hostname -- "$cur") ;;
+        run--brake) _vorel_words '0 20' "$cur" ;;
         run--port | practice--port) _vorel_words 6000 "$cur" ;;
         try--now | try--seed | practice--name) COMPREPLY=() ;;
         *)
             if [[ $cur == -* ]]; then
                 case $verb in
                     run) _vorel_words '--help --practice --tour --server --port --log --record --keep-split-lines
-                                       --stay --quiet --folder' "$cur" ;;
+                                       --brake --stay --quiet --folder' "$cur" ;;
                     try) _vorel_words '--help --now --seed --folder' "$cur" ;;
                     practice) _vorel_words '--help --port --tour --name' "$cur" ;;
                 esac

@@ -780,6 +780,18 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         <translation>Beim &amp;Start verbinden</translation>
     </message>
     <message>
+        <source>&amp;Brake...</source>
+        <translation>&amp;Bremse...</translation>
+    </message>
+    <message>
+        <source>How many lines a second the script may send, %1 at present. 0 lets it send as many as it likes.</source>
+        <translation>Wie viele Zeilen das Skript in der Sekunde senden darf, zurzeit %1. Mit 0 sendet es beliebig viele.</translation>
+    </message>
+    <message>
+        <source>Brake</source>
+        <translation>Bremse</translation>
+    </message>
+    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>

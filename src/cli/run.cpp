@@ -34,7 +34,7 @@ struct RunOptions {
     std::vector<std::string> profiles;
     bool practice = false, quiet = false, keepSplitLines = false, stay = false;
     std::string server, log, record, tour, folder = ".";
-    int port = 0;
+    int port = 0, brake = SendBrake::kUsualRate;
 };
 
 int Refuse(int status, const std::string& why) {
@@ -104,6 +104,7 @@ class TerminalRun {
         if (practice_) session.SetServer("127.0.0.1", practicePort_);
         bot.KeepSplitLines(options_.keepSplitLines);
         bot.host().StayConnected(options_.stay);
+        bot.host().SetBrake(options_.brake);
         if (options_.profiles.size() > 1) bot.ShowLabel();
         if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
         if (exit_) return *exit_;
@@ -215,6 +216,9 @@ void AddRunVerb(CLI::App& app, VerbAction& action) {
     verb->add_option("--record", options->record, "write what comes and goes as a session for `vorel try`");
     verb->add_flag("--keep-split-lines", options->keepSplitLines, "keep a line that was cut by the end of a packet");
     verb->add_flag("--quiet", options->quiet, "show no console lines");
+    verb->add_option("--brake", options->brake, "how many lines a second a script may send (0: as many as it likes)")
+        ->check(CLI::Range(0, SendBrake::kHighestRate))
+        ->capture_default_str();
     verb->add_flag("--stay", options->stay, "connect again, for ever, when the connection is lost or can't be had");
     verb->add_option("--folder", options->folder, "where data files are (default: the current folder)");
     verb->callback([options, &action] { action = [options] { return Run(*options); }; });

@@ -78,6 +78,7 @@ struct Bot {
     SessionStatus status;
     Place place;
     Heard heard;
+    bool scriptActs = false;  ///< one of its effects is being carried out: what is sent now, the script sends
 
     /// Every character file that the profile's file names, as written there, for a script may be loaded before the line
     /// that counts is read. No script can open one.

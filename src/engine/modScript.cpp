@@ -5,6 +5,7 @@
 #include <iterator>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "engine/Arguments.h"
@@ -330,6 +331,19 @@ const Effect* FindEffect(std::int16_t number) {
     return row != std::end(kEffects) && row->number == number ? row : nullptr;
 }
 
+/// Marks, for as long as it lives, that the script acts. An effect may raise an event, and so begin another one.
+class ScriptActs {
+  public:
+    explicit ScriptActs(Bot& bot) : bot_(bot), before_(std::exchange(bot.scriptActs, true)) {}
+    ~ScriptActs() { bot_.scriptActs = before_; }
+    ScriptActs(const ScriptActs&) = delete;
+    ScriptActs& operator=(const ScriptActs&) = delete;
+
+  private:
+    Bot& bot_;
+    const bool before_;
+};
+
 /// One argument: unlike in conditions, a last "}" that stands before the first "{" is a fault.
 std::optional<Arguments> TextArgument(std::string_view line, std::size_t from) {
     const std::size_t open = line.find('{', from - 1), close = line.rfind('}');
@@ -385,5 +399,6 @@ void modScript::ExecuteEffect(Bot& bot, std::string& line, std::int16_t number) 
     const Effect* const effect = FindEffect(number);
     if (!effect || (effect->gated && !InList(bot.profile.maps, bot.state.map))) return;
     const std::optional<Arguments> arguments = FindArguments(line, *effect);
+    const ScriptActs acts(bot);
     if (arguments) effect->carryOut(bot, *arguments, effect->fixed);
 }

@@ -55,6 +55,11 @@ QtHost::QtHost(FrontEnd& frontEnd, std::string programFolder)
     connect(&listener_, &QTcpServer::newConnection, this,
             [this] { RunHandler([this] { session_.OnClientRequest(); }); });
 
+    brakeClock_.start();
+    tmrBrake_.setObjectName("tmrBrake");
+    tmrBrake_.setSingleShot(true);
+    connect(&tmrBrake_, &QTimer::timeout, this, [this] { RunHandler([this] { ReleaseBraked(); }); });
+
     tmrScript_.setObjectName("tmrScript");
     tmrMove_.setObjectName("tmrMove");
     tmrScript_.setTimerType(Qt::PreciseTimer);
@@ -177,7 +182,31 @@ void QtHost::WriteToServer(std::string_view bytes) {
         if (lines.back().empty()) lines.pop_back();
         for (const std::string& line : lines) observer_->Note(Happening::Sent, line);
     }
-    Write(server_, bytes);
+    bot_.scriptActs ? SendBraked(bytes) : Write(server_, bytes);
+}
+
+void QtHost::SendBraked(std::string_view bytes) {
+    Write(server_, brake_.Take(bytes, bot_.place, brakeClock_.elapsed()));
+    TellJam();
+    if (!tmrBrake_.isActive()) ReleaseBraked();
+}
+
+void QtHost::ReleaseBraked() {
+    Write(server_, brake_.Release(brakeClock_.elapsed()));
+    if (const auto wait = brake_.WaitMs(brakeClock_.elapsed())) tmrBrake_.start(static_cast<int>(*wait));
+}
+
+void QtHost::TellJam() {
+    const auto [news, busiest] = brake_.TakeReport();
+    const std::string file = busiest.file.empty() ? "the script" : FromUtf8(busiest.file);
+    const std::string place = "line " + std::to_string(busiest.line) + " of " + file;
+    if (news == SendBrake::News::Jam) {
+        ShowConsoleLine("The script sends more than the brake lets through, most of it by " + place +
+                        ". What is too much waits.");
+    } else if (news == SendBrake::News::Emptied) {
+        ShowConsoleLine("More than " + std::to_string(SendBrake::kLongestQueue) +
+                        " lines were waiting to be sent, most of them by " + place + ". They were dropped.");
+    }
 }
 
 void QtHost::WriteToClient(std::string_view bytes) { Write(client_, bytes); }
@@ -211,6 +240,7 @@ double QtHost::Random() { return QRandomGenerator::global()->generateDouble(); }
 void QtHost::CloseServer() {
     if (online_.isValid()) reconnector_.SessionEnded(std::chrono::milliseconds(online_.elapsed()));
     online_.invalidate();
+    brake_.Clear();
     Release(server_);
 }
 

@@ -11,6 +11,7 @@
 #include "engine/Bot.h"
 #include "engine/Host.h"
 #include "net/Link.h"
+#include "net/SendBrake.h"
 #include "net/Session.h"
 #include "net/SessionObserver.h"
 #include "platform/ClientWindow.h"
@@ -50,6 +51,9 @@ class QtHost final : public QObject, public Host, public Link {
     /// Whether a connection that is lost, or can't be had, is tried again, with growing pauses and for ever. A refused
     /// login is not.
     void StayConnected(bool stays);
+
+    /// How many lines a second the script may send; 0 for as many as it likes.
+    void SetBrake(int linesPerSecond) { brake_.SetRate(linesPerSecond); }
 
     /// Calls off the try that was to come.
     void StopTrying();
@@ -113,6 +117,13 @@ class QtHost final : public QObject, public Host, public Link {
     Bot bot_{*this};
     Session session_{bot_, *this};
 
+    SendBrake brake_;
+    QTimer tmrBrake_{this};
+    QElapsedTimer brakeClock_;
+
+    void SendBraked(std::string_view bytes);
+    void ReleaseBraked();
+    void TellJam();
     void Dial();
     void TryAgain(Reconnector::First first);
     void TryAgainIfLost();

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "net/SendBrake.h"
 #include "ui/ConsoleModel.h"
 
 /// What the user has chosen for the program itself, beside the profile: kept as JSON in a file that no script can write
@@ -25,6 +26,8 @@ class Options {
     int ScrollBack() const { return Value("console/scrollback", ConsoleModel::kUsualScrollBack).toInt(); }
     QString LogFile() const { return Value("console/log").toString(); }
     bool Reconnect() const { return Flag("connection/reconnect", false); }
+    /// How many lines a second a script may send; 0 for as many as it likes.
+    int Brake() const { return Value("connection/brake", SendBrake::kUsualRate).toInt(); }
     bool ConnectAtStart() const { return Flag("connection/atStart", false); }
     QString ServerAddress() const { return Value("connection/address").toString(); }
     /// Whether the bot of a profile keeps lines that the network has split; off for profiles that are not known.

@@ -101,6 +101,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
     connect(editor_.get(), &frmGS::ScriptRemarked, this, &frmVorel::Announce);
     host_.StayConnected(options_.Reconnect());
+    host_.SetBrake(options_.Brake());
     keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
@@ -202,6 +203,7 @@ void frmVorel::BuildMenus() {
                                  [this](bool on) { KeepSplitLines(on); });
     AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
               [this](bool on) { options_.Set("connection/atStart", on); });
+    AddItem(*session, "mnuBrake", tr("&Brake..."), {}, [this] { ChooseBrake(); });
 
     QMenu* const script = AddMenu(*menuBar(), "mnuScript", "&Script");
     AddItem(*script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
@@ -703,6 +705,19 @@ void frmVorel::ShowEditor() {
     } else {
         show();
     }
+}
+
+void frmVorel::ChooseBrake() {
+    const auto text = dialogs_.AskText(
+        this,
+        tr("How many lines a second the script may send, %1 at present. 0 lets it send as many as it likes.")
+            .arg(options_.Brake()),
+        tr("Brake"));
+    bool isNumber = false;
+    const int lines = text ? text->toInt(&isNumber) : 0;
+    if (!isNumber || lines < 0 || lines > SendBrake::kHighestRate) return;
+    options_.Set("connection/brake", lines);
+    host_.SetBrake(lines);
 }
 
 void frmVorel::RunScriptOnce() {

@@ -126,6 +126,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void cmdHelp_Click();
     void ShowConfiguration();
     void ShowEditor();
+    void ChooseBrake();
     void RunScriptOnce();
     void OpenPractice(std::string& address, int& port);
     void OfferUpdate(const QString& version, const QString& text);

@@ -131,6 +131,28 @@ TEST_F(QtHostTest, AScriptsTriesToConnectAgainComeAfterGrowingPauses) {
     EXPECT_TRUE(server.Hears("desc ", 5)) << "what the user does begins afresh";
 }
 
+TEST_F(QtHostTest, BrakesTheScriptAndNobodyElse) {
+    files.Write("bot.vs",
+                ScriptText("(0:7) heard myself,\r\n (5:21) who.\r\n(0:46) told,\r\n (5:22) move {llllssss}."));
+    LoadProfile(host.bot(), files.Path("bot.tvm").toStdString());
+    host.SetBrake(1);
+    LogIn();
+    server.heard[0].clear();
+    server.Say(QByteArray("(You say, \"x\"\n").repeated(12));
+    ASSERT_TRUE(Eventually([&] { return screen.lines.size() == 13; })) << testing::PrintToString(screen.lines);
+    EXPECT_EQ(screen.lines[10], "The script sends more than the brake lets through, most of it by line 3 of " +
+                                    files.Path("bot.vs").toStdString() + ". What is too much waits.");
+    host.session().TypeLine("typed");
+    ASSERT_TRUE(server.Hears("typed\n"));
+    EXPECT_EQ(server.heard[0], QByteArray("who\n").repeated(10) + "\"typed\n");
+    ASSERT_TRUE(Timer("tmrBrake")->isActive());
+    for (int i = 0; i < 130; ++i) host.session().TypeLine("\"&go");
+    EXPECT_EQ(screen.Count("More than 1000 lines were waiting to be sent, most of them by line 5 of "), 1);
+    host.Disconnect();
+    LogIn();
+    EXPECT_FALSE(server.heard[1].contains("lie\n")) << "what waited is dropped with its connection";
+}
+
 TEST_F(QtHostTest, StaysConnectedUntilItsLoginIsRefused) {
     host.StayConnected(true);
     LogIn();

@@ -139,6 +139,11 @@ TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
     Choose("mnuConnect");
     EXPECT_TRUE(Eventually([this] { return Panel(3) == "No connection: Connection refused"; })) << Panel(3);
 
+    for (const char* const typed : {"7", "x", "-1", "Cancel"}) {
+        EXPECT_TRUE(Choose("mnuBrake", {typed}).contains("[Brake] How many lines a second the script may send, "));
+    }
+    EXPECT_EQ(Options(OptionsFile(Path())).Brake(), 7);
+
     bot().profile.owners.clear();
     EXPECT_TRUE(Choose("mnuConnect").startsWith("message [Bot Owner] You must add at least one name"));
     bot().profile.characterPath = "nowhere.ini";
