@@ -35,6 +35,9 @@ class Link {
     /// @throws RuntimeFault PathOrFileAccess
     virtual void WriteProxyFile(const std::string& path, std::string_view text) = 0;
 
+    /// Takes that file away at the end of its session, if it is there, and puts back what it stood in place of.
+    virtual void TakeAwayProxyFile() = 0;
+
     /// Starts the client's program with the character file, its window shown as usual.
     /// @return why that can't be done, in plain words; empty when it was started
     virtual std::string StartClient(const std::string& program, const std::string& characterFile) = 0;

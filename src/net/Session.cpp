@@ -313,6 +313,7 @@ void Session::ShowMenus(bool inSession, bool canStandAlone) {
 }
 
 void Session::ShowIdle(SessionStatus::End end) {
+    link_.TakeAwayProxyFile();
     bot_.status.end = end;
     bot_.status.connection = "Disconnected";
     ShowMenus(false, false);

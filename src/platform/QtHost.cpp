@@ -341,7 +341,7 @@ std::string QtHost::StartClient(const std::string& program, const std::string& c
 std::int64_t QtHost::FindClientWindow() {
     const std::optional<std::int64_t> window = clientWindow_->Find();
     // Told once the server is connected, for that is when the console is cleared.
-    if (!window && !toldNoWindows_ && IsServerConnected()) {
+    if (!window && !toldNoWindows_ && IsServerConnected() && bot_.profile.closeClient == 1) {
         toldNoWindows_ = true;
         ShowConsoleLine("On this desktop the Furcadia client's window can't be found, so it can't be closed either.");
     }

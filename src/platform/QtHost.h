@@ -17,6 +17,7 @@
 #include "platform/ClientWindow.h"
 #include "platform/DiskFiles.h"
 #include "platform/FrontEnd.h"
+#include "platform/ProxyFile.h"
 #include "platform/Reconnector.h"
 #include "platform/Wire.h"
 
@@ -88,7 +89,8 @@ class QtHost final : public QObject, public Host, public Link {
     bool ListenForClient(std::int16_t port) override;
     void AcceptClient() override;
     void EnterFolder(const std::string& folder) override { currentFolder_ = folder; }
-    void WriteProxyFile(const std::string& path, std::string_view text) override { disk_.Write(path, text); }
+    void WriteProxyFile(const std::string& path, std::string_view text) override { proxy_.Write(path, text); }
+    void TakeAwayProxyFile() override { proxy_.TakeAway(); }
     std::string StartClient(const std::string& program, const std::string& characterFile) override;
     std::int64_t FindClientWindow() override;
     void CloseClientWindow(std::int64_t window) override { clientWindow_->Close(window); }
@@ -100,6 +102,7 @@ class QtHost final : public QObject, public Host, public Link {
     FrontEnd& frontEnd_;
     std::string programFolder_, currentFolder_;
     DiskFiles disk_;
+    ProxyFile proxy_{disk_};
     bool ended_ = false, leaving_ = false, stays_ = false;
     AddressResolver resolver_;
     SessionObserver* observer_ = nullptr;

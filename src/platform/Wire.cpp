@@ -1,5 +1,6 @@
 #include "platform/Wire.h"
 
+#include <QHostAddress>
 #include <cerrno>
 #include <utility>
 
@@ -40,6 +41,7 @@ Wire::Wire(QTcpSocket* socket, Listener listener, QObject* parent)
         End(Failure(error, FromUtf8(socket_->errorString().toStdString())));
     });
     if (socket_->state() == QAbstractSocket::ConnectedState) {
+        host_ = socket_->peerAddress().toString().toStdString();
         BeConnected();
     } else {
         connect(socket_, &QTcpSocket::connected, this, [this] {
@@ -123,8 +125,7 @@ void Wire::End(const std::optional<SocketError>& error) {
 }
 
 SocketError Wire::Failure(int number, std::string_view what, int systemCode) const {
-    return {number, std::string(what), systemCode,
-            host_.empty() ? FromUtf8(socket_->peerName().toStdString()) : FromUtf8(host_)};
+    return {number, std::string(what), systemCode, FromUtf8(host_)};
 }
 
 SocketError Wire::BrokenOff() const {

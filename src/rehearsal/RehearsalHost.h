@@ -67,6 +67,7 @@ class RehearsalHost final : public Host, public Link {
     void AcceptClient() override { clientConnected_ = true; }
     void EnterFolder(const std::string&) override {}
     void WriteProxyFile(const std::string&, std::string_view) override {}
+    void TakeAwayProxyFile() override {}
     std::string StartClient(const std::string&, const std::string&) override { return {}; }
     std::int64_t FindClientWindow() override { return 0; }
     void CloseClientWindow(std::int64_t) override {}

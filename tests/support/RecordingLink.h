@@ -35,6 +35,10 @@ class RecordingLink final : public Link {
     void EnterFolder(const std::string& folder) override { Tell("enter " + folder); }
     void WriteProxyFile(const std::string& path, std::string_view text) override {
         Tell("write " + path + "=" + std::string(text));
+        hasProxyFile_ = true;
+    }
+    void TakeAwayProxyFile() override {
+        if (std::exchange(hasProxyFile_, false)) Tell("take away");
     }
     std::string StartClient(const std::string& program, const std::string& characterFile) override {
         Tell("start " + program + " " + characterFile);
@@ -47,6 +51,7 @@ class RecordingLink final : public Link {
 
   private:
     RehearsalHost& host_;
+    bool hasProxyFile_ = false;
 
     void Tell(const std::string& what) { host_.Tell("link", what); }
 };
