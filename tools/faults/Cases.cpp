@@ -11,8 +11,12 @@ using By = Kind::By;
 constexpr int kErrors[] = {ENOSPC, EIO, EDQUOT, EACCES};
 constexpr int kFurtherErrors[] = {EIO, EACCES};
 
-/// Calls after whose failing the save may go on: what was read is read, and without a lock the file is still whole.
-bool IsHarmless(const std::string& call) { return call == "lock" || call == "close what was read"; }
+/// Calls after whose failing the save may go on: what was read is read, and without a lock on the file, or on a folder
+/// that several bots share, the file is still whole.
+bool IsHarmless(const std::vector<std::string>& calls, std::size_t call) {
+    const bool isToLock = call + 1 < calls.size() && calls[call] == "open folder" && calls[call + 1] == "lock";
+    return isToLock || calls[call] == "lock" || calls[call] == "close what was read";
+}
 
 std::string At(std::size_t call, const std::string& how) { return std::to_string(call) + ":" + how; }
 
@@ -60,7 +64,7 @@ const std::vector<Kind> kKinds = {
 std::vector<Fault> FaultsFor(const std::vector<std::string>& calls) {
     std::vector<Fault> faults;
     for (std::size_t call = 0; call < calls.size(); ++call) {
-        const bool harmless = IsHarmless(calls[call]);
+        const bool harmless = IsHarmless(calls, call);
         // Why something can't be read is not told, only that it can't.
         const bool isNamed = !harmless && calls[call] != "open to read";
         AddKills(faults, call);
