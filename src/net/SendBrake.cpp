@@ -18,13 +18,14 @@ std::string SendBrake::Take(std::string_view bytes, const Place& from, std::int6
     for (std::size_t end = bytes.find('\n'); !bytes.empty(); end = bytes.find('\n')) {
         const std::string_view line = bytes.substr(0, end == bytes.npos ? end : end + 1);
         queue_.emplace_back(line);
+        queuedBytes_ += line.size();
         ++sent_[{from.file, from.line}];
         bytes.remove_prefix(line.size());
     }
     const std::string passed = Pass();
     if (!queue_.empty() && !std::exchange(jamTold_, true)) Tell(News::Jam);
-    if (queue_.size() > kLongestQueue) {
-        queue_.clear();
+    if (queue_.size() > kLongestQueue || queuedBytes_ > kMostQueuedBytes) {
+        Clear();
         Tell(News::Emptied);
     }
     return passed;
@@ -42,7 +43,10 @@ std::optional<std::int64_t> SendBrake::WaitMs(std::int64_t now) const {
     return std::max<std::int64_t>(0, std::llround(std::ceil(due)) - now);
 }
 
-void SendBrake::Clear() { queue_.clear(); }
+void SendBrake::Clear() {
+    queue_.clear();
+    queuedBytes_ = 0;
+}
 
 SendBrake::Report SendBrake::TakeReport() { return std::exchange(report_, {}); }
 
@@ -59,6 +63,7 @@ std::string SendBrake::Pass() {
     std::string passed;
     for (; !queue_.empty() && (rate_ == 0 || tokens_ >= 1); --tokens_) {
         passed += queue_.front();
+        queuedBytes_ -= queue_.front().size();
         queue_.pop_front();
     }
     return passed;

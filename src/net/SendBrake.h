@@ -15,7 +15,8 @@
 class SendBrake {
   public:
     static constexpr int kUsualRate = 20, kHighestRate = 1000;
-    static constexpr std::size_t kLongestQueue = 1000;
+    /// More lines than so many, or more bytes, don't wait: they would be answers to what nobody remembers.
+    static constexpr std::size_t kLongestQueue = 1000, kMostQueuedBytes = std::size_t{1024} * 1024;
 
     /// @param linesPerSecond  0 for no brake
     void SetRate(int linesPerSecond);
@@ -51,6 +52,7 @@ class SendBrake {
     double tokens_ = kUsualRate * kBurstSeconds;  ///< so many lines may go at once
     std::int64_t filledAt_ = 0;
     std::deque<std::string> queue_;
+    std::size_t queuedBytes_ = 0;
     std::map<Sender, std::size_t> sent_;  ///< how many lines by each since a whole burst was left the last time
     bool jamTold_ = false;
     Report report_;

@@ -205,7 +205,8 @@ void QtHost::TellJam() {
                         ". What is too much waits.");
     } else if (news == SendBrake::News::Emptied) {
         ShowConsoleLine("More than " + std::to_string(SendBrake::kLongestQueue) +
-                        " lines were waiting to be sent, most of them by " + place + ". They were dropped.");
+                        " lines, or 1 MiB of them, were waiting to be sent, most of them by " + place +
+                        ". They were dropped.");
     }
 }
 

@@ -8,8 +8,9 @@
 
 namespace {
 
-/// How much of a flood is handled at a time, before the event loop gets its turn.
-constexpr qint64 kPacketLimit = qint64{64} * 1024;
+/// How much of a flood is handled at a time, before the event loop gets its turn: some forty lines, so that even a
+/// script that takes milliseconds for each leaves signals, timers and the user waiting for a moment only.
+constexpr qint64 kPacketLimit = qint64{4} * 1024;
 
 /// How long a connection that is closed may take to send what was written before.
 constexpr std::chrono::seconds kPartingTime{5};

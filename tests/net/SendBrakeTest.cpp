@@ -48,6 +48,9 @@ TEST(SendBrake, LetsABurstPassAndTheRestInOrderAndInTime) {
     }
     EXPECT_TRUE(expected.starts_with(passed)) << "in order";
     EXPECT_EQ(brake.WaitMs(40000), std::nullopt) << "what waited was dropped";
+    brake.Take(std::string(SendBrake::kMostQueuedBytes + 1, 'x'), {"bot.vs", 5}, 40000);
+    EXPECT_EQ(brake.TakeReport().news, News::Emptied) << "few lines, but long ones";
+    EXPECT_EQ(brake.WaitMs(40000), std::nullopt);
 }
 
 TEST(SendBrake, TellsHowLongToWaitAndCanBeSwitchedOff) {
