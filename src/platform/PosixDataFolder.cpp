@@ -10,7 +10,9 @@
 #include <cerrno>
 #include <system_error>
 #include <thread>
+#include <utility>
 
+#include "platform/Descriptor.h"
 #include "text/Fault.h"
 
 namespace {
@@ -19,21 +21,13 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kLockPause{2};
 
-/// An open file, closed at the end.
-class Descriptor : public Files::Lock {
+/// A lock that is let go when its folder is closed.
+class FolderLock final : public Files::Lock {
   public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() override {
-        if (IsOpen()) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    bool IsOpen() const { return number_ >= 0; }
-    int Number() const { return number_; }
+    explicit FolderLock(Descriptor folder) : folder_(std::move(folder)) {}
 
   private:
-    int number_;
+    Descriptor folder_;
 };
 
 [[noreturn]] void CantBeOpened(const std::string& path, const std::string& why) {
@@ -130,12 +124,12 @@ bool dataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
 
 std::unique_ptr<Files::Lock> dataFolder::LockFolder(const std::string& folder, std::chrono::milliseconds patience) {
     const std::string path = folder.empty() ? "." : folder;
-    auto lock = std::make_unique<Descriptor>(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    Descriptor lock(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     const Clock::time_point end = Clock::now() + patience;
-    while (lock->IsOpen() && ::flock(lock->Number(), LOCK_EX | LOCK_NB) != 0) {
+    while (lock.IsOpen() && ::flock(lock.Number(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR) break;
         if (Clock::now() >= end) CantBeOpened(path, "another program keeps its data files locked");
         std::this_thread::sleep_for(kLockPause);
     }
-    return lock;
+    return std::make_unique<FolderLock>(std::move(lock));
 }

@@ -85,17 +85,6 @@ bool LockedInTime(int file) {
 
 }  // namespace
 
-Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
-    std::swap(number_, other.number_);
-    return *this;
-}
-
-Descriptor::~Descriptor() {
-    if (IsOpen()) ::close(number_);
-}
-
-int Descriptor::Release() { return std::exchange(number_, -1); }
-
 WholeFile::WholeFile(std::string path) : path_(std::move(path)) {
     // The system would take the name to end there, and write another file.
     if (path_.find('\0') != path_.npos) Fail(ReasonOf(EINVAL));
