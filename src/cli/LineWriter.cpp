@@ -41,7 +41,8 @@ LineWriter::~LineWriter() {
 }
 
 void LineWriter::Put(std::string line) {
-    const std::lock_guard lock(mutex_);
+    std::unique_lock lock(mutex_);
+    AwaitRoomFor(line, lock);
     if (givenUp_) return;
     if (!HasRoomFor(line)) {
         ++dropped_;
@@ -54,6 +55,11 @@ void LineWriter::Put(std::string line) {
 
 bool LineWriter::HasRoomFor(const std::string& line) const {
     return waiting_.size() < kMostLines && waitingBytes_ + line.size() <= kMostBytes;
+}
+
+void LineWriter::AwaitRoomFor(const std::string& line, std::unique_lock<std::mutex>& lock) {
+    if (stuck_) return;
+    stuck_ = !changed_.wait_for(lock, kPatience, [&] { return givenUp_ || HasRoomFor(line); });
 }
 
 void LineWriter::Queue(std::string line) {
@@ -84,6 +90,7 @@ void LineWriter::WriteLines() {
         lock.lock();
         writing_ = false;
         waitingBytes_ -= piece.size();
+        stuck_ = false;
         if (waiting_.empty()) TellDropped();
         givenUp_ = !written;
         if (givenUp_) waiting_.clear();

@@ -8,8 +8,9 @@
 #include <string>
 #include <thread>
 
-/// Writes lines to a descriptor from a thread of its own, so that nobody else waits for who reads them. Lines for which
-/// there is no room are dropped, and as soon as there is room again it is said how many. A descriptor that can't be
+/// Writes lines to a descriptor from a thread of its own, so that nobody else waits long for who reads them. Who reads
+/// as fast as a disk or a program does loses nothing in a flood: a line for which there is no room waits a moment for
+/// it. When nothing is read in that moment, lines are dropped, and as soon as there is room again it is said how many. A descriptor that can't be
 /// written any more is given up without a word. The descriptor is left as it is: O_NONBLOCK would change it for every
 /// program that shares it.
 class LineWriter {
@@ -23,6 +24,9 @@ class LineWriter {
 
     /// @param line  with its line end
     void Put(std::string line);
+
+    /// How long a line waits for room; once in vain, none waits again before something has been read.
+    static constexpr std::chrono::milliseconds kPatience{100};
 
     /// Waits until all is written.
     /// @return false when that takes longer than the time given
@@ -40,9 +44,11 @@ class LineWriter {
     std::size_t waitingBytes_ = 0;  ///< the line that is being written included
     std::size_t dropped_ = 0;
     bool writing_ = false, ending_ = false, givenUp_ = false;
+    bool stuck_ = false;  ///< nothing was read while a line waited for room
     std::thread thread_;
 
     bool HasRoomFor(const std::string& line) const;
+    void AwaitRoomFor(const std::string& line, std::unique_lock<std::mutex>& lock);
     void Queue(std::string line);
     void TellDropped();
     void WriteLines();
