@@ -10,9 +10,9 @@
 
 /// Writes lines to a descriptor from a thread of its own, so that nobody else waits long for who reads them. Who reads
 /// as fast as a disk or a program does loses nothing in a flood: a line for which there is no room waits a moment for
-/// it. When nothing is read in that moment, lines are dropped, and as soon as there is room again it is said how many. A descriptor that can't be
-/// written any more is given up without a word. The descriptor is left as it is: O_NONBLOCK would change it for every
-/// program that shares it.
+/// it. When nothing is read in that moment, lines are dropped, and as soon as there is room again it is said how many.
+/// A descriptor that can't be written any more is given up without a word. The descriptor is left as it is: O_NONBLOCK
+/// would change it for every program that shares it.
 class LineWriter {
   public:
     explicit LineWriter(int descriptor) : descriptor_(descriptor), thread_([this] { WriteLines(); }) {}

@@ -123,12 +123,18 @@ bool dataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
 }
 
 std::unique_ptr<Files::Lock> dataFolder::LockFolder(const std::string& folder, std::chrono::milliseconds patience) {
-    const std::string path = folder.empty() ? "." : folder;
-    Descriptor lock(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    auto lock = TryLockFolder(folder, patience);
+    if (!lock) CantBeOpened(folder.empty() ? "." : folder, "another program keeps its data files locked");
+    return lock;
+}
+
+std::unique_ptr<Files::Lock> dataFolder::TryLockFolder(const std::string& folder, std::chrono::milliseconds patience) {
+    const char* const path = folder.empty() ? "." : folder.c_str();
+    Descriptor lock(::open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     const Clock::time_point end = Clock::now() + patience;
     while (lock.IsOpen() && ::flock(lock.Number(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR) break;
-        if (Clock::now() >= end) CantBeOpened(path, "another program keeps its data files locked");
+        if (Clock::now() >= end) return nullptr;
         std::this_thread::sleep_for(kLockPause);
     }
     return std::make_unique<FolderLock>(std::move(lock));

@@ -21,4 +21,7 @@ bool LeadToSameFile(const std::string& a, const std::string& b);
 /// system that knows no such lock, and in a folder that is not there, nothing is locked.
 std::unique_ptr<Files::Lock> LockFolder(const std::string& folder, std::chrono::milliseconds patience);
 
+/// The same, giving nothing when another program has it for too long.
+std::unique_ptr<Files::Lock> TryLockFolder(const std::string& folder, std::chrono::milliseconds patience);
+
 }  // namespace dataFolder

@@ -40,6 +40,8 @@ class Bench {
     /// Whether a status says that all went well.
     bool IsSuccess(const Outcome& outcome) const;
 
+    bool IsTakenAway() const { return kind_.isTakenAway; }
+
     const std::filesystem::path& File() const { return file_; }
 
     /// What the file holds, with its mode in front; "absent" when there is none. Numbers of chance are made equal.

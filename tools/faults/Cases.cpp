@@ -53,7 +53,7 @@ const std::vector<Kind> kKinds = {
     {"unsaved-script",  "program/tvorel.own/unsaved-script.bak",  "program/tvorel.own/unsaved-script.bak", "\n\nold"},
     {"unsaved-profile", "program/tvorel.own/unsaved-profile.bak", "program/tvorel.own/unsaved-profile.bak", "\n\nold"},
     {"command-list",    "program/vslist.vs",                      "program/vslist.vs", ""},
-    {"proxy.ini",       "client/proxy.ini",                       "client/proxy.ini", "localhost 99\r\n", By::Windows, false, true},
+    {"proxy.ini",       "client/proxy.ini",                       "client/proxy.ini", "localhost 99\r\n", By::Windows, false, true, true},
     {"console",         "out/console.txt",                        "out/console.txt", "old\n", By::Windows, false},
     {"archive",         "out/update.zip",                         "out/update.zip",  "old\n", By::Windows, false},
     {"data-by-try",     "data/book.ini",                          "data/book.ini",   "[words]\r\nold\r\n", By::Try},

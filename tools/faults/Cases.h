@@ -17,6 +17,7 @@ struct Kind {
     By by = By::Windows;
     bool clearedByStart = true;     ///< what a killed process leaves; otherwise by the next save there
     bool hasChanceNumbers = false;  ///< in its content
+    bool isTakenAway = false;       ///< at the end of the session that has written it, and the old one put back
 };
 
 extern const std::vector<Kind> kKinds;

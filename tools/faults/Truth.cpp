@@ -29,24 +29,27 @@ Contents Learn(const Bench& bench) {
     bench.Lay();
     const bool saved = bench.IsSuccess(bench.Save());
     contents.after = bench.Content();
-    if (!saved || contents.after == contents.before || contents.after == contents.laid) contents.after.clear();
+    const bool isChanged = contents.after != contents.before && contents.after != contents.laid;
+    if (!saved || isChanged == bench.IsTakenAway()) contents.after.clear();
     return contents;
 }
 
 std::string WrongAfter(const Bench& bench, const Contents& contents, const Outcome& outcome, const Fault& fault) {
     const std::string content = bench.Content();
     const bool isNew = content == contents.after;
-    if (!isNew && content != contents.before && content != contents.laid)
+    const bool isPutBackLater = outcome.killed && bench.IsTakenAway();
+    if (!isPutBackLater && !isNew && content != contents.before && content != contents.laid)
         return "it is neither the old nor the new: " + content;
     if (!outcome.killed) {
         const std::string untruth = UntruthOf(bench, outcome, fault, isNew);
         if (!untruth.empty()) return untruth;
     }
     const auto left = bench.Leftovers();
-    if (left.empty()) return "";
+    if (left.empty() && !isPutBackLater) return "";
     // It could be taken away only if nothing has failed besides.
     const bool onlyOne = fault.plan.find(' ') == std::string::npos;
     if (!outcome.killed && onlyOne) return left.front() + " is left";
     bench.StartAgain();
+    if (isPutBackLater && bench.Content() != contents.laid) return "the old one is not put back: " + bench.Content();
     return bench.Leftovers().empty() ? "" : left.front() + " is left after the next start";
 }

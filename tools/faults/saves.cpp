@@ -16,6 +16,7 @@
 #include <iostream>
 #include <map>
 
+#include "engine/Script.h"
 #include "ui/ConsoleView.h"
 #include "ui/Dialogs.h"
 #include "ui/ProgramFolder.h"
@@ -71,7 +72,7 @@ struct Desk {
         const Armed armed;
         form.findChild<QAction*>(item)->trigger();
     }
-    void Type() { window.editor().RestoreText(window.editor().Path(), std::string(kManyLines * 20, 'x')); }
+    void Type() { window.editor().RestoreText(window.editor().Path(), kNewScript + std::string(kManyLines * 20, 'x')); }
 
     /// What stands in the console, but for the lines that were put there.
     QString Console() {
