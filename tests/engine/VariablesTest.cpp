@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <random>
 #include <utility>
@@ -14,10 +12,12 @@ namespace {
 using Rows = std::vector<std::pair<std::string, std::string>>;
 
 /// What the list of user variables does, in the plainest way.
-class PlainRows {
-  public:
+struct PlainRows {
     Rows rows;
 
+    Rows::iterator Row(const std::string& name) {
+        return std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.first == name; });
+    }
     void Set(const std::string& name, const std::string& value) {
         const auto row = Row(name);
         row == rows.end() ? rows.push_back({name, value}) : void(row->second = value);
@@ -29,11 +29,6 @@ class PlainRows {
     }
     void Remove(const std::string& name) {
         std::erase_if(rows, [&](const auto& row) { return row.first == name; });
-    }
-
-  private:
-    Rows::iterator Row(const std::string& name) {
-        return std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return row.first == name; });
     }
 };
 
@@ -54,36 +49,15 @@ std::string ExpandPlainly(std::string text, const Rows& rows, const std::vector<
 }
 
 TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
-    constexpr const char* kPieces[] = {"[",
-                                       "]",
-                                       "a",
-                                       "b",
-                                       "[a]",
-                                       "[b]",
-                                       "[a[b]",
-                                       "ab",
-                                       "[ab",
-                                       "[[",
-                                       "]]",
-                                       "[x]",
-                                       "[word1]",
-                                       "[word2]",
-                                       " ",
-                                       "[word",
-                                       "2]",
-                                       "[word03]",
-                                       "[die2]",
-                                       "[startingword2]",
-                                       "[startingword1",
-                                       "[die",
-                                       "[die9]",
-                                       "word1]",
-                                       "x"};
+    const std::vector<std::string> pieces = Split(
+        "[,],a,b,[a],[b],[a[b],ab,[ab,[[,]],[x],[word1],[word2], ,[word,2]"
+        ",[word03],[die2],[startingword2],[startingword1,[die,[die9],word1],x",
+        ",");
     std::mt19937 random(7);
     const auto below = [&](std::size_t limit) { return random() % limit; };
     const auto text = [&](std::size_t longest) {
         std::string made;
-        for (std::size_t count = below(longest + 1); count > 0; --count) made += kPieces[below(std::size(kPieces))];
+        for (std::size_t count = below(longest + 1); count > 0; --count) made += pieces[below(pieces.size())];
         return made;
     };
     RehearsalBot fast;
@@ -103,9 +77,7 @@ TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
         const std::string expected =
             ExpandPlainly(line, plain.rows, Split(fast.bot.state.message, " "), fast.bot.state.dice.values);
         ASSERT_EQ(ExpandVariables(fast.bot, line), expected) << round << ": " << line;
-        ASSERT_EQ(
-            fast.bot.variables.Find(name) != nullptr,
-            std::any_of(plain.rows.begin(), plain.rows.end(), [&](const auto& row) { return row.first == name; }));
+        ASSERT_EQ(fast.bot.variables.Find(name) != nullptr, plain.Row(name) != plain.rows.end());
         replaced += line == expected ? 0 : 1;
     }
     EXPECT_GT(replaced, 5000);

@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
+#include <sstream>
 
 #include "movement/modMovement.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"
-#include "text/Fault.h"
+#include "support/Written.h"
 
 namespace {
 
@@ -26,48 +26,21 @@ class Walker : public RehearsalBot {
     }
 };
 
-struct StepCase : Row {
-    Square at, target;
-    std::vector<Square> dreams;
-    int direction;
-};
+constexpr Square kEven{10, 10};
 
-constexpr Square kEven{10, 10}, kUpLeft{10, 9}, kUpRight{12, 9}, kDownLeft{10, 11}, kDownRight{12, 11};
-
-// clang-format off
-const StepCase kSteps[] = {
-    // Straight for the target
-    {"AlreadyThere", kEven, kEven, {}, 0}, {"RightAndUp", {10, 10}, {12, 9}, {}, 9},
-    {"RightInTheSameRow", {10, 10}, {12, 10}, {}, 3}, {"RightAndDown", {10, 10}, {12, 11}, {}, 3},
-    {"OneRowDown", {10, 10}, {10, 11}, {}, 1}, {"TwoRowsDown", {10, 5}, {10, 7}, {}, 3},
-    {"OneRowUp", {10, 7}, {10, 6}, {}, 9}, {"ThreeRowsUp", {10, 7}, {10, 4}, {}, 7},
-    {"LeftInTheSameRow", {10, 10}, {8, 10}, {}, 1}, {"LeftAndDown", {10, 10}, {8, 13}, {}, 1},
-    {"LeftAndOneRowUp", {10, 10}, {8, 9}, {}, 7}, {"LeftAndTwoRowsUpGoesDown", {20, 10}, {10, 4}, {}, 1},
-    // Round a dream; the squares are the neighbours in an even row
-    {"DownLeftTurnsRight", kEven, {8, 10}, {kDownLeft}, 3},
-    {"DownLeftGoesUp", kEven, {8, 10}, {kDownLeft, kDownRight}, 7},
-    {"DownLeftGoesUpRight", kEven, {8, 10}, {kDownLeft, kDownRight, kUpLeft}, 9},
-    {"DownRightTurnsLeft", kEven, {12, 10}, {kDownRight}, 1},
-    {"DownRightGoesUp", kEven, {12, 10}, {kDownRight, kDownLeft}, 9},
-    {"DownRightGoesUpLeft", kEven, {12, 10}, {kDownRight, kDownLeft, kUpRight}, 7},
-    {"UpLeftTurnsRightAtZero", {0, 10}, {0, 4}, {{0, 9}}, 9}, {"UpLeftGoesDown", kEven, {10, 4}, {kUpLeft, kUpRight}, 1},
-    {"UpLeftGoesDownRight", kEven, {10, 4}, {kUpLeft, kUpRight, kDownLeft}, 3},
-    {"UpRightTurnsLeft", kEven, {12, 9}, {kUpRight}, 7}, {"UpRightGoesDown", kEven, {12, 9}, {kUpRight, kUpLeft}, 3},
-    {"UpRightGoesDownLeft", kEven, {12, 9}, {kUpRight, kUpLeft, kDownRight}, 1},
-    {"UpLeftGoesDownWestOfZero", {-2, 10}, {-2, 4}, {{-2, 9}}, 1},
-    {"DreamsElsewhere", kEven, {12, 9}, {{12, 10}, {9, 12}}, 9},
-};
-// clang-format on
-
-class FirstStep : public testing::TestWithParam<StepCase> {};
-
-TEST_P(FirstStep, Goes) {
-    Walker walker(GetParam().at, GetParam().target);
-    walker.bot.state.dreams = GetParam().dreams;
-    EXPECT_EQ(walker.Step(), GetParam().direction);
+TEST(modMovement, TheFirstStepGoesAsWritten) {
+    const Block steps = BlocksOf("tests/movement/first-steps.txt").at(0);
+    for (const std::string& line : steps) {
+        std::istringstream words(line);
+        std::string name;
+        Square at, target, dream;
+        int direction = 0;
+        words >> name >> at.x >> at.y >> target.x >> target.y >> direction;
+        Walker walker(at, target);
+        while (words >> dream.x >> dream.y) walker.bot.state.dreams.push_back(dream);
+        EXPECT_EQ(walker.Step(), direction) << line;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(modMovement, FirstStep, testing::ValuesIn(kSteps), kCaseName);
 
 struct StuckCase : Row {
     Square target;

@@ -3,6 +3,8 @@
 #include "net/Passwords.h"
 #include "support/RehearsalBot.h"
 
+// How recordings are held against the real ones is played: tests/sessions/passwords.txt.
+
 namespace {
 
 TEST(Passwords, AreMaskedWhereverAndHoweverTheyAreWritten) {
@@ -24,24 +26,6 @@ TEST(Passwords, AreMaskedWhereverAndHoweverTheyAreWritten) {
                                        {"wh Ann connect me too", "wh Ann connect me too"}}) {
         EXPECT_EQ(WithoutPassword(line), masked);
     }
-}
-
-TEST(Passwords, AreKnownFromTheCharacterFileBesideWhatIsTyped) {
-    RehearsalBot rehearsal;
-    rehearsal.files.contents["bot.ini"] = "Name=Bot\nPASSWORD=s3cr3t\n";
-    rehearsal.bot.profile.characterPath = "bot.ini";
-    rehearsal.rehearsal.Play(ParseSession("connect\ntype `connect Other pw-2\n"));
-    EXPECT_EQ(WithoutPasswords(rehearsal.bot, "s3cr3t and pw-2"), "******** and ********");
-}
-
-// A recording has stars where the run had a password.
-TEST(Passwords, OfARecordingAreMetByTheRealOnes) {
-    RehearsalBot rehearsal;
-    rehearsal.bot.characterPassword = "s3cr3t";
-    rehearsal.rehearsal.Play(
-        ParseSession("type s3cr3t, s3cr3t\nexpect \"********, ********\n"
-                     "type s3cr3t\nexpect \"other\ntype `connect Bot a\nexpect connect Bot b\n"));
-    EXPECT_EQ(rehearsal.rehearsal.FailedExpectations(), 2);
 }
 
 }  // namespace

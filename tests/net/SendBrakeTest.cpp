@@ -1,55 +1,35 @@
-#include <gtest/gtest.h>
+#include <sstream>
 
 #include "net/SendBrake.h"
 #include "support/Written.h"
 
 namespace {
 
-/// At so many milliseconds so many lines are sent in one piece, by this line of the script; so many have gone by then.
-struct Moment {
-    std::int64_t at;
-    int lines;
-    std::size_t by;
-    std::ptrdiff_t gone;
-    SendBrake::News news = SendBrake::News::None;
-    std::size_t busiest = 0;
-};
-
 TEST(SendBrake, LetsABurstPassAndTheRestInOrderAndInTime) {
-    using News = SendBrake::News;
-    const Moment moments[] = {
-        {0, 25, 3, 20, News::Jam, 3},
-        {499, 0, 0, 20},
-        {500, 0, 0, 21},
-        {1000, 3, 9, 22},
-        {5000, 0, 0, 28},
-        {9000, 2, 9, 30},
-        {13000, 20, 9, 46},
-        {20000, 0, 0, 50},
-        {25100, 0, 0, 50},
-        {25100, 21, 9, 70, News::Jam, 9},
-        {40000, 2000, 7, 90, News::Emptied, 7},
-    };
     SendBrake brake;
     brake.SetRate(2);
-    std::ptrdiff_t gone = 0;
     int next = 0;
     std::string expected, passed;
-    for (const Moment& moment : moments) {
+    const Block moments = BlocksOf("tests/net/brake.txt").at(0);
+    for (const std::string& moment : moments) {
+        std::istringstream words(moment);
+        std::int64_t at = 0;
+        std::size_t by = 0, busiest = 0;
+        int lines = 0, gone = 0, news = 0;
+        words >> at >> lines >> by >> gone >> news >> busiest;
         std::string bytes;
-        for (int i = 0; i < moment.lines; ++i) bytes += std::to_string(next++) + "\n";
+        for (; lines > 0; --lines) bytes += std::to_string(next++) + "\n";
         expected += bytes;
-        passed += bytes.empty() ? brake.Release(moment.at) : brake.Take(bytes, {"bot.vs", moment.by}, moment.at);
-        gone = std::count(passed.begin(), passed.end(), '\n');
-        EXPECT_EQ(gone, moment.gone) << moment.at;
+        passed += bytes.empty() ? brake.Release(at) : brake.Take(bytes, {"bot.vs", by}, at);
+        EXPECT_EQ(std::count(passed.begin(), passed.end(), '\n'), gone) << moment;
         const SendBrake::Report report = brake.TakeReport();
-        EXPECT_EQ(report.news, moment.news) << moment.at;
-        EXPECT_EQ(report.busiest.line, moment.busiest) << moment.at;
+        EXPECT_EQ(static_cast<int>(report.news), news) << moment;
+        EXPECT_EQ(report.busiest.line, busiest) << moment;
     }
     EXPECT_TRUE(expected.starts_with(passed)) << "in order";
     EXPECT_EQ(brake.WaitMs(40000), std::nullopt) << "what waited was dropped";
     brake.Take(std::string(SendBrake::kMostQueuedBytes + 1, 'x'), {"bot.vs", 5}, 40000);
-    EXPECT_EQ(brake.TakeReport().news, News::Emptied) << "few lines, but long ones";
+    EXPECT_EQ(brake.TakeReport().news, SendBrake::News::Emptied) << "few lines, but long ones";
     EXPECT_EQ(brake.WaitMs(40000), std::nullopt);
 }
 

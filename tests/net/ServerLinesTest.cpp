@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "net/ServerLines.h"
 #include "support/Cases.h"
@@ -15,7 +14,7 @@ std::optional<FaultKind> FaultAt(std::string_view line) {
     return FaultOf([&] { ParseServerLine(rehearsal.bot, line); });
 }
 
-TEST(ServerLines, LinesAreReadAtTheirLeastLengthAndFaultBelow) {
+TEST(ServerLines, AreReadAtTheirLeastLengthAndFaultBelowAndWhereTheyCannotBeRead) {
     // clang-format off
     const std::string_view least[] = {
         "/0123456789 * \" # ( $", "<0123456789 * & #", "7 ! \" # $", "]-#A0123456789abc", "]f9876543210xyz", "]s * %",
@@ -26,9 +25,6 @@ TEST(ServerLines, LinesAreReadAtTheirLeastLengthAndFaultBelow) {
         EXPECT_EQ(FaultAt(line), std::nullopt) << line;
         EXPECT_EQ(FaultAt(line.substr(0, line.size() - 1)), FaultKind::InvalidProcedureCall) << line;
     }
-}
-
-TEST(ServerLines, WhatCannotBeReadIsAFault) {
     for (const char* const line :
          {"<0123456789\xff\xff & #", "([*] Ann rolls 32768d6 & gets 7.", "(* 32768 players in the dream of Vale."}) {
         EXPECT_EQ(FaultAt(line), FaultKind::Overflow) << line;

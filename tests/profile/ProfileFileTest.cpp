@@ -15,7 +15,8 @@ using Told = std::vector<std::string>;
 
 constexpr char kProfile[] =
     "Port=1\r\n[General]\r\nFURCADIACLIENT=game/v=2.exe\r\nFurcadiaCharacter=bot.ini\r\nOwners=Ann, Bob\r\n"
-    "Maps=Vale\r\nConnectClient=1x\r\nCloseClient=none\r\nPort=80\r\nport =7\r\nScript=Greet.VS\r\nnothing\r\n"
+    "Maps=Vale\r\nConnectClient=1x\r\nCloseClient=none\r\nPort=80\r\nport "
+    "=7\r\nScript=Greet.VS\r\nOwners=Bea\r\nnothing\r\n"
     "[Other]\r\nOwners=Zed\r\n[IGNORES]\r\nMean One\r\n\r\nOwners=Eve\r\n";
 
 /// A bot beside whose profile "bots/bot.tvm" lies a script that tells whose it is.
@@ -34,11 +35,11 @@ TEST(LoadProfile, ReadsTheSectionsItKnows) {
     const Profile& profile = bot.bot.profile;
     const std::vector<std::string> texts = {profile.path,   profile.clientPath, profile.characterPath,
                                             profile.owners, profile.maps,       profile.scriptPath};
-    EXPECT_EQ(Join(texts, "; "), "bots/bot.tvm; game/v=2.exe; bot.ini; Ann, Bob; Vale; Greet.VS");
+    EXPECT_EQ(Join(texts, "; "), "bots/bot.tvm; game/v=2.exe; bot.ini; Bea; Vale; Greet.VS");
     EXPECT_FALSE(profile.signatureFirst);
     EXPECT_EQ(std::tuple(profile.connectClient, profile.closeClient, profile.port), std::tuple(1, 0, 80));
     EXPECT_EQ(profile.ignores, (std::vector<std::string>{"Mean One", "", "Owners=Eve"}));
-    EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"});
+    EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"}) << "where it is named";
     EXPECT_EQ(bot.bot.place.file, "");
 }
 
@@ -49,13 +50,6 @@ TEST(OpenProfile, KnowsNoSectionsAndKeepsTheIgnores) {
     EXPECT_EQ(bot.bot.profile.ignores, Told{"Old One"});
     EXPECT_EQ(bot.bot.profile.owners, "Eve");
     EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"});
-}
-
-TEST(Profile, TheScriptRunsWhereItIsNamed) {
-    ProfileBot bot;
-    bot.files.contents["bots/bot.tvm"] = "[General]\nOwners=Ann\nScript=greet.vs\nOwners=Bob\n";
-    LoadProfile(bot.bot, "bots/bot.tvm");
-    EXPECT_EQ(bot.told, Told{"console loaded for Ann"});
 }
 
 TEST(Profile, TheSignaturesPlaceIsReadTwoWays) {
@@ -149,18 +143,17 @@ struct RemarkCase : Row {
 };
 
 const std::string kGood = "VSPK 01.00 Vorel\r\n(0:0) x,\r\n";
+const std::string kCantRun = "the script can't run, for ";
 const RemarkCase kRemarks[] = {
     {"Good", FileKind::Script, "vspk 01.00 VOREL\ncaf\xe9\r\r\n", ""},
     {"Empty", FileKind::Script, "", ""},
-    {"Utf16", FileKind::Script, "\xFF\xFEV" + std::string(1, '\0'),
-     "the script can't run, for it is written in UTF-16"},
+    {"Utf16", FileKind::Script, "\xFF\xFEV" + std::string(1, '\0'), kCantRun + "it is written in UTF-16"},
     {"Utf16WithoutMark", FileKind::Profile, std::string("[\0G\0", 4), "it is written in UTF-16"},
     {"Mark", FileKind::Character, "\xEF\xBB\xBFName=a\n", "it begins with a byte-order mark"},
-    {"CROnly", FileKind::Script, "VSPK 01.00 Vorel\r(0:0) x,\r",
-     "the script can't run, for its lines end with CR alone"},
-    {"BlankBehind", FileKind::Script, "VSPK 01.00 Vorel\t\n\n", "the script can't run, for blanks stand"},
-    {"HeaderOnly", FileKind::Script, "VSPK 01.00 Vorel", "the script can't run, for there is nothing behind"},
-    {"NoHeader", FileKind::Script, "(0:0) x,\n", "the script can't run, for its first line is not its header"},
+    {"CROnly", FileKind::Script, "VSPK 01.00 Vorel\r(0:0) x,\r", kCantRun + "its lines end with CR alone"},
+    {"BlankBehind", FileKind::Script, "VSPK 01.00 Vorel\t\n\n", kCantRun + "blanks stand"},
+    {"HeaderOnly", FileKind::Script, "VSPK 01.00 Vorel", kCantRun + "there is nothing behind"},
+    {"NoHeader", FileKind::Script, "(0:0) x,\n", kCantRun + "its first line is not its header"},
     {"ProfilesNeedNone", FileKind::Profile, "[General]\n", ""},
     {"Utf8", FileKind::Script, kGood + "caf\xc3\xa9", "it is written in UTF-8"},
     {"NoUtf8", FileKind::Script, kGood + "\xc3\xa9 \xe9", ""},

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <string>
@@ -51,13 +49,11 @@ TEST(Calculation, IsCheckedAtEveryStep) {
 }
 
 TEST(FormattedNumber, HasFifteenDigitsAndNoExponent) {
-    const std::pair<double, std::string> rows[] = {{0.1 + 0.2, "0.3"},
-                                                   {2.0 / 3, "0.666666666666667"},
-                                                   {999999999999999.9, "1000000000000000"},
-                                                   {-0.0, "0"},
-                                                   {-1234.5, "-1234.5"},
-                                                   {1e20, "100000000000000000000"},
-                                                   {-1.25e-7, "-0.000000125"}};
+    // clang-format off
+    const std::pair<double, std::string> rows[] = {
+        {0.1 + 0.2, "0.3"}, {2.0 / 3, "0.666666666666667"}, {999999999999999.9, "1000000000000000"}, {-0.0, "0"},
+        {-1234.5, "-1234.5"}, {1e20, "100000000000000000000"}, {-1.25e-7, "-0.000000125"}};
+    // clang-format on
     for (const auto& [number, text] : rows) EXPECT_EQ(FormatNumber(number), text);
 }
 

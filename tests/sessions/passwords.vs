@@ -1,0 +1,3 @@
+VSPK 01.00 Vorel
+(0:0) loaded,
+*Endtriggers* 9999 *Endtriggers*
