@@ -7,21 +7,13 @@
 namespace {
 
 /// `vorel run` with a pipe for standard output that is read only when the test wants.
-class UnreadOutput : public testing::Test {
+class UnreadOutput : public RunBench {
   protected:
     UnreadOutput() {
-        files.WriteBot("bot",
-                       "(0:6) whispered to,\r\n (5:44) join {[player]}.\r\n"
-                       "(0:2) when disconnected,\r\n (5:2) note {gone}.\r\n");
-        const QByteArray path = files.Path("out").toLocal8Bit();
-        EXPECT_EQ(::mkfifo(path.constData(), S_IRUSR | S_IWUSR), 0);
-        pipe = ::open(path.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
-        const QString port = QString::number(server.listener.serverPort());
-        vorel = std::make_unique<Vorel>(files,
-                                        QStringList{"run", "bot.tvm", "--server", "127.0.0.1", "--port", port, "--log",
-                                                    "log.txt", "--record", "/dev/full", "--keep-split-lines"},
-                                        files.Path("out"));
-        EXPECT_TRUE(server.Hears("desc "));
+        files.WriteBot("bot", QByteArray("(0:6) whispered to,\r\n (5:44) join {[player]}.\r\n") + kGone);
+        EXPECT_EQ(::mkfifo(qPrintable(files.Path("out")), S_IRUSR | S_IWUSR), 0);
+        pipe = ::open(qPrintable(files.Path("out")), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+        vorel = Run({"bot.tvm", "--log", "log.txt", "--record", "/dev/full", "--keep-split-lines"}, files.Path("out"));
     }
     ~UnreadOutput() override { ::close(pipe); }
 
@@ -43,8 +35,6 @@ class UnreadOutput : public testing::Test {
         });
     }
 
-    BotFiles files;
-    GameServer server;
     int pipe = -1;
     std::unique_ptr<Vorel> vorel;
     QByteArray out;

@@ -40,9 +40,8 @@ TEST(Try, KeepsScriptsFromTheCharacterByWhateverName) {
                                      "(5:73) in {x} of {hard} under {name} write {mine}\r\n"
                                      "(5:76) add {localhost 6000} to {} of {proxy}\r\n(5:2) note {got [a]}"));
     files.Write("bot.tvm", "[General]\nFurcadiaClient=Client\nScript=bot.vs\nFurcadiaCharacter=BOT.INI\n");
-    const std::string path = files.Path("bot.ini").toStdString(), folder = files.Path().toStdString();
-    ASSERT_EQ(::symlink("bot.ini", (folder + "/soft.ini").c_str()), 0);
-    ASSERT_EQ(::link(path.c_str(), (folder + "/hard.ini").c_str()), 0);
+    ASSERT_TRUE(QFile::link("bot.ini", files.Path("soft.ini")));
+    ASSERT_EQ(::link(qPrintable(files.Path("bot.ini")), qPrintable(files.Path("hard.ini"))), 0);
     Vorel vorel(files, {"try", "bot.tvm", "/dev/null"});
     EXPECT_EQ(vorel.Ends(), 0);
     EXPECT_EQ(vorel.out.count("scripts can't open"), 5) << vorel.out.toStdString();

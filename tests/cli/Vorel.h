@@ -2,6 +2,7 @@
 
 #include <QProcess>
 #include <csignal>
+#include <memory>
 
 #include "support/BotFiles.h"
 #include "support/GameServer.h"
@@ -27,4 +28,24 @@ class Vorel : public QProcess {
     }
 
     QByteArray out, err;
+};
+
+inline constexpr char kGone[] = "(0:2) when disconnected,\r\n (5:2) note {gone}.\r\n";
+
+/// A folder of bots and the server that `vorel run` leads them to.
+class RunBench : public testing::Test {
+  protected:
+    /// The program, once a new bot has logged in at the server.
+    std::unique_ptr<Vorel> Run(const QStringList& arguments, const QString& outputFile = {}) {
+        number = server.heard.size();
+        const QString port = QString::number(server.listener.serverPort());
+        const QStringList all = QStringList{"run", "--server", "127.0.0.1", "--port", port} + arguments;
+        auto vorel = std::make_unique<Vorel>(files, all, outputFile);
+        EXPECT_TRUE(server.Hears("desc ", number));
+        return vorel;
+    }
+
+    BotFiles files;
+    GameServer server;
+    std::size_t number = 0;  ///< of the newest bot at the server
 };

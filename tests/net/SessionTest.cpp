@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "net/Session.h"
@@ -7,7 +5,8 @@
 #include "support/RecordingLink.h"
 #include "support/RehearsalBot.h"
 
-// Logins, relayed lines and what is typed are played: tests/sessions. Here is what a played session can't tell: ports,
+// Logins, relayed lines and what is typed are played: tests/sessions; what is missing for a session is told in
+// tests/cli/exit-statuses.txt. Here is what a played session can't tell: ports,
 // menus, packets, the client's program and its window.
 
 namespace {
@@ -43,6 +42,14 @@ class ReadyBot : public RehearsalBot {
         AcceptServer();
         TakeTold();
     }
+    /// Connects anew, up to where the client has been started; its window opens late.
+    void ConnectAgain() {
+        session.Disconnect();
+        link.window = 0;
+        session.Connect();
+        link.window = 7;
+        TakeTold();
+    }
     void AcceptServer() {
         host.SetServerConnected(true);
         session.OnServerConnected();
@@ -59,17 +66,14 @@ class ReadyBot : public RehearsalBot {
     Session session{bot, link};
 };
 
-TEST(Session, StandAloneConnectsAsConfiguredAndLogsIn) {
+TEST(Session, StandAloneConnectsAsConfiguredAndLogsInAsTheCharacterFileSays) {
     ReadyBot bot;
     bot.session.Connect();
     EXPECT_EQ(bot.TakeTold(), Told{"link connect elsewhere:6000"});
     bot.AcceptServer();
     EXPECT_EQ(bot.told.front(), "sent connect Bot|One made-up");
     EXPECT_EQ(bot.bot.status.botName, "Bot One");
-}
-
-TEST(Session, ACharacterFileMayLackItsKeysButNotTheDigitsOfAShape) {
-    ReadyBot bot;
+    bot.TakeTold();
     std::string& character = bot.files.contents["bots/bot.ini"];
     character = "name=Old\r\nname=New";
     bot.AcceptServer();
@@ -79,27 +83,6 @@ TEST(Session, ACharacterFileMayLackItsKeysButNotTheDigitsOfAShape) {
     EXPECT_EQ(FaultOf([&] { bot.AcceptServer(); }), FaultKind::TypeMismatch);
     EXPECT_EQ(bot.bot.place.file, "bots/bot.ini");
     EXPECT_EQ(bot.bot.place.line, 2u);
-}
-
-TEST(Session, WhatIsMissingIsAskedForAndNothingConnects) {
-    // clang-format off
-    struct { const char *character, *client, *owners; std::int16_t connectClient; const char* box; } const cases[] = {
-        {"none.ini", "none",            "Ann", 0, "Invalid Selection: Select a valid Furcadia character"},
-        {"bot.ini",  "none",            "Ann", 1, "Invalid Selection: Select a valid Furcadia client"},
-        {"",         "",                "",    1, "Invalid Selection: Select a valid Furcadia client and character"},
-        {"none.ini", "game/client.exe", "Ann", 1, "Invalid Selection: Select a valid Furcadia character"},
-        {"bot.ini",  "none",            "",    0, "Bot Owner: You must add at least one name to the bot owners list"},
-    };
-    // clang-format on
-    for (const auto& missing : cases) {
-        ReadyBot bot;
-        Profile& profile = bot.bot.profile;
-        profile.characterPath = missing.character, profile.clientPath = missing.client;
-        profile.owners = missing.owners, profile.connectClient = missing.connectClient;
-        bot.session.Connect();
-        EXPECT_EQ(bot.told, Told{"box " + std::string(missing.box) + " before attempting to connect."});
-        EXPECT_EQ(bot.Menus(), "C--");
-    }
 }
 
 TEST(Session, ClientModeWaitsForTheClientAndGoesToTheGamesOwnServer) {
@@ -128,11 +111,6 @@ TEST(Session, ClientModeWaitsForTheClientAndGoesToTheGamesOwnServer) {
         bot.session.StandAlone();
         EXPECT_EQ(bot.Menus(), "C--");  // nobody has logged in, so there is no session to go on with
     }
-}
-
-TEST(Session, PortsLieBetween1000And9999) {
-    ReadyBot bot;
-    bot.SetClientMode();
     bot.link.takenPorts = 100000;
     bot.session.Connect();
     const auto [least, greatest] = std::minmax_element(bot.link.ports.begin(), bot.link.ports.end());
@@ -196,6 +174,10 @@ const EndCase kEnds[] = {
                         {"link take away", "link close client", "link close server", "console 3"}, "C--"},
     {"WindowClosesOnceWithTheClient", [](ReadyBot& b) { b.session.OnClientClosed(); b.session.Disconnect(); },
                         {"link close window 7", "link take away", "link close client", "link close server", "console 3"}, "C--"},
+    {"BeforeTheServerAnswersNothingIsHeardAndTheEndIsNoEvent",
+                        [](ReadyBot& b) { b.ConnectAgain(); b.session.OnServerData("(Ann: hi\n"); b.session.OnClientData("\"&go\n");
+                                          b.session.Disconnect(); b.session.Disconnect(); },
+                        {"link take away", "link close window 7"}, "C--"},
     {"StandsAlone",     [](ReadyBot& b) { b.session.StandAlone(); }, {"link close client"}, "-D-"},
 };
 // clang-format on
@@ -211,27 +193,5 @@ TEST_P(SessionEnd, ClosesAndTells) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Session, SessionEnd, testing::ValuesIn(kEnds), kCaseName);
-
-TEST(Session, AClientsWindowThatOpensLateIsClosedAllTheSame) {
-    ReadyBot bot;
-    bot.SetClientMode();
-    bot.session.Connect();
-    bot.link.window = 7;
-    bot.TakeTold();
-    bot.session.Disconnect();
-    bot.session.Disconnect();
-    EXPECT_EQ(bot.told, (Told{"link take away", "link close window 7"}));
-}
-
-TEST(Session, BeforeTheServerAnsweredNothingIsHeardAndTheEndIsNoEvent) {
-    ReadyBot bot;
-    bot.session.Connect();
-    bot.TakeTold();
-    bot.session.OnServerData("(Ann: hi\n");
-    bot.session.OnClientData("\"&go\n");
-    bot.session.Disconnect();
-    EXPECT_EQ(bot.told, Told{});
-    EXPECT_EQ(bot.Menus(), "C--");
-}
 
 }  // namespace
