@@ -39,7 +39,11 @@ TEST_F(ProxyFileTest, TheUsersFileComesBackWhenTheLastBotHasGone) {
     }
 }
 
-TEST_F(ProxyFileTest, ACrashLosesNothingOfTheUsers) {
+TEST_F(ProxyFileTest, NothingOfTheUsersIsLostInACrashEither) {
+    first.Write(path, "localhost 1001\r\n");
+    files.Write("proxy.ini", "typed just now");
+    first.TakeAway();
+    EXPECT_EQ(Folder(), "proxy.ini: typed just now") << "what the user writes meanwhile stays";
     files.Write("proxy.ini", "the user's");
     first.Write(path, "localhost 1001\r\n");
     const QByteArray ours = files.Read("proxy.ini"), marker = files.Read("proxy.ini.written-by-vorel");
@@ -58,13 +62,6 @@ TEST_F(ProxyFileTest, ACrashLosesNothingOfTheUsers) {
     second.Write(path, "localhost 1002\r\n");
     second.TakeAway();
     EXPECT_EQ(Folder(), "proxy.ini proxy.ini.kept-by-vorel.older: a newer one");
-}
-
-TEST_F(ProxyFileTest, WhatTheUserWritesMeanwhileStays) {
-    first.Write(path, "localhost 1001\r\n");
-    files.Write("proxy.ini", "typed just now");
-    first.TakeAway();
-    EXPECT_EQ(Folder(), "proxy.ini: typed just now");
 }
 
 }  // namespace
