@@ -94,17 +94,6 @@ TEST_F(InSession, TypedLinesAreSentAndComeBackWithUpAndDown) {
     EXPECT_EQ(line->text(), "caf\u00e9 \u4e2d");
 }
 
-TEST_F(InSession, LinesThatTheNetworkHasSplitAreKeptWhenThatIsChosen) {
-    GameServer server;
-    window->host().session().SetServer("127.0.0.1", server.listener.serverPort());
-    Choose("mnuKeepSplitLines");
-    ASSERT_TRUE(Connect());
-    server.Say("(whole\n(cut");
-    ASSERT_TRUE(Eventually([this] { return ConsoleText().contains("whole\n"); })) << "by now the packet has been read";
-    server.Say(" in two\n");
-    EXPECT_TRUE(Eventually([this] { return ConsoleText().contains("cut in two\n"); }));
-}
-
 TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
     EXPECT_EQ(State(), "+--  Disconnected ");
     QTest::keyClick(line, Qt::Key_K, Qt::ControlModifier);
@@ -116,11 +105,16 @@ TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
     GameServer server;
     window->host().session().SetServer("127.0.0.1", server.listener.serverPort());
     The<QAction>("mnuReconnect").setChecked(true);
+    Choose("mnuKeepSplitLines");
     for (const auto& [map, told] :
          {std::pair{"", "check its name and password. Trying again"}, {"in.map", "connection. Trying again"}}) {
         ASSERT_TRUE(Connect());
         const std::size_t session = server.bots.size() - 1;
         ASSERT_TRUE(server.Hears("connect bot", session));
+        server.Say("(whole\n(cut", session);
+        ASSERT_TRUE(Eventually([this] { return ConsoleText().endsWith("whole\n"); })) << "the packet has been read";
+        server.Say(" in two\n", session);
+        ASSERT_TRUE(Eventually([this] { return ConsoleText().endsWith("cut in two\n"); }));
         bot().state.mapFile = map;
         server.Close(session);
         EXPECT_TRUE(Eventually([&] { return Panel(3).section(" in ", 0, 0).endsWith(told); })) << Panel(3);

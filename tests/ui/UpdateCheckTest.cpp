@@ -36,13 +36,14 @@ class Update : public testing::Test {
     }
 };
 
-struct NoticeCase : Row {
+/// What the server answers, and what comes of it: what is offered, or what a file holds where "old" was.
+struct AnswerCase : Row {
     QByteArray answer;
-    Then then;
-    QString found;
+    QString outcome;
+    Then then = Then::kClose;
 };
 
-class Notice : public Update, public testing::WithParamInterface<NoticeCase> {};
+class Notice : public Update, public testing::WithParamInterface<AnswerCase> {};
 
 TEST_P(Notice, OffersOnlyANewerVersion) {
     const GameServer elsewhere;
@@ -54,41 +55,36 @@ TEST_P(Notice, OffersOnlyANewerVersion) {
     QObject::connect(&check, &UpdateCheck::Looked, &check, [&] { done = true; });
     check.Look();
     Answer("/base/tandryvorel.txt", answer, GetParam().then);
-    EXPECT_EQ(found, GetParam().found);
+    EXPECT_EQ(found, GetParam().outcome);
     EXPECT_TRUE(elsewhere.bots.empty());
 }
 
 using enum Then;
-INSTANTIATE_TEST_SUITE_P(
-    Server, Notice,
-    testing::Values(
-        NoticeCase{"Newer", Ok("99.1\r\nBetter walks.\nAnd more.\n"), kClose, "99.1:Better walks.\nAnd more."},
-        NoticeCase{"LongText", Ok("99.1\n" + QByteArray(30, '\n') + QByteArray("a\n").repeated(30)), kClose,
-                   "99.1:" + QString("a\n").repeated(19) + QString::fromUtf8("a…")},
-        NoticeCase{"Ours", Ok("1.0.0\nThis one."), kClose, ""}, NoticeCase{"Older", Ok("0.9.9\nLong ago."), kClose, ""},
-        NoticeCase{"NoVersion", Ok("<html>99.1</html>"), kClose, ""},
-        NoticeCase{"VersionAndMore", Ok("99.1 <b>\ntext"), kClose, ""},
-        NoticeCase{"Binary", Ok(QByteArray("99.1\n\x01\x02\xff", 8)), kClose, ""},
-        NoticeCase{"Empty", Ok(""), kClose, ""},
-        NoticeCase{"TooLong", Ok("99.1\n" + QByteArray(1000, 'a')), kClose, ""},
-        NoticeCase{"CutOff", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n99.1\nhalf", kClose, ""},
-        NoticeCase{"NotFound", "HTTP/1.1 404 No\r\nContent-Length: 4\r\n\r\n99.1", kClose, ""},
-        NoticeCase{"NoHttp", "99.1\n\n", kClose, ""},
-        NoticeCase{"LeadsElsewhere", "HTTP/1.1 302 Go\r\nLocation: http://127.0.0.1:PORT/\r\nContent-Length: 0\r\n\r\n",
-                   kClose, ""},
-        NoticeCase{"Silent", "", kStayOpen, ""},
-        NoticeCase{"StopsHalfway", "HTTP/1.1 200 OK\r\n\r\n99.1\nhalf", kStayOpen, ""},
-        NoticeCase{"Endless", "HTTP/1.1 200 OK\r\n\r\n99.1\n", kNeverEnd, ""},
-        NoticeCase{"EndlessHeader", "HTTP/1.1 200 OK\r\nVersion: ", kNeverEnd, ""}),
-    kCaseName);
-
-struct ArchiveCase : Row {
-    QByteArray answer;
-    Then then;
-    QByteArray file;  ///< what the file holds then, where "old" was
+// clang-format off
+const AnswerCase kNotices[] = {
+    {"Newer", Ok("99.1\r\nBetter walks.\nAnd more.\n"), "99.1:Better walks.\nAnd more."},
+    {"LongText", Ok("99.1\n" + QByteArray(30, '\n') + QByteArray("a\n").repeated(30)),
+                 "99.1:" + QString("a\n").repeated(19) + QString::fromUtf8("a…")},
+    {"Ours", Ok("1.0.0\nThis one."), ""}, {"Older", Ok("0.9.9\nLong ago."), ""}, {"Empty", Ok(""), ""},
+    {"NoVersion", Ok("<html>99.1</html>"), ""}, {"VersionAndMore", Ok("99.1 <b>\ntext"), ""},
+    {"Binary", Ok(QByteArray("99.1\n\x01\x02\xff", 8)), ""}, {"TooLong", Ok("99.1\n" + QByteArray(1000, 'a')), ""},
+    {"CutOff", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n99.1\nhalf", ""},
+    {"NotFound", "HTTP/1.1 404 No\r\nContent-Length: 4\r\n\r\n99.1", ""}, {"NoHttp", "99.1\n\n", ""},
+    {"LeadsElsewhere", "HTTP/1.1 302 Go\r\nLocation: http://127.0.0.1:PORT/\r\nContent-Length: 0\r\n\r\n", ""},
+    {"Silent", "", "", kStayOpen}, {"StopsHalfway", "HTTP/1.1 200 OK\r\n\r\n99.1\nhalf", "", kStayOpen},
+    {"Endless", "HTTP/1.1 200 OK\r\n\r\n99.1\n", "", kNeverEnd},
+    {"EndlessHeader", "HTTP/1.1 200 OK\r\nVersion: ", "", kNeverEnd},
 };
+const AnswerCase kArchives[] = {
+    {"Whole", Ok("PK new"), "PK new"}, {"CutOff", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\nPK", "old"},
+    {"NotFound", "HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nPK", "old"},
+    {"Stalled", "HTTP/1.1 200 OK\r\n\r\nPK", "old", kStayOpen}, {"Endless", "HTTP/1.1 200 OK\r\n\r\nPK", "old", kNeverEnd},
+};
+// clang-format on
 
-class Archive : public Update, public testing::WithParamInterface<ArchiveCase> {};
+INSTANTIATE_TEST_SUITE_P(Server, Notice, testing::ValuesIn(kNotices), kCaseName);
+
+class Archive : public Update, public testing::WithParamInterface<AnswerCase> {};
 
 TEST_P(Archive, AppearsWholeOrNotAtAll) {
     const BotFiles files;
@@ -99,18 +95,11 @@ TEST_P(Archive, AppearsWholeOrNotAtAll) {
     });
     check.FetchArchive(files.Write("update.zip", "old"));
     Answer("/base/software/tvupdate.zip", GetParam().answer, GetParam().then);
-    EXPECT_EQ(files.Read("update.zip"), GetParam().file);
-    EXPECT_EQ(why.isEmpty(), GetParam().file != "old") << why.toStdString();
+    EXPECT_EQ(files.Read("update.zip"), GetParam().outcome);
+    EXPECT_EQ(why.isEmpty(), GetParam().outcome != "old") << why.toStdString();
     EXPECT_EQ(QDir(files.Path()).entryList(QDir::Files), QStringList("update.zip")) << "and nothing beside it";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Server, Archive,
-    testing::Values(ArchiveCase{"Whole", Ok("PK new"), kClose, "PK new"},
-                    ArchiveCase{"CutOff", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\nPK", kClose, "old"},
-                    ArchiveCase{"NotFound", "HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nPK", kClose, "old"},
-                    ArchiveCase{"Stalled", "HTTP/1.1 200 OK\r\n\r\nPK", kStayOpen, "old"},
-                    ArchiveCase{"Endless", "HTTP/1.1 200 OK\r\n\r\nPK", kNeverEnd, "old"}),
-    kCaseName);
+INSTANTIATE_TEST_SUITE_P(Server, Archive, testing::ValuesIn(kArchives), kCaseName);
 
 }  // namespace

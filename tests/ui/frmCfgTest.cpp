@@ -1,4 +1,5 @@
 #include "profile/ProfileFile.h"
+#include "support/Written.h"
 #include "ui/Desk.h"
 #include "ui/frmCfg.h"
 
@@ -45,42 +46,19 @@ class Configuration : public Desk {
     std::string Written() const { return ProfileBytes(bot().profile) + bot().profile.serverAddress; }
 };
 
-struct Step {
-    const char* button;
-    QStringList answers;
-    const char *told, *lists;  ///< the last that is told, and the lists after it, none when they are as before
-};
-
-// clang-format off
-const Step kSteps[] = {
-    {"cmdAdd_Owner", {""},            "text [New Bot Owner] Enter the name of the new bot owner", ""},
-    {"cmdAdd_Owner", {"ann"},         "message [Invalid] ann is already on the bot owner list", ""},
-    {"cmdAdd_Owner", {"Pillow Wars"}, "", "Ann, Bob|Two, Pillow|Wars; Vale; Mean One"},
-    {"cmdDel_Owner", {},              "", "Ann, Bob|Two; Vale; Mean One"},
-    {"cmdAdd_Map",   {""},            "text [New Active Map] Enter the name of the new active map", ""},
-    {"cmdAdd_Map",   {"vale"},        "message [Invalid] vale is already on the active map list", ""},
-    {"cmdAdd_Map",   {"A B"},         "", "Ann, Bob|Two; Vale, A|B; Mean One"},
-    {"cmdDel_Map",   {},              "", "Ann, Bob|Two; Vale; Mean One"},
-    {"cmdDel_Map",   {},              "", "Ann, Bob|Two; ; Mean One"},
-    {"cmdDel_Map",   {},              "", ""},
-    {"cmdRI",        {},              "message [Invalid Selection] Select a furre to remove from the ignore list.", ""},
-    {"cmdAI",        {"undefined"},   "[Tandry Vorel - Ignore List] What is the name of the furre you want your bot to ignore?", ""},
-    {"cmdAI",        {"mean|one"},    "information [Tandry Vorel - Ignore List] mean one is already on the Tandry Vorel ignore list.", ""},
-    {"cmdAI",        {"Other|One"},   "", "Ann, Bob|Two; ; Mean One, Other One"},
-    {"cmdRI",        {"No"},          "Are you sure you want to remove Mean One from the Tandry Vorel Ignore List?", ""},
-    {"cmdRI",        {"Yes"},         "", "Ann, Bob|Two; ; Other One"},
-    {"cmdClient",    {"Cancel"},      "open [Select a Furcadia client] Furcadia Client (Furcadia.exe) | Furcadia.exe in /games", ""},
-    {"cmdINI",       {"Cancel"},      "open [Select a Furcadia character] Furcadia Character (*.ini) | *.ini in /bots", ""},
-};
-// clang-format on
-
 TEST_F(Configuration, AsksRefusesAndEditsItsLists) {
     QString lists = Lists();
-    for (const auto& [button, answers, told, changed] : kSteps) {
-        EXPECT_TRUE(Click(button, answers).contains(told)) << told;
-        if (*changed) lists = changed;
-        EXPECT_EQ(Lists(), lists) << button << answers.join('|');
-        if (button == std::string("cmdAI")) The<QListWidget>("lstIgnores").setCurrentRow(0);
+    for (const Block& step : BlocksOf("tests/ui/configuration.txt")) {
+        QStringList answers = QString::fromStdString(step[0]).split(':');
+        const QString button = answers.takeFirst(), told = Click(button, answers);
+        for (auto line = step.begin() + 1; line != step.end(); ++line) {
+            if (line->starts_with("= "))
+                lists = QString::fromStdString(line->substr(2));
+            else
+                EXPECT_TRUE(told.contains(QString::fromStdString(*line))) << *line;
+        }
+        EXPECT_EQ(Lists(), lists) << step[0];
+        if (button == "cmdAI") The<QListWidget>("lstIgnores").setCurrentRow(0);
     }
     EXPECT_EQ(bot().profile.ignores, std::vector<std::string>{"Other One"}) << "at once";
 }
