@@ -34,7 +34,7 @@ bool TerminalBot::Load() {
 }
 
 std::optional<std::string> TerminalBot::RecordTo(const std::string& path) {
-    const std::optional<std::string> opened = recordFile_.Open(path);
+    std::optional<std::string> opened = recordFile_.Open(path);
     if (!opened) return std::nullopt;
     recording_ = std::make_unique<Recording>(host_.bot(), [this](const std::string& lines) { Record(lines); });
     host_.SetObserver(recording_.get());

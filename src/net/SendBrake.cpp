@@ -22,7 +22,7 @@ std::string SendBrake::Take(std::string_view bytes, const Place& from, std::int6
         ++sent_[{from.file, from.line}];
         bytes.remove_prefix(line.size());
     }
-    const std::string passed = Pass();
+    std::string passed = Pass();
     if (!queue_.empty() && !std::exchange(jamTold_, true)) Tell(News::Jam);
     if (queue_.size() > kLongestQueue || queuedBytes_ > kMostQueuedBytes) {
         Clear();
