@@ -6,6 +6,7 @@
 #include "engine/Compare.h"
 #include "engine/Files.h"
 #include "engine/Host.h"
+#include "engine/Script.h"
 #include "text/Fault.h"
 #include "text/Text.h"
 
@@ -43,8 +44,9 @@ std::string BareKey(std::string_view line) {
 }
 
 /// Is it a character's file, or made like one? Behind the first section an entry of that name is a script's own affair.
+/// A lone CR ends a line here, as it does for who has written such a file.
 bool HoldsPassword(std::string_view bytes) {
-    for (const std::string& line : FileLines(bytes)) {
+    for (const std::string& line : FileLines(ReplaceAll(bytes, "\r", "\n"))) {
         if (IsSectionLine(line)) return false;
         if (BareKey(line) == "password=") return true;
     }
@@ -74,9 +76,20 @@ bool IsProxyFile(const Bot& bot, const std::string& path) {
     return LeadsToOneOf(bot, path, places);
 }
 
+/// True for what the bot is made of: a profile and a script may be called anything, and the one names a program to
+/// start.
+bool IsProfileOrScript(const Bot& bot, const std::string& path) {
+    std::vector<std::string> own = bot.profile.PlacesOf(bot.profile.scriptPath);
+    own.push_back(bot.profile.path);
+    if (bot.script) own.push_back(bot.script->File());
+    std::erase(own, "");
+    return LeadsToOneOf(bot, path, own);
+}
+
 /// Why a script can't have a file, whatever is in it; empty when it can.
 std::string_view WhyWithheld(const Bot& bot, const std::string& path) {
     if (IsCharacterFile(bot, path)) return "it is the bot's character";
+    if (IsProfileOrScript(bot, path)) return "the bot is made of it";
     return IsProxyFile(bot, path) ? "it tells the game's client where to connect" : "";
 }
 

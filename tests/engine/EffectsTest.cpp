@@ -39,6 +39,16 @@ TEST(Effects, FaultWhereTheyCannotGoOnAndChangeNothing) {
     EXPECT_TRUE(acting.told.empty() && acting.files.contents.empty());
 }
 
+TEST(Effects, LeaveAloneWhatTheBotIsMadeOf) {
+    ActingBot acting;
+    acting.bot.profile.path = "folder/bot.ini";
+    acting.bot.profile.scriptPath = "CODE.ini";
+    acting.files.contents["folder/mac.ini"] = "Name=a\rPassword=b";
+    for (const char* const name : {"bot", "code", "mac"}) acting.Act(77, "{x} {y} {" + std::string(name) + "}");
+    EXPECT_EQ(acting.files.contents.size(), 1u);
+    EXPECT_EQ(acting.told.size(), 3u) << "the console says so";
+}
+
 TEST(Effects, WalkToEvenSquaresOnly) {
     ActingBot acting;
     for (const auto& [typed, x] :
