@@ -1,6 +1,8 @@
 #include "platform/Wire.h"
 
+#include <QElapsedTimer>
 #include <QHostAddress>
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -8,9 +10,10 @@
 
 namespace {
 
-/// How much of a flood is handled at a time, before the event loop gets its turn: some forty lines, so that even a
-/// script that takes milliseconds for each leaves signals, timers and the user waiting for a moment only.
-constexpr qint64 kPacketLimit = qint64{4} * 1024;
+/// How much of a flood is handled at a time, before the event loop gets its turn: less of it, down to a few lines, as
+/// long as a slow script takes longer than a moment, for which signals, timers and the user wait.
+constexpr qint64 kLargestSlice = qint64{4} * 1024, kFirstSlice = 512, kSmallestSlice = 64;
+constexpr qint64 kMomentMs = 100;
 
 /// How long a connection that is closed may take to send what was written before.
 constexpr std::chrono::seconds kPartingTime{5};
@@ -20,7 +23,7 @@ constexpr int kLastPort = 65535;
 }  // namespace
 
 Wire::Wire(QTcpSocket* socket, Listener listener, QObject* parent)
-    : QObject(parent), socket_(socket), listener_(std::move(listener)) {
+    : QObject(parent), socket_(socket), listener_(std::move(listener)), slice_(kFirstSlice) {
     socket_->setParent(this);
     socket_->setReadBufferSize(kBufferLimit);
     tmrSilence_.setObjectName("tmrSilence");
@@ -104,25 +107,33 @@ void Wire::Read() {
 }
 
 void Wire::ReadPacket() {
-    const QByteArray packet = socket_->read(kPacketLimit);
+    const QByteArray packet = socket_->read(slice_);
     const bool goesOn = socket_->bytesAvailable() > 0 || WaitingBytes(socket_->socketDescriptor()) > 0;
+    QElapsedTimer turn;
+    turn.start();
     listener_.onData({packet.data(), static_cast<std::size_t>(packet.size())}, goesOn);
+    slice_ = std::clamp(turn.hasExpired(kMomentMs) ? slice_ / 4 : slice_ * 2, kSmallestSlice, kLargestSlice);
 }
 
 void Wire::EndLater(const SocketError& error) {
     QTimer::singleShot(0, this, [this, error] { End(error); });
 }
 
-/// What the other side sent before the end still counts, as if the connection stood until it is read.
 void Wire::End(const std::optional<SocketError>& error) {
     tmrSilence_.stop();
     tmrAnswer_.stop();
-    while (!over_ && !full_ && socket_->bytesAvailable() > 0) {
-        draining_ = true;
+    if (!std::exchange(ending_, true)) Drain(error);
+}
+
+/// What the other side sent before the end still counts, as if the connection stood until it is read.
+void Wire::Drain(const std::optional<SocketError>& error) {
+    draining_ = !over_ && !full_ && socket_->bytesAvailable() > 0;
+    if (draining_) {
         ReadPacket();
-        draining_ = false;
+        QTimer::singleShot(0, this, [this, error] { Drain(error); });
+    } else if (!std::exchange(over_, true)) {
+        listener_.onEnd(error);
     }
-    if (!std::exchange(over_, true)) listener_.onEnd(error);
 }
 
 SocketError Wire::Failure(int number, std::string_view what, int systemCode) const {

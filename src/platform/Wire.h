@@ -63,7 +63,9 @@ class Wire final : public QObject {
     std::string host_;
     std::unique_ptr<EndWatch> watch_;
     QTimer tmrSilence_{this}, tmrAnswer_{this};
+    qint64 slice_;           ///< how much is read at a time
     bool waits_ = false;     ///< the rest of a flood, for its turn: what arrives meanwhile waits behind it
+    bool ending_ = false;    ///< why it ends is settled
     bool draining_ = false;  ///< closed by the other side, what it sent not read yet
     bool full_ = false;      ///< too much is unread: it is about to be let go
     bool over_ = false;      ///< nothing more is told
@@ -74,6 +76,7 @@ class Wire final : public QObject {
     void ReadPacket();
     void EndLater(const SocketError& error);
     void End(const std::optional<SocketError>& error);
+    void Drain(const std::optional<SocketError>& error);
     SocketError Failure(int number, std::string_view what, int systemCode = 0) const;
     SocketError BrokenOff() const;
 };

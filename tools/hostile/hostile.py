@@ -324,6 +324,25 @@ def floods(stage):
     time.sleep(5)
 
 
+def floods_a_slow_script(stage):
+    """short lines, milliseconds of the script for each; one server ends meanwhile"""
+    slow = "(0:3) said,\r\n" + f" (5:68) take the variable {{v}} and store {{{'[message] ' * 30}}}.\r\n" * 300
+
+    def leave(peer, number):
+        swallow(peer)
+        peer.settimeout(1)
+        try:
+            peer.sendall(b"(A: b\n" * 400_000)
+        finally:
+            peer.shutdown(socket.SHUT_WR)
+            hang(peer, number)
+    for treat in (flood(b"(A: b\n" * 5000, 20), letting_in(leave)):
+        bot = stage.bot(slow, "--quiet", treat=treat)
+        time.sleep(4)
+        took = bot.end()
+        check(took < LONGEST_END, f"the signal took {took:.1f} s")
+
+
 def floods_and_loses_no_line(stage):
     """10 MB in one go, each line of it shown"""
     lines = 100_000
@@ -503,7 +522,7 @@ def practice_flood(stage):
 
 SLOW = [refuses_the_login, swallows_packets]  # they mostly wait, and so beside the others
 SCENES = [drops_at_once, resets_at_once, ends_with_69, unreachable_stays, stalls, cuts_lines, floods,
-          floods_and_loses_no_line, floods_without_a_line_end, never_reads, hears_itself, sends_too_much, talks_rubbish,
+          floods_a_slow_script, floods_and_loses_no_line, floods_without_a_line_end, never_reads, hears_itself, sends_too_much, talks_rubbish,
           client_floods, client_never_reads, client_resets, client_talks_rubbish, practice_crowd, practice_flood]
 
 printing = threading.Lock()
