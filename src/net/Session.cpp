@@ -25,6 +25,9 @@ namespace {
 constexpr std::string_view kInvalidSelection = "Invalid Selection";
 constexpr int kPortDraws = 1000;
 
+/// How much of a packet is held back until the rest of it has come, before it is relayed.
+constexpr std::size_t kMostHeldBack = std::size_t{64} * 1024;
+
 /// What to tell the user when a file that connecting needs is not there; empty when all are.
 std::string_view MissingFiles(bool character, bool client) {
     if (!character && !client) return "Select a valid Furcadia client and character before attempting to connect.";
@@ -131,6 +134,7 @@ void Session::GiveUpClient(const std::string& why) {
 void Session::ConnectServer(const std::string& address) {
     LearnPassword();
     serverLines_.Clear();
+    toClient_.clear();
     link_.ConnectServer(serverAddress_.empty() ? address : serverAddress_,
                         serverPort_ == 0 ? bot_.profile.port : serverPort_);
 }
@@ -215,14 +219,15 @@ void Session::OnServerData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsServerConnected()) return;
     const std::vector<std::string> lines = serverLines_.Take(packet, goesOn);
     TellDropped("the server", serverLines_);
-    std::string relayed;
     for (const std::string& line : lines) {
         Note(Happening::ServerLine, line);
         HeardMark heard(bot_, Heard::From::Game, line);
         ParseServerLine(bot_, line);
-        relayed.append(line).append("\n");
+        toClient_.append(line).append("\n");
     }
-    // The client sees a packet only after the bot has answered it.
+    // The client sees a packet only after the bot has answered it, and in one piece; a flood, in large ones.
+    if (goesOn && toClient_.size() < kMostHeldBack) return;
+    const std::string relayed = std::exchange(toClient_, {});
     if (!relayed.empty() && bot_.host.IsClientConnected()) bot_.host.WriteToClient(relayed);
 }
 
@@ -255,6 +260,7 @@ void Session::OnClientRequest() {
     link_.AcceptClient();
     Note(Happening::Linked);
     clientLines_.Clear();
+    toServer_.clear();
     // Kept on purpose: with a client the bot always goes to the game's own server, whatever was configured.
     ConnectServer("");
 }
@@ -268,15 +274,16 @@ void Session::OnClientData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsClientConnected()) return;
     const std::vector<std::string> lines = clientLines_.Take(packet, goesOn);
     TellDropped("the client", clientLines_);
-    std::string relayed;
     for (const std::string& line : lines) {
         Note(Happening::ClientLine, line);
         HeardMark heard(bot_, Heard::From::Client, line);
         if (!FilterClientLine(bot_, line)) continue;
-        relayed.append(line).append("\n");
+        toServer_.append(line).append("\n");
         // Behind its line, as if each had come in a packet of its own: so a recording can be played line by line.
         if (bot_.host.IsServerConnected()) Note(Happening::Sent, line);
     }
+    if (goesOn && toServer_.size() < kMostHeldBack) return;
+    const std::string relayed = std::exchange(toServer_, {});
     if (!relayed.empty() && bot_.host.IsServerConnected()) link_.RelayToServer(relayed);
 }
 

@@ -72,6 +72,7 @@ class Session {
     std::string serverAddress_;
     int serverPort_ = 0;
     PacketLines serverLines_, clientLines_;
+    std::string toClient_, toServer_;  ///< to be relayed when the packet has come to its end
     SessionObserver* observer_ = nullptr;
 
     void Note(SessionObserver::Happening happening, std::string_view text = {});

@@ -126,6 +126,10 @@ TEST(Session, PacketsAreRelayedWholeAfterTheBotsOwnReaction) {
                                     "client ]-#A", "client (Tandry Vorel: 7", "console [ Ann whispers, \"y\" to you. ]",
                                     "client (Ann: hi", "client ([ Ann whispers, \"x\" to you. ]\r", "client ",
                                     "client ([ Ann whispers, \"y\" to you. ]"}));
+    bot.session.OnServerData("(Ann: 1\n(An", true);
+    EXPECT_EQ(bot.TakeTold(), Told{"console Ann: 1"}) << "the packet has not come to its end";
+    bot.session.OnServerData("n: 2\nlost");
+    EXPECT_EQ(bot.TakeTold(), (Told{"console Ann: 2", "client (Ann: 1", "client (Ann: 2"}));
     bot.session.OnClientData("connect New|Bot secret past\ncolor 9876543210abc\n\"&go\nm 7");
     EXPECT_EQ(bot.TakeTold(), (Told{"console 47 go", "client ]-#A9876543210abc", "client (Tandry Vorel: 47 go",
                                     "sent connect New|Bot secret past", "sent color 9876543210abc"}));
