@@ -14,8 +14,11 @@ std::string At(Square square) { return Number(square.x, 2) + Number(square.y); }
 
 /// What a look shows of a badge is one character; a badge written as a number stands for the character of that code.
 std::string BadgeCharacter(const std::string& badge) {
-    const bool isCode = badge.size() > 1 && badge.find_first_not_of("0123456789") == std::string::npos;
-    return isCode ? std::string(1, static_cast<char>(std::stoi(badge.substr(0, 3)))) : badge.substr(0, 1);
+    const bool isNumber = badge.size() > 1 && badge.find_first_not_of("0123456789") == std::string::npos;
+    const int code = isNumber ? std::stoi(badge.substr(0, 3)) : 0;
+    // 10, say, would end the line.
+    const bool isCode = code >= ' ' && code <= 255;
+    return isCode ? std::string(1, static_cast<char>(code)) : badge.substr(0, 1);
 }
 
 std::string Notice(std::string_view name, std::string_view what) {
