@@ -560,7 +560,8 @@ bool frmVorel::MayDropChanges(bool offersCancel) {
 void frmVorel::SaveAllSettings() {
     Settings settings;
     settings.recent = bot().profile.path;
-    options_.Set("recent/open", FitsCodePage(settings.recent) ? QString() : ShownPath(settings.recent));
+    const QString open = FitsCodePage(settings.recent) ? QString() : ShownPath(settings.recent);
+    if (open != options_.OpenProfile()) options_.Set("recent/open", open);
     if (!isMinimized()) {
         settings.top = y();
         settings.left = x();
