@@ -1,0 +1,22 @@
+# The rooms of the house. FROM names the rooms that a room may include from; those that they stand on come with them.
+# What a room may not know is not on its include path. docs/architecture.md draws this table, and a test compares the two.
+
+# Text of the game in 8 bits, 16-bit numbers, the fault. The standard library alone.
+add_room(text)
+
+# What is not a room of its own yet.
+add_room(core      FROM text FOLDERS engine net movement profile language)
+
+# The stand-in world, written sessions, recordings.
+add_room(rehearsal FROM core)
+
+# What the machine gives.
+add_room(platform  FROM core LINKS Qt6::Core Qt6::Network)
+
+# The practice dream.
+add_room(practice  FROM core LINKS Qt6::Core Qt6::Network)
+
+# The programs: the windows of tvorel, a library that the tests can open; what opens them; and vorel.
+add_room(ui        FROM platform practice LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
+add_room(program   FROM ui PROGRAM tvorel)
+add_room(cli       FROM rehearsal platform practice PROGRAM vorel LINKS CLI11::CLI11)
