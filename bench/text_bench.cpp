@@ -3,9 +3,9 @@
 #include <benchmark/benchmark.h>
 
 #include "QuietBot.h"
-#include "engine/Compare.h"
 #include "engine/Events.h"
 #include "engine/Variables.h"
+#include "game/Compare.h"
 
 namespace {
 

@@ -4,8 +4,11 @@
 # Text of the game in 8 bits, 16-bit numbers, the fault. The standard library alone.
 add_room(text)
 
+# What the game itself is made of: squares, looks, base 95, names and patterns.
+add_room(game      FROM text)
+
 # What is not a room of its own yet.
-add_room(core      FROM text FOLDERS engine net movement profile language)
+add_room(core      FROM game FOLDERS engine net movement profile language)
 
 # The stand-in world, written sessions, recordings.
 add_room(rehearsal FROM core)
@@ -14,7 +17,7 @@ add_room(rehearsal FROM core)
 add_room(platform  FROM core LINKS Qt6::Core Qt6::Network)
 
 # The practice dream.
-add_room(practice  FROM core LINKS Qt6::Core Qt6::Network)
+add_room(practice  FROM game LINKS Qt6::Core Qt6::Network)
 
 # The programs: the windows of tvorel, a library that the tests can open; what opens them; and vorel.
 add_room(ui        FROM platform practice LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})

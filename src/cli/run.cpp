@@ -17,7 +17,7 @@
 #include "cli/TourFile.h"
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
-#include "engine/Compare.h"
+#include "game/Compare.h"
 #include "net/FaultText.h"
 #include "platform/DiskFiles.h"
 #include "platform/Guarded.h"

@@ -4,31 +4,9 @@
 #include <string>
 #include <vector>
 
-/// A square of the map. y counts rows downward; only even x values name squares.
-struct Square {
-    std::int16_t x = 0, y = 0;
-    friend bool operator==(const Square&, const Square&) = default;
-};
-
-/// What the game tells of a furre's looks: a ten-character colour code, and one character each for the rest.
-struct Appearance {
-    std::string colors, gender, species, markings;
-
-    /// The four as one text, the way the protocol writes them.
-    std::string Code() const { return colors + gender + species + markings; }
-};
-
-struct Furre {
-    std::string name, desc, badge;
-    Appearance looks;
-};
-
-/// The seven numbers of a DragonSpeak trigger notice.
-struct DragonSpeakNotice {
-    Square from, into;
-    std::int16_t trigger = 0;
-    Square triggerAt;
-};
+#include "game/DragonSpeakNotice.h"
+#include "game/Furre.h"
+#include "game/Square.h"
 
 struct Movement {
     std::string colors;

@@ -8,10 +8,10 @@
 
 #include "engine/Arguments.h"
 #include "engine/Bot.h"
-#include "engine/Compare.h"
 #include "engine/DataFile.h"
 #include "engine/Events.h"
 #include "engine/Variables.h"
+#include "game/Compare.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

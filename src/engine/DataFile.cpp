@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "engine/Bot.h"
-#include "engine/Compare.h"
 #include "engine/Files.h"
 #include "engine/Host.h"
 #include "engine/Script.h"
+#include "game/Compare.h"
 #include "text/Fault.h"
 #include "text/Text.h"
 

@@ -3,13 +3,9 @@
 #include <string>
 #include <string_view>
 
-class Files;
+#include "game/LocalTime.h"
 
-/// A moment of the computer's clock, in local time.
-struct LocalTime {
-    int year = 1970, month = 1, day = 1;
-    int hour = 0, minute = 0, second = 0;  ///< hour 0 to 23
-};
+class Files;
 
 /// All that a bot may ask of the world around it. Texts are Windows-1252. A host translates and decides nothing.
 class Host {

@@ -1,6 +1,6 @@
 #include "engine/Lists.h"
 
-#include "engine/Compare.h"
+#include "game/Compare.h"
 #include "text/Limits.h"
 #include "text/Text.h"
 

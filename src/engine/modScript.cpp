@@ -10,12 +10,12 @@
 
 #include "engine/Arguments.h"
 #include "engine/Bot.h"
-#include "engine/Compare.h"
 #include "engine/DataFile.h"
 #include "engine/Events.h"
 #include "engine/Host.h"
 #include "engine/Lists.h"
 #include "engine/Variables.h"
+#include "game/Compare.h"
 #include "movement/modMovement.h"
 #include "net/modSend.h"
 #include "text/Limits.h"

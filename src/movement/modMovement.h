@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/BotState.h"
+#include "game/Square.h"
 
 struct Bot;
 

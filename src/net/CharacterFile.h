@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "engine/BotState.h"
 #include "engine/Place.h"
+#include "game/Furre.h"
 
 /// What the bot logs in with.
 struct Character {

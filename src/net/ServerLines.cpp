@@ -3,7 +3,7 @@
 #include "engine/Bot.h"
 #include "engine/Dispatcher.h"
 #include "engine/Host.h"
-#include "net/Base95.h"
+#include "game/Base95.h"
 #include "net/MapLines.h"
 #include "net/ServerLine.h"
 #include "net/TextLines.h"

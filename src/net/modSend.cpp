@@ -8,7 +8,7 @@
 #include "engine/Events.h"
 #include "engine/Host.h"
 #include "engine/Variables.h"
-#include "net/Base95.h"
+#include "game/Base95.h"
 #include "text/Limits.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

@@ -4,7 +4,7 @@
 #include <cctype>
 #include <utility>
 
-#include "engine/Compare.h"
+#include "game/Compare.h"
 #include "practice/Commands.h"
 #include "practice/DreamLines.h"
 #include "practice/Requests.h"

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <numeric>
 
-#include "net/Base95.h"
+#include "game/Base95.h"
 #include "text/Text.h"
 
 namespace {

@@ -5,8 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/BotState.h"
-#include "engine/Host.h"
+#include "game/DragonSpeakNotice.h"
+#include "game/Furre.h"
+#include "game/LocalTime.h"
+#include "game/Square.h"
 
 /// Every line that the practice dream sends is composed here, without the line feed. Clients cut these lines by
 /// position, so a changed word is a changed protocol. Names have "|" for blanks.

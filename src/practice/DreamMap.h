@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/BotState.h"
+#include "game/Square.h"
 
 /// A square that holds a dream; a step on it leads there.
 struct DreamDoor {

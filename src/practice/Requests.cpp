@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "engine/Compare.h"
+#include "game/Compare.h"
 #include "practice/DreamLines.h"
 #include "practice/Travel.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "net/Base95.h"
+#include "game/Base95.h"
 #include "practice/DreamLines.h"
 #include "practice/Travel.h"
 #include "text/Text.h"

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <optional>
 
-#include "engine/Compare.h"
+#include "game/Compare.h"
 #include "practice/Games.h"
 #include "text/Text.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "engine/Compare.h"
+#include "game/Compare.h"
 #include "practice/DreamLines.h"
 #include "text/Text.h"
 

@@ -8,8 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "engine/BotState.h"
-#include "engine/Host.h"
+#include "game/Furre.h"
+#include "game/LocalTime.h"
+#include "game/Square.h"
 #include "practice/DreamMap.h"
 
 /// What the practice dream asks of the machine.

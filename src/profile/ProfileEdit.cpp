@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "engine/Compare.h"
 #include "engine/Lists.h"
+#include "game/Compare.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

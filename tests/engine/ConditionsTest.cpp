@@ -1,8 +1,8 @@
 #include <map>
 #include <string>
 
-#include "engine/Compare.h"
 #include "engine/Conditions.h"
+#include "game/Compare.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"
 

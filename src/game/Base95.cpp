@@ -1,4 +1,4 @@
-#include "net/Base95.h"
+#include "game/Base95.h"
 
 #include "text/Numbers.h"
 

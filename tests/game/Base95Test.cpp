@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "net/Base95.h"
+#include "game/Base95.h"
 #include "text/Fault.h"
 
 namespace {

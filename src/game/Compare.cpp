@@ -1,4 +1,4 @@
-#include "engine/Compare.h"
+#include "game/Compare.h"
 
 #include <algorithm>
 
