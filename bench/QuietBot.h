@@ -3,9 +3,9 @@
 #include <memory>
 #include <string>
 
-#include "engine/Bot.h"
-#include "engine/Files.h"
-#include "engine/Host.h"
+#include "bot/Bot.h"
+#include "bot/Files.h"
+#include "bot/Host.h"
 #include "engine/Script.h"
 #include "text/Fault.h"
 

@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "QuietBot.h"
-#include "engine/Events.h"
-#include "engine/Variables.h"
+#include "bot/Events.h"
+#include "bot/Variables.h"
 #include "game/Compare.h"
 
 namespace {

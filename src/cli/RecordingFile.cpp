@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <utility>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 
 namespace {
 

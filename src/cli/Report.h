@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "profile/ProfileFile.h"
 #include "text/Fault.h"
 

@@ -6,11 +6,11 @@
 #include <optional>
 #include <string_view>
 
+#include "bot/Bot.h"
+#include "bot/Events.h"
+#include "bot/Variables.h"
 #include "engine/Arguments.h"
-#include "engine/Bot.h"
 #include "engine/DataFile.h"
-#include "engine/Events.h"
-#include "engine/Variables.h"
 #include "game/Compare.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "engine/Bot.h"
-#include "engine/Files.h"
-#include "engine/Host.h"
+#include "bot/Bot.h"
+#include "bot/Files.h"
+#include "bot/Host.h"
 #include "engine/Script.h"
 #include "game/Compare.h"
 #include "text/Fault.h"

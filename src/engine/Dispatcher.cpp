@@ -6,11 +6,11 @@
 #include <memory>
 #include <string_view>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Place.h"
+#include "bot/Variables.h"
 #include "engine/Conditions.h"
-#include "engine/Place.h"
 #include "engine/Script.h"
-#include "engine/Variables.h"
 #include "engine/modScript.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/Events.h"
+#include "bot/Events.h"
 
 struct Bot;
 

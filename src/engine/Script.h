@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/Events.h"
+#include "bot/Events.h"
 #include "text/Fault.h"
 
 /// What one of the dispatcher's walks takes a line for.

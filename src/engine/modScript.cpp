@@ -8,13 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "bot/Bot.h"
+#include "bot/Events.h"
+#include "bot/Host.h"
+#include "bot/Lists.h"
+#include "bot/Variables.h"
 #include "engine/Arguments.h"
-#include "engine/Bot.h"
 #include "engine/DataFile.h"
-#include "engine/Events.h"
-#include "engine/Host.h"
-#include "engine/Lists.h"
-#include "engine/Variables.h"
 #include "game/Compare.h"
 #include "movement/modMovement.h"
 #include "net/modSend.h"

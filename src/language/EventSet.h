@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <initializer_list>
 
-#include "engine/Events.h"
+#include "bot/Events.h"
 
 inline constexpr GameEvent kFirstEvent = EventScriptLoaded;
 inline constexpr GameEvent kLastEvent = EventDreamListT;

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "engine/Events.h"
+#include "bot/Events.h"
 
 /// One of the game's events, as the people who write scripts see it. The cause that answers it explains it; see
 /// language/Commands.h.

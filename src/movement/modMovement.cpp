@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "engine/Bot.h"
-#include "engine/Host.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "net/modSend.h"
 #include "text/Numbers.h"
 

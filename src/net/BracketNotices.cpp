@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "engine/Dispatcher.h"
 #include "net/DiceLines.h"
 #include "net/ServerLine.h"

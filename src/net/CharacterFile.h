@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/Place.h"
+#include "bot/Place.h"
 #include "game/Furre.h"
 
 /// What the bot logs in with.

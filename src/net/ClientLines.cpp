@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "engine/Dispatcher.h"
-#include "engine/Host.h"
 #include "net/ServerLine.h"
 #include "net/modSend.h"
 #include "text/Text.h"

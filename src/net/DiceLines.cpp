@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "engine/Dispatcher.h"
 #include "net/ServerLine.h"
 #include "text/Numbers.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "net/Passwords.h"
 #include "text/Fault.h"
 #include "text/Text.h"

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <optional>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "engine/Dispatcher.h"
 #include "net/ServerLine.h"
 #include "text/Text.h"

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "text/Text.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 
 /// Keeps what a script sends to so many lines a second. A burst of ten times as many passes at once; what is more
 /// waits in order. It knows no clock: every call is told the time, in milliseconds from any beginning.

@@ -1,8 +1,8 @@
 #include "net/ServerLines.h"
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "engine/Dispatcher.h"
-#include "engine/Host.h"
 #include "game/Base95.h"
 #include "net/MapLines.h"
 #include "net/ServerLine.h"

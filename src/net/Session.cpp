@@ -4,17 +4,17 @@
 #include <utility>
 #include <vector>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Files.h"
+#include "bot/Host.h"
+#include "bot/Place.h"
+#include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
-#include "engine/Files.h"
-#include "engine/Host.h"
-#include "engine/Place.h"
 #include "net/CharacterFile.h"
 #include "net/ClientLines.h"
 #include "net/Link.h"
 #include "net/ServerLines.h"
 #include "net/modSend.h"
-#include "profile/ProfilePaths.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

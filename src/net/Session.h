@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "net/PacketLines.h"
 #include "net/SessionObserver.h"
 

@@ -4,9 +4,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "engine/Dispatcher.h"
-#include "engine/Host.h"
 #include "net/ServerLine.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

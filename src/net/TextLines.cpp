@@ -1,8 +1,8 @@
 #include "net/TextLines.h"
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "engine/Dispatcher.h"
-#include "engine/Host.h"
 #include "net/BracketNotices.h"
 #include "net/ServerLine.h"
 #include "net/SystemNotices.h"

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "Version.h"
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "engine/Dispatcher.h"
-#include "engine/Host.h"
 #include "net/ServerLine.h"
 #include "net/modSend.h"
 #include "text/Text.h"

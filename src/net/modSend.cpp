@@ -4,10 +4,10 @@
 #include <iterator>
 
 #include "Version.h"
-#include "engine/Bot.h"
-#include "engine/Events.h"
-#include "engine/Host.h"
-#include "engine/Variables.h"
+#include "bot/Bot.h"
+#include "bot/Events.h"
+#include "bot/Host.h"
+#include "bot/Variables.h"
 #include "game/Base95.h"
 #include "text/Limits.h"
 #include "text/Numbers.h"

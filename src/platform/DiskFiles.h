@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 #include "platform/PosixDataFolder.h"
 
 /// The computer's own file system. Files are written by WholeFile, which tells what becomes of links, modes and what

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 
 /// The folder of the scripts' data files on POSIX systems. What each operation takes and returns stands in Files.
 namespace dataFolder {

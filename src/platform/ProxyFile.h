@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 
 /// The small file that tells the game's client where to connect, for as long as a session needs it. A file of the
 /// user's that stands in its place is kept beside it, and put back as it was; after a crash the next session does so.

@@ -8,8 +8,8 @@
 #include <memory>
 #include <string>
 
-#include "engine/Bot.h"
-#include "engine/Host.h"
+#include "bot/Bot.h"
+#include "bot/Host.h"
 #include "net/Link.h"
 #include "net/SendBrake.h"
 #include "net/Session.h"

@@ -16,7 +16,7 @@
 #include <system_error>
 #include <utility>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 #include "text/Fault.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "engine/Lists.h"
+#include "bot/Lists.h"
 #include "game/Compare.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "profile/Profile.h"
+#include "bot/Profile.h"
 
 /// What the configuration dialog decides, without showing it: working copies of a profile's lists, which only Apply
 /// writes into the profile. Names are Windows-1252.

@@ -1,6 +1,6 @@
 #include "profile/Settings.h"
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "net/SessionObserver.h"
 
 /// Writes what happens around a bot as a written session that can be played again: what arrived as instructions, what

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "bot/Variables.h"
 #include "engine/Dispatcher.h"
-#include "engine/Variables.h"
 #include "movement/modMovement.h"
 #include "net/Passwords.h"
 

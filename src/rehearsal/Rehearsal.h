@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "net/Session.h"
 #include "rehearsal/RehearsalHost.h"
 #include "rehearsal/WrittenSession.h"

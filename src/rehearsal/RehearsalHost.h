@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "engine/Files.h"
-#include "engine/Host.h"
+#include "bot/Files.h"
+#include "bot/Host.h"
 #include "net/Link.h"
 
 class Session;

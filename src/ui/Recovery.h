@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 
 class QLockFile;
 

@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-#include "engine/UserVariables.h"
+#include "bot/UserVariables.h"
 #include "ui/ShownText.h"
 
 namespace {

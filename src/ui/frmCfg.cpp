@@ -13,8 +13,8 @@
 #include <QRadioButton>
 #include <QStackedLayout>
 
-#include "engine/Files.h"
-#include "profile/ProfilePaths.h"
+#include "bot/Files.h"
+#include "bot/ProfilePaths.h"
 #include "ui/Dialogs.h"
 #include "ui/ShownText.h"
 #include "ui/UnnamedFile.h"

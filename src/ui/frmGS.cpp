@@ -11,13 +11,13 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
 #include "engine/Script.h"
 #include "platform/QtHost.h"
 #include "platform/WholeFile.h"
 #include "profile/FileRemarks.h"
 #include "profile/ProfileFile.h"
-#include "profile/ProfilePaths.h"
 #include "text/Fault.h"
 #include "ui/CommandList.h"
 #include "ui/Dialogs.h"

@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "Version.h"
+#include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
 #include "net/FaultText.h"
 #include "net/Passwords.h"
@@ -27,7 +28,6 @@
 #include "practice/PracticeServer.h"
 #include "practice/Tour.h"
 #include "profile/ProfileFile.h"
-#include "profile/ProfilePaths.h"
 #include "profile/Settings.h"
 #include "text/Fault.h"
 #include "ui/CommandList.h"

@@ -1,6 +1,6 @@
 #include <string>
 
-#include "engine/Variables.h"
+#include "bot/Variables.h"
 #include "engine/modScript.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
+#include "bot/Variables.h"
 #include "engine/Conditions.h"
 #include "engine/Script.h"
-#include "engine/Variables.h"
 #include "engine/modScript.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Events.h"
+#include "bot/Events.h"
 
 struct Bot;
 

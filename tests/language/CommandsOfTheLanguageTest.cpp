@@ -1,7 +1,7 @@
 #include <map>
 #include <set>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "language/GreeterBench.h"
 #include "support/Written.h"
 

@@ -1,4 +1,4 @@
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 #include "engine/Conditions.h"
 #include "language/GreeterBench.h"
 

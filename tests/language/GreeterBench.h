@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "engine/Variables.h"
+#include "bot/Variables.h"
 #include "language/Commands.h"
 #include "rehearsal/WrittenSession.h"
 #include "support/RehearsalBot.h"

@@ -2,9 +2,9 @@
 
 #include <tuple>
 
+#include "bot/ProfilePaths.h"
 #include "profile/FileRemarks.h"
 #include "profile/ProfileFile.h"
-#include "profile/ProfilePaths.h"
 #include "profile/Settings.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"

@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 #include "text/Fault.h"
 #include "text/Text.h"
 

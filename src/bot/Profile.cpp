@@ -1,8 +1,8 @@
-#include "profile/Profile.h"
+#include "bot/Profile.h"
 
 #include <algorithm>
 
-#include "engine/Files.h"
+#include "bot/Files.h"
 #include "text/Text.h"
 
 std::vector<std::string> Profile::PlacesOf(std::string_view pathText) const {

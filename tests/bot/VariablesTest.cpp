@@ -2,7 +2,7 @@
 #include <random>
 #include <utility>
 
-#include "engine/Variables.h"
+#include "bot/Variables.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"
 #include "text/Limits.h"

@@ -1,4 +1,4 @@
-#include "engine/Lists.h"
+#include "bot/Lists.h"
 
 #include "game/Compare.h"
 #include "text/Limits.h"

@@ -1,4 +1,4 @@
-#include "engine/Variables.h"
+#include "bot/Variables.h"
 
 #include <algorithm>
 #include <charconv>
@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "engine/Bot.h"
-#include "engine/Events.h"
-#include "engine/Host.h"
+#include "bot/Bot.h"
+#include "bot/Events.h"
+#include "bot/Host.h"
 #include "text/Limits.h"
 #include "text/Text.h"
 

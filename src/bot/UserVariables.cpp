@@ -1,4 +1,4 @@
-#include "engine/UserVariables.h"
+#include "bot/UserVariables.h"
 
 #include <utility>
 

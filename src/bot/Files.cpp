@@ -1,4 +1,4 @@
-#include "engine/Files.h"
+#include "bot/Files.h"
 
 namespace {
 constexpr char kSeparator = '/';

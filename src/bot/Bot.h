@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "engine/BotState.h"
-#include "engine/UserVariables.h"
-#include "profile/Profile.h"
+#include "bot/BotState.h"
+#include "bot/Profile.h"
+#include "bot/UserVariables.h"
 
 class Host;
 class Script;

@@ -1,10 +1,10 @@
-#include "profile/ProfilePaths.h"
+#include "bot/ProfilePaths.h"
 
 #include <algorithm>
 
-#include "engine/Bot.h"
-#include "engine/Files.h"
-#include "engine/Host.h"
+#include "bot/Bot.h"
+#include "bot/Files.h"
+#include "bot/Host.h"
 #include "text/Text.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "engine/Bot.h"
+#include "bot/Bot.h"
 
 /// Puts a value in a place for as long as it lives, and back what was there. When a fault unwinds, the value stays, so
 /// that the program can tell where the fault came from.
