@@ -10,8 +10,11 @@ add_room(game      FROM text)
 # What a bot is: its state, events, variables, the data of its profile, and the ports through which it touches the world.
 add_room(bot       FROM game)
 
+# Every line that goes to the game.
+add_room(send      FROM bot)
+
 # What is not a room of its own yet.
-add_room(core      FROM bot FOLDERS engine net movement profile language)
+add_room(core      FROM send FOLDERS engine net movement profile language)
 
 # The stand-in world, written sessions, recordings.
 add_room(rehearsal FROM core)

@@ -17,7 +17,7 @@
 #include "engine/DataFile.h"
 #include "game/Compare.h"
 #include "movement/modMovement.h"
-#include "net/modSend.h"
+#include "send/modSend.h"
 #include "text/Limits.h"
 #include "text/Numbers.h"
 #include "text/Text.h"

@@ -5,7 +5,7 @@
 
 #include "bot/Bot.h"
 #include "bot/Host.h"
-#include "net/modSend.h"
+#include "send/modSend.h"
 #include "text/Numbers.h"
 
 namespace modMovement {

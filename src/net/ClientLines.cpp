@@ -7,7 +7,7 @@
 #include "bot/Host.h"
 #include "engine/Dispatcher.h"
 #include "net/ServerLine.h"
-#include "net/modSend.h"
+#include "send/modSend.h"
 #include "text/Text.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "net/MapLines.h"
 #include "net/ServerLine.h"
 #include "net/TextLines.h"
-#include "net/modSend.h"
+#include "send/modSend.h"
 
 namespace {
 

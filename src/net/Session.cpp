@@ -14,7 +14,7 @@
 #include "net/ClientLines.h"
 #include "net/Link.h"
 #include "net/ServerLines.h"
-#include "net/modSend.h"
+#include "send/modSend.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

@@ -7,7 +7,7 @@
 #include "net/ServerLine.h"
 #include "net/SystemNotices.h"
 #include "net/Whispers.h"
-#include "net/modSend.h"
+#include "send/modSend.h"
 #include "text/Text.h"
 
 namespace {

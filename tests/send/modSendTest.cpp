@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "net/modSend.h"
+#include "send/modSend.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"
 

@@ -1,4 +1,4 @@
-#include "net/modSend.h"
+#include "send/modSend.h"
 
 #include <algorithm>
 #include <iterator>
