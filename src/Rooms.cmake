@@ -13,8 +13,11 @@ add_room(bot       FROM game)
 # Every line that goes to the game.
 add_room(send      FROM bot)
 
+# The walk.
+add_room(movement  FROM send)
+
 # What is not a room of its own yet.
-add_room(core      FROM send FOLDERS engine net movement profile language)
+add_room(core      FROM movement FOLDERS engine net profile language)
 
 # The stand-in world, written sessions, recordings.
 add_room(rehearsal FROM core)
