@@ -16,8 +16,11 @@ add_room(send      FROM bot)
 # The walk.
 add_room(movement  FROM send)
 
+# Scripts: read, conditions, effects, the dispatcher, data files, taking up a script.
+add_room(engine    FROM movement)
+
 # What is not a room of its own yet.
-add_room(core      FROM movement FOLDERS engine net profile language)
+add_room(core      FROM engine FOLDERS net profile language)
 
 # The stand-in world, written sessions, recordings.
 add_room(rehearsal FROM core)

@@ -9,9 +9,9 @@
 #include "bot/Host.h"
 #include "bot/Place.h"
 #include "bot/ProfilePaths.h"
-#include "engine/Dispatcher.h"
+#include "engine/FileRemarks.h"
+#include "engine/LoadScript.h"
 #include "engine/Script.h"
-#include "profile/FileRemarks.h"
 #include "text/Fault.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
@@ -199,13 +199,6 @@ void NewProfile(Bot& bot) {
     bot.profile = Profile();
     bot.variables.Clear();
     bot.script = std::make_shared<Script>(kNewScript);
-}
-
-std::optional<std::string> LoadScript(Bot& bot, const std::string& path) {
-    const std::string bytes = bot.host.Disk().Read(path);
-    bot.script = std::make_shared<Script>(ScriptTextFromFile(bytes), path);
-    RunScript(bot, EventScriptLoaded);
-    return FileRemark(FileKind::Script, path, bytes);
 }
 
 std::string WithExtension(const std::string& path, const char* extension) {

@@ -44,12 +44,6 @@ void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes);
 /// Empties the profile and the user variables, and puts the new-script template in place of the script.
 void NewProfile(Bot& bot);
 
-/// Reads a script file in place of the current script and raises EventScriptLoaded.
-/// @param path  of an existing file, UTF-8
-/// @return what is the matter with it; see FileRemark
-/// @throws RuntimeFault when it can't be read; what the script raises
-std::optional<std::string> LoadScript(Bot& bot, const std::string& path);
-
 /// The name with an extension added when it does not end in it, letter case apart.
 std::string WithExtension(const std::string& path, const char* extension);
 

@@ -13,10 +13,10 @@
 
 #include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
+#include "engine/FileRemarks.h"
 #include "engine/Script.h"
 #include "platform/QtHost.h"
 #include "platform/WholeFile.h"
-#include "profile/FileRemarks.h"
 #include "profile/ProfileFile.h"
 #include "text/Fault.h"
 #include "ui/CommandList.h"

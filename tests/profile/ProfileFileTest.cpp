@@ -3,7 +3,7 @@
 #include <tuple>
 
 #include "bot/ProfilePaths.h"
-#include "profile/FileRemarks.h"
+#include "engine/FileRemarks.h"
 #include "profile/ProfileFile.h"
 #include "profile/Settings.h"
 #include "support/Cases.h"

@@ -1,4 +1,4 @@
-#include "profile/FileRemarks.h"
+#include "engine/FileRemarks.h"
 
 #include <algorithm>
 #include <iterator>
