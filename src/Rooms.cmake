@@ -19,8 +19,11 @@ add_room(movement  FROM send)
 # Scripts: read, conditions, effects, the dispatcher, data files, taking up a script.
 add_room(engine    FROM movement)
 
+# Profile, settings and the logic of their dialog, read and written.
+add_room(profile   FROM engine)
+
 # What is not a room of its own yet.
-add_room(core      FROM engine FOLDERS net profile language)
+add_room(core      FROM engine FOLDERS net language)
 
 # The stand-in world, written sessions, recordings.
 add_room(rehearsal FROM core)
@@ -32,6 +35,6 @@ add_room(platform  FROM core LINKS Qt6::Core Qt6::Network)
 add_room(practice  FROM game LINKS Qt6::Core Qt6::Network)
 
 # The programs: the windows of tvorel, a library that the tests can open; what opens them; and vorel.
-add_room(ui        FROM platform practice LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
+add_room(ui        FROM platform practice profile LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
 add_room(program   FROM ui PROGRAM tvorel)
-add_room(cli       FROM rehearsal platform practice PROGRAM vorel LINKS CLI11::CLI11)
+add_room(cli       FROM rehearsal platform practice profile PROGRAM vorel LINKS CLI11::CLI11)
