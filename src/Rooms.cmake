@@ -22,19 +22,22 @@ add_room(engine    FROM movement)
 # Profile, settings and the logic of their dialog, read and written.
 add_room(profile   FROM engine)
 
+# The lines of the server and the client, and the session.
+add_room(net       FROM engine)
+
 # What is not a room of its own yet.
-add_room(core      FROM engine FOLDERS net language)
+add_room(core      FROM engine FOLDERS language)
 
 # The stand-in world, written sessions, recordings.
-add_room(rehearsal FROM core)
+add_room(rehearsal FROM net)
 
 # What the machine gives.
-add_room(platform  FROM core LINKS Qt6::Core Qt6::Network)
+add_room(platform  FROM net LINKS Qt6::Core Qt6::Network)
 
 # The practice dream.
 add_room(practice  FROM game LINKS Qt6::Core Qt6::Network)
 
 # The programs: the windows of tvorel, a library that the tests can open; what opens them; and vorel.
-add_room(ui        FROM platform practice profile LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
+add_room(ui        FROM platform practice profile core LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
 add_room(program   FROM ui PROGRAM tvorel)
 add_room(cli       FROM rehearsal platform practice profile PROGRAM vorel LINKS CLI11::CLI11)
