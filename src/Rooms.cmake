@@ -25,8 +25,8 @@ add_room(profile   FROM engine)
 # The lines of the server and the client, and the session.
 add_room(net       FROM engine)
 
-# What is not a room of its own yet.
-add_room(core      FROM engine FOLDERS language)
+# What every command, event and variable is called and means.
+add_room(language  FROM engine)
 
 # The stand-in world, written sessions, recordings.
 add_room(rehearsal FROM net)
@@ -38,6 +38,6 @@ add_room(platform  FROM net LINKS Qt6::Core Qt6::Network)
 add_room(practice  FROM game LINKS Qt6::Core Qt6::Network)
 
 # The programs: the windows of tvorel, a library that the tests can open; what opens them; and vorel.
-add_room(ui        FROM platform practice profile core LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
+add_room(ui        FROM platform practice profile language LINKS Qt6::Widgets Qt6::Svg ${QSCINTILLA_LIBRARY})
 add_room(program   FROM ui PROGRAM tvorel)
 add_room(cli       FROM rehearsal platform practice profile PROGRAM vorel LINKS CLI11::CLI11)
