@@ -27,8 +27,9 @@ install_packages() {
 
 install_packages < <(grep -v '^#' scripts/packages.txt)
 
-# Configures and builds a preset.
+# Configures and builds a preset, with its compiler.
 build_preset() {
+    case $1 in clang | fuzz) install_packages <<<$'clang\nlibclang-rt-14-dev' ;; esac
     cmake --preset "$1" >&2
     cmake --build --preset "$1" "${@:2}" >&2
 }
