@@ -10,8 +10,9 @@
 
 namespace {
 
-constexpr std::size_t kNameAt = 6;
-constexpr std::string_view kYour = "Your";
+constexpr std::size_t kKindAt = 3;          // between the brackets: "#", "*" or "%"
+constexpr std::size_t kNameAt = 6;          // behind "([*] " and its like
+constexpr std::string_view kYour = "Your";  // in place of a name: a notice about what the bot itself has asked for
 
 void AcceptRequest(Bot& bot) { bot.state.requestAccepted = true; }
 
@@ -46,7 +47,7 @@ constexpr Notice kNotices[] = {
      Raise<EventJoinInvite>},
 };
 
-/// ([*] name notice
+/// ([*] name notice. Where it begins with "Your", the furre is the last word.
 void ReadRequestNotice(Bot& bot, const ServerLine& line) {
     bot.state.requester = line.WordAt(kNameAt);
     if (bot.state.requester == kYour) {
@@ -58,16 +59,19 @@ void ReadRequestNotice(Bot& bot, const ServerLine& line) {
                                                 [text](const Notice& row) { return row.text == text; });
         if (notice != std::end(kNotices)) notice->handle(bot);
     }
+    // Every such line may tell of a roll as well, whatever else it was; whose roll it is has been read above.
     ReadDice(bot, line);
 }
 
-/// ([%] giver has given name a cookie!
+/// ([%] giver has given receiver a cookie!
 void ReadCookie(Bot& bot, const ServerLine& line) {
+    // Kept on purpose: of the words around the receiver only the lengths count; a line too short for them is a fault.
+    constexpr std::string_view kBeforeReceiver = " has given ", kBehindReceiver = " a cookie!";
     const std::string_view giver = line.WordAt(kNameAt);
     if (giver == kYour) return;
     bot.state.cookieGiver = giver;
-    const auto length = static_cast<std::ptrdiff_t>(line.Length()) - static_cast<std::ptrdiff_t>(giver.size()) - 26;
-    bot.state.cookieName = line.Text(giver.size() + 17, length);
+    const std::size_t receiverAt = kNameAt + giver.size() + kBeforeReceiver.size();
+    bot.state.cookieName = WithoutLast(line.RestFrom(receiverAt), kBehindReceiver.size());
     const bool fromBot = bot.state.cookieGiver == bot.state.vorel.name;
     const bool toBot = bot.state.cookieName == bot.state.vorel.name;
     RunScript(bot, fromBot ? EventCookieGiven : toBot ? EventCookieReceived : EventCookieSeen);
@@ -76,12 +80,13 @@ void ReadCookie(Bot& bot, const ServerLine& line) {
 }  // namespace
 
 void ReadBracketNotice(Bot& bot, const ServerLine& line) {
-    if (line.HasAt(3, "#")) {
-        bot.state.message = line.RestAfter(5);
+    constexpr std::size_t kMessageAt = 6;
+    if (line.HasAt(kKindAt, "#")) {
+        bot.state.message = line.RestFrom(kMessageAt);
         RunScript(bot, EventHashNotice);
-    } else if (line.HasAt(3, "*")) {
+    } else if (line.HasAt(kKindAt, "*")) {
         ReadRequestNotice(bot, line);
-    } else if (line.HasAt(3, "%")) {
+    } else if (line.HasAt(kKindAt, "%")) {
         ReadCookie(bot, line);
     }
 }

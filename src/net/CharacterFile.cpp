@@ -7,9 +7,8 @@
 namespace {
 
 constexpr int kZeroShape = ' ';
-constexpr std::size_t kColorCodeLength = 10;
 
-/// A digit of a "spec=" line stands for the character that the protocol writes.
+/// A digit of a "spec=" line stands for the character that the protocol writes: 0 for a blank, 1 for "!" and so on.
 std::string ShapeAt(const ServerLine& line, std::size_t position) {
     const std::int16_t digit = NumberOrFault(line.Text(position, 1));
     return std::string(1, static_cast<char>(kZeroShape + digit));
@@ -36,12 +35,13 @@ Character ReadCharacter(std::string_view bytes, PlaceMark& place) {
         } else if (key == "desc=") {
             character.desc = value;
         } else if (key == "colors=") {
-            character.looks.colors = value.substr(0, kColorCodeLength);
+            character.looks.colors = value.substr(0, kColorsLength);
         } else if (key == "spec=") {
+            constexpr std::size_t kGenderAt = 6, kSpeciesAt = 7, kMarkingsAt = 8;
             const ServerLine shapes(line);
-            character.looks.gender = ShapeAt(shapes, 6);
-            character.looks.species = ShapeAt(shapes, 7);
-            character.looks.markings = ShapeAt(shapes, 8);
+            character.looks.gender = ShapeAt(shapes, kGenderAt);
+            character.looks.species = ShapeAt(shapes, kSpeciesAt);
+            character.looks.markings = ShapeAt(shapes, kMarkingsAt);
         }
     }
     return character;

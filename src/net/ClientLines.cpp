@@ -20,25 +20,32 @@ void LearnLogin(Bot& bot, std::string_view words) {
     SetBotName(bot, name);
 }
 
+/// "color ", the colour code, and one character each for gender, species and markings
 void LearnColors(Bot& bot, const ServerLine& line) {
-    bot.state.vorel.looks = {std::string(line.Text(7, 10)), line.Char(17), line.Char(18), line.Char(19)};
+    constexpr std::size_t kColorsAt = 7, kGenderAt = 17, kSpeciesAt = 18, kMarkingsAt = 19;
+    bot.state.vorel.looks = {std::string(line.Text(kColorsAt, kColorsLength)), line.Char(kGenderAt),
+                             line.Char(kSpeciesAt), line.Char(kMarkingsAt)};
 }
 
 }  // namespace
 
 bool FilterClientLine(Bot& bot, std::string_view text) {
+    constexpr std::string_view kCommandOfBot = "\"&";
     const ServerLine line(text);
+    // With its blank: "desc" alone is no description, and goes on to the server.
     const std::string word = LowerCase(text.substr(0, text.find(' ') + 1));
     if (word == "connect ") {
         LearnLogin(bot, text.substr(word.size()));
     } else if (word == "color ") {
         LearnColors(bot, line);
     } else if (word == "desc ") {
+        // Kept without the signature, which SendDesc adds each time; so the client's own line must not reach the
+        // server.
         bot.state.vorel.desc = text.substr(word.size());
         modSend::SendDesc(bot, bot.state.vorel.desc);
         return false;
-    } else if (text.starts_with("\"&")) {
-        bot.state.message = text.substr(2);
+    } else if (text.starts_with(kCommandOfBot)) {
+        bot.state.message = text.substr(kCommandOfBot.size());
         RunScript(bot, EventClientCommand);
         return false;
     }

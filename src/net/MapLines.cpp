@@ -51,8 +51,9 @@ constexpr MapName kMaps[] = {
 }  // namespace
 
 void ReadMapLine(Bot& bot, const ServerLine& line) {
+    constexpr std::size_t kFileAt = 2;
     bot.state.previousMap = bot.state.map;
-    bot.state.mapFile = line.RestAfter(1);
+    bot.state.mapFile = line.RestFrom(kFileAt);
     const std::string file = LowerCase(bot.state.mapFile);
     const auto* const map =
         std::find_if(std::begin(kMaps), std::end(kMaps), [&](const MapName& row) { return row.file == file; });

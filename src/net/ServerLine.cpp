@@ -9,17 +9,17 @@ std::string_view ServerLine::Text(std::size_t position, std::ptrdiff_t length) c
     return line_.substr(position - 1, static_cast<std::size_t>(length));
 }
 
-std::string_view ServerLine::RestAfter(std::ptrdiff_t k) const {
-    return Text(static_cast<std::size_t>(k) + 1, static_cast<std::ptrdiff_t>(line_.size()) - k);
+std::string_view ServerLine::RestFrom(std::size_t position) const {
+    return Text(position, static_cast<std::ptrdiff_t>(line_.size()) - static_cast<std::ptrdiff_t>(position - 1));
 }
 
 std::string_view ServerLine::WordAt(std::size_t position) const {
-    const std::string_view rest = RestAfter(static_cast<std::ptrdiff_t>(position) - 1);
+    const std::string_view rest = RestFrom(position);
     return rest.substr(0, rest.find(' '));
 }
 
 std::string_view ServerLine::BehindWordAt(std::size_t position) const {
-    const std::string_view rest = RestAfter(static_cast<std::ptrdiff_t>(position) - 1);
+    const std::string_view rest = RestFrom(position);
     const std::size_t blank = rest.find(' ');
     return blank == rest.npos ? std::string_view() : rest.substr(blank + 1);
 }

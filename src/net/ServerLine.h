@@ -3,7 +3,11 @@
 #include <string>
 #include <string_view>
 
-/// One received line, without its line end. Positions count from 1, as everywhere in this protocol.
+/// A colour code, by which the game tells furres apart where it gives no name, has so many characters.
+inline constexpr std::ptrdiff_t kColorsLength = 10;
+
+/// One received line, without its line end. Positions count from 1, as everywhere in this protocol; docs/protocol.md
+/// has a table of them for each kind of line, under the names that the readers' constants have.
 class ServerLine {
   public:
     explicit ServerLine(std::string_view line) : line_(line) {}
@@ -22,8 +26,8 @@ class ServerLine {
     std::string_view Text(std::size_t position, std::ptrdiff_t length) const;
     std::string Char(std::size_t position) const { return std::string(Text(position, 1)); }
 
-    /// All but the first k characters.
-    std::string_view RestAfter(std::ptrdiff_t k) const;
+    /// From a position to the end.
+    std::string_view RestFrom(std::size_t position) const;
 
     /// From a position up to the next blank, or to the end when there is none.
     std::string_view WordAt(std::size_t position) const;

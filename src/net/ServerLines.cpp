@@ -11,27 +11,37 @@
 
 namespace {
 
+// Where fields stand is named in each reader, as in docs/protocol.md. All fields of a line are read before its event
+// is raised: a line too short for one is a fault, and no script has seen half of it.
+
 constexpr std::string_view kBooted = "(You have been booted.";
 
-/// A square: x halved in two characters, y in the next two.
-Square SquareAt(const ServerLine& line, std::size_t position) {
-    return {DecodeBase95Pair(line.Text(position, 2), 2), DecodeBase95Pair(line.Text(position + 2, 2), 1)};
+constexpr std::size_t kMarkerAt = 1, kSecondMarkerAt = 2, kKindAt = 3;
+
+constexpr std::ptrdiff_t kNumberLength = 2;
+constexpr std::int16_t kAsIs = 1, kHalved = 2;  // x counts by twos, so the game sends half of it
+
+std::int16_t NumberAt(const ServerLine& line, std::size_t position, std::int16_t multiplier = kAsIs) {
+    return DecodeBase95Pair(line.Text(position, kNumberLength), multiplier);
 }
 
-std::int16_t NumberAt(const ServerLine& line, std::size_t position) {
-    return DecodeBase95Pair(line.Text(position, 2), 1);
+/// A square: x halved, and y behind it.
+Square SquareAt(const ServerLine& line, std::size_t position) {
+    return {NumberAt(line, position, kHalved), NumberAt(line, position + kNumberLength)};
 }
 
 // --- movement: "/" for a furre that moves, "<" for one that appears ----------------------------------------------
 
 void ReadMovementLine(Bot& bot, const ServerLine& line) {
-    const bool appears = line.HasAt(1, "<");
+    constexpr std::size_t kColorsAt = 2, kIntoAt = 12, kFrameAt = 16, kFromAt = 18;
+    const bool appears = line.HasAt(kMarkerAt, "<");
     Movement& move = bot.state.move;
-    move.colors = line.Text(2, 10);
-    move.into = SquareAt(line, 12);
-    move.frame = NumberAt(line, 16);
-    move.from = appears ? Square{} : SquareAt(line, 18);
-    // These lines carry no name: a furre is known by its colour code alone.
+    move.colors = line.Text(kColorsAt, kColorsLength);
+    move.into = SquareAt(line, kIntoAt);
+    move.frame = NumberAt(line, kFrameAt);
+    move.from = appears ? Square{} : SquareAt(line, kFromAt);
+    // Kept on purpose: these lines carry no name, so a furre is known by its colour code alone, and another one in the
+    // bot's colours is taken for the bot.
     if (move.colors == bot.state.vorel.looks.colors) {
         bot.state.vorelInto = move.into;
         bot.state.vorelFrom = move.from;
@@ -43,12 +53,13 @@ void ReadMovementLine(Bot& bot, const ServerLine& line) {
 // --- "6" and "7": notices of DragonSpeak triggers ----------------------------------------------------------------
 
 void ReadTriggerLine(Bot& bot, const ServerLine& line, DragonSpeakNotice& notice, GameEvent event) {
-    constexpr std::size_t kEntriesFrom = 10, kEntryLength = 6;
-    notice.from = SquareAt(line, 2);
-    notice.into = SquareAt(line, 6);
-    for (std::size_t at = kEntriesFrom; at + kEntryLength <= line.Length() + 1; at += kEntryLength) {
+    constexpr std::size_t kFromAt = 2, kIntoAt = 6, kEntriesAt = 10, kEntryLength = 6;
+    notice.from = SquareAt(line, kFromAt);
+    notice.into = SquareAt(line, kIntoAt);
+    // What is left over behind the last whole entry is passed over; a line may have none at all.
+    for (std::size_t at = kEntriesAt; at + kEntryLength <= line.Length() + 1; at += kEntryLength) {
         notice.trigger = NumberAt(line, at);
-        notice.triggerAt = SquareAt(line, at + 2);
+        notice.triggerAt = SquareAt(line, at + kNumberLength);
         RunScript(bot, event);
     }
 }
@@ -60,58 +71,70 @@ void ReadDsTriggerLine(Bot& bot, const ServerLine& line) { ReadTriggerLine(bot, 
 
 // --- "]" and a second character ----------------------------------------------------------------------------------
 
-Appearance LooksAt(const ServerLine& line, std::size_t colorsAt) {
-    return {std::string(line.Text(colorsAt, 10)), line.Char(colorsAt + 10), line.Char(colorsAt + 11),
-            line.Char(colorsAt + 12)};
+/// Looks: the colour code, then one character each for gender, species and markings.
+Appearance LooksAt(const ServerLine& line, std::size_t position) {
+    const std::size_t genderAt = position + kColorsLength;
+    return {std::string(line.Text(position, kColorsLength)), line.Char(genderAt), line.Char(genderAt + 1),
+            line.Char(genderAt + 2)};
 }
 
+/// Comes before what a furre says: its looks, or its badge.
 void ReadPlayerLooks(Bot& bot, const ServerLine& line) {
-    if (line.HasAt(3, "#A")) {
-        bot.state.player.looks = LooksAt(line, 5);
+    constexpr std::size_t kLooksAt = 5, kTagAt = 5;
+    if (line.HasAt(kKindAt, "#A")) {
+        bot.state.player.looks = LooksAt(line, kLooksAt);
+        // Kept on purpose: the tag is the whole line then, so that every furre whose badge has not come has some badge.
         bot.state.playerTag = line.Whole();
-    } else if (line.HasAt(3, "#B")) {
-        bot.state.playerTag = line.RestAfter(4);
+    } else if (line.HasAt(kKindAt, "#B")) {
+        bot.state.playerTag = line.RestFrom(kTagAt);
     }
 }
 
 void ReadOnlineAnswer(Bot& bot, const ServerLine& line) {
-    bot.state.onlineName = line.RestAfter(3);
-    if (line.HasAt(3, "0")) RunScript(bot, EventPlayerOffline);
-    if (line.HasAt(3, "1")) RunScript(bot, EventPlayerOnline);
+    constexpr std::size_t kNameAt = 4;
+    // Kept on purpose: the name is taken whatever the answer is; only two answers raise an event.
+    bot.state.onlineName = line.RestFrom(kNameAt);
+    if (line.HasAt(kKindAt, "0")) RunScript(bot, EventPlayerOffline);
+    if (line.HasAt(kKindAt, "1")) RunScript(bot, EventPlayerOnline);
 }
 
 void ReadLookResult(Bot& bot, const ServerLine& line) {
-    bot.state.look.name = line.RestAfter(15);
-    bot.state.look.looks = LooksAt(line, 3);
+    constexpr std::size_t kLooksAt = 3, kNameAt = 16;
+    bot.state.look.name = line.RestFrom(kNameAt);
+    bot.state.look.looks = LooksAt(line, kLooksAt);
     RunScript(bot, EventLookResult);
 }
 
-/// The server asks for a dream to be loaded. A linked client answers for itself.
+/// The server asks for a dream to be loaded, and waits until it hears that it is. A linked client answers for itself.
 void AnswerDreamRequest(Bot& bot, const ServerLine&) {
     if (!bot.host.IsClientConnected()) modSend::SendLine(bot, "vascodagama");
 }
 
+constexpr std::size_t kDreamSquareAt = 3, kDreamNameAt = 7;
+
 void ReadDreamAppears(Bot& bot, const ServerLine& line) {
-    bot.state.dream = SquareAt(line, 3);
-    if (line.Length() >= 7) {
-        bot.state.dreamName = line.RestAfter(6);
+    bot.state.dream = SquareAt(line, kDreamSquareAt);
+    // Kept on purpose: a dream without a name raises the event, but its square is no obstacle to a walk.
+    if (line.Length() >= kDreamNameAt) {
+        bot.state.dreamName = line.RestFrom(kDreamNameAt);
         bot.state.dreams.push_back(bot.state.dream);
     }
     RunScript(bot, EventDreamListS);
 }
 
 void ReadDreamVanishes(Bot& bot, const ServerLine& line) {
-    bot.state.dream = SquareAt(line, 3);
+    bot.state.dream = SquareAt(line, kDreamSquareAt);
     std::erase(bot.state.dreams, bot.state.dream);
     RunScript(bot, EventDreamListT);
 }
 
 void ReadBreathOrFlame(Bot& bot, const ServerLine& line) {
-    if (line.HasAt(3, "a")) {
-        bot.state.breath = SquareAt(line, 4);
+    constexpr std::size_t kSquareAt = 4;
+    if (line.HasAt(kKindAt, "a")) {
+        bot.state.breath = SquareAt(line, kSquareAt);
         RunScript(bot, EventBreath);
-    } else if (line.HasAt(3, "b")) {
-        bot.state.flame = SquareAt(line, 4);
+    } else if (line.HasAt(kKindAt, "b")) {
+        bot.state.flame = SquareAt(line, kSquareAt);
         RunScript(bot, EventFlame);
     }
 }
@@ -133,7 +156,7 @@ constexpr Reader kBracketReaders[] = {
     {'s', ReadDreamAppears}, {'t', ReadDreamVanishes}, {'v', ReadBreathOrFlame},
 };
 
-void ReadBracketLine(Bot& bot, const ServerLine& line) { ReadBy(kBracketReaders, 2, bot, line); }
+void ReadBracketLine(Bot& bot, const ServerLine& line) { ReadBy(kBracketReaders, kSecondMarkerAt, bot, line); }
 
 constexpr Reader kReaders[] = {
     {'(', ReadTextLine}, {'/', ReadMovementLine},     {'<', ReadMovementLine},  {']', ReadBracketLine},
@@ -144,11 +167,12 @@ constexpr Reader kReaders[] = {
 
 std::int16_t ParseServerLine(Bot& bot, std::string_view text) {
     const ServerLine line(text);
-    if (line.HasAt(1, kBooted)) {
+    // Before all text lines: nothing of a line that throws the bot out is shown or raised.
+    if (line.HasAt(kMarkerAt, kBooted)) {
         bot.state.shutDown = true;
         bot.host.Disconnect();
     } else {
-        ReadBy(kReaders, 1, bot, line);
+        ReadBy(kReaders, kMarkerAt, bot, line);
     }
     return -1;
 }

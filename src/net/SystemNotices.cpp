@@ -13,26 +13,32 @@
 
 namespace {
 
-constexpr std::size_t kFirstWordAt = 4;
+constexpr std::size_t kFirstWordAt = 4;  // behind "(* "
 constexpr std::string_view kTooManyVisitors =
     "The list of visitors names somebody so often that not every event of it is raised.";
 constexpr std::string_view kStandardTime = "(* Furcadia Standard Time: ";
 
-/// (* Player name …, with 23 characters behind the name
+/// (* Player name is not currently here.
 void ReadPlayerNotice(Bot& bot, const ServerLine& line) {
-    bot.state.requester = line.Text(11, static_cast<std::ptrdiff_t>(line.Length()) - 33);
+    constexpr std::size_t kNameAt = 11;
+    // Kept on purpose: the words behind the name are not looked at, only counted; a notice in other words is cut
+    // elsewhere, and one too short is a fault.
+    constexpr std::string_view kBehindName = " is not currently here.";
+    bot.state.requester = WithoutLast(line.RestFrom(kNameAt), kBehindName.size());
     RunScript(bot, EventPlayerNotice);
 }
 
+/// (* You … name
 void ReadYouNotice(Bot& bot, const ServerLine& line) {
+    // Its last word is no name.
     if (line.Whole() == "(* You cannot summon yourself.") return;
     bot.state.requester = line.LastWord();
     RunScript(bot, EventYouNotice);
 }
 
-/// (* Furcadia Standard Time: 7:05:09 PM
+/// (* Furcadia Standard Time: 7:05:09 PM. The first two numbers end at a ":", the third before the last two characters.
 void ReadStandardTime(Bot& bot, const ServerLine& line) {
-    if (!line.HasAt(1, kStandardTime)) return;
+    if (!line.Whole().starts_with(kStandardTime)) return;
     const std::vector<std::string> pieces = Split(line.Whole().substr(kStandardTime.size()), ":");
     if (pieces.size() < 3) throw RuntimeFault(FaultKind::SubscriptOutOfRange);
     const std::string& last = pieces[2];
@@ -92,8 +98,10 @@ void CompareVisitors(Bot& bot, const std::vector<std::string>& before, const std
     }
 }
 
+/// (* Current players: names
 void ReadVisitorList(Bot& bot, const ServerLine& line) {
-    const std::string list(line.RestAfter(20));
+    constexpr std::size_t kNamesAt = 21;
+    const std::string list(line.RestFrom(kNamesAt));
     bot.state.newVisitors = list;
     const std::vector<std::string> before = Names(bot.state.visitors);
     // The script sees the list it compares against; where there was none it sees the new one.
@@ -103,17 +111,20 @@ void ReadVisitorList(Bot& bot, const ServerLine& line) {
     RunScript(bot, EventVisitorsUpdated);
 }
 
-/// The dream's name is the line's last word, without the full stop.
+/// The dream's name is the line's last word, without the full stop. Kept on purpose: of a name in several words that is
+/// the end only.
 void ReadDreamName(Bot& bot, const ServerLine& line) {
     bot.state.previousMap = bot.state.map;
     bot.state.map = WithoutLast(line.LastWord(), 1);
 }
 
+/// (* One player in the dream of name. Kept on purpose: only its first word is looked at.
 void ReadOnePlayer(Bot& bot, const ServerLine& line) {
     ReadDreamName(bot, line);
     bot.state.visitorCount = 1;
 }
 
+/// (* count players in the dream of name.
 void ReadPlayerCount(Bot& bot, const ServerLine& line) {
     const std::string_view count = line.WordAt(kFirstWordAt);
     if (!line.HasAt(kFirstWordAt + count.size(), " players in the dream of ")) return;
@@ -126,6 +137,7 @@ struct Reader {
     void (*read)(Bot&, const ServerLine&);
 };
 
+// The first row that fits counts; the last one fits whatever word there is.
 constexpr Reader kReaders[] = {
     {"Player ", ReadPlayerNotice}, {"You ", ReadYouNotice}, {"Furcadia ", ReadStandardTime},
     {"Current ", ReadVisitorList}, {"One ", ReadOnePlayer}, {"", ReadPlayerCount},

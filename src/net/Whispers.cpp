@@ -24,7 +24,8 @@ constexpr std::string_view kHelp =
     "If this bot is causing problems then any Guardian may whisper 'shut down' (without the quotes) to it in order to "
     "shut it down.";
 
-// Kept on purpose: the same four badges, once as their codes and once as the characters of these codes.
+// Kept on purpose: the same four badges, once as their codes and once as the characters of these codes. The tag is
+// whatever the last "]-#" line has brought, so who may do the one may not do the other.
 constexpr std::array<std::string_view, 4> kShutDownTags = {"65", "66", "67", "68"};
 constexpr std::array<std::string_view, 4> kHelpTags = {"A", "B", "C", "D"};
 
@@ -39,27 +40,29 @@ std::string StatusAnswer() {
     return std::string(kCredits) + " [Press F8 now] [" + kProductName + " " + kProductVersion + "]";
 }
 
-/// ([ You whisper "message" to name. ]
+// Whispers are cut where their words are found, which counts from 0, while positions count from 1.
+
+/// ([ You whisper "message" to name. ]. The last `" to ` counts, for the message may hold another one.
 void ReadOwnWhisper(Bot& bot, const ServerLine& line) {
-    constexpr std::size_t kMessageAt = 16;
+    constexpr std::size_t kMessageAt = 17;
     constexpr std::string_view kToName = "\" to ";
     const std::string_view whole = line.Whole();
     const std::size_t quote = whole.rfind(kToName);
-    bot.state.message = CutBetween(whole, kMessageAt, quote);
+    bot.state.message = CutBetween(whole, kMessageAt - 1, quote);
     bot.state.player.name = CutBetween(whole, quote + kToName.size(), whole.rfind(". ]"));
     RunScript(bot, EventSelfWhisper);
 }
 
 void Answer(Bot& bot, std::string_view text) { modSend::SendWhisper(bot, bot.state.player.name, text); }
 
-/// ([ name whispers, "message" to you. ]
+/// ([ name whispers, "message" to you. ]. The first ` whispers, "` counts, for the same reason.
 bool ReadWhisperToBot(Bot& bot, const ServerLine& line) {
-    constexpr std::string_view kWhispers = " whispers, \"";
-    constexpr std::size_t kQuoteToYou = 11;  // the closing quote and " to you. ]"
+    constexpr std::size_t kNameAt = 4;
+    constexpr std::string_view kWhispers = " whispers, \"", kBehindMessage = "\" to you. ]";
     const std::string_view whole = line.Whole();
     const std::size_t marker = whole.find(kWhispers);
-    bot.state.player.name = CutBetween(whole, 3, marker);
-    bot.state.message = WithoutLast(whole.substr(marker + kWhispers.size()), kQuoteToYou);
+    bot.state.player.name = CutBetween(whole, kNameAt - 1, marker);
+    bot.state.message = WithoutLast(whole.substr(marker + kWhispers.size()), kBehindMessage.size());
 
     // Whoever may shut the bot down may do so even when ignored.
     if (bot.state.message == kShutDown) {
@@ -71,6 +74,7 @@ bool ReadWhisperToBot(Bot& bot, const ServerLine& line) {
     }
     if (IsIgnored(bot.profile, bot.state.player.name)) return false;
 
+    // The built-in words count in any letter case, and no script hears them. "Shut Down" shuts nothing down.
     const std::string word = LowerCase(bot.state.message);
     if (word == "botstat" || word == LowerCase(kProductName)) {
         Answer(bot, StatusAnswer());
@@ -85,7 +89,8 @@ bool ReadWhisperToBot(Bot& bot, const ServerLine& line) {
 }  // namespace
 
 bool ReadWhisper(Bot& bot, const ServerLine& line) {
-    if (line.HasAt(4, "You ")) {
+    constexpr std::size_t kWhispererAt = 4;
+    if (line.HasAt(kWhispererAt, "You ")) {
         ReadOwnWhisper(bot, line);
     } else if (line.Whole().ends_with(" to you. ]")) {
         return ReadWhisperToBot(bot, line);
