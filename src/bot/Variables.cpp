@@ -388,6 +388,8 @@ void ReplaceDice(Expansion& text) {
 std::string ExpandVariables(const Bot& bot, std::string_view text) {
     CheckTextLength(text.size());
     if (text.find('[') == text.npos && bot.variables.AllBracketed()) return std::string(text);
+    // The order is what scripts count on: a value that holds another variable is filled in when that one's turn is
+    // still to come, and stays as it is when it has been.
     Expansion expansion(bot, text);
     ReplaceInTurn(expansion, UserNames(bot.variables));
     ReplaceEventPlayer(expansion);

@@ -12,7 +12,8 @@ inline constexpr std::size_t kArgumentsFrom = 7;  ///< behind "(5:n) ", where mo
 /// Strictly between the first "{" at or after a position and the last "}" of the line.
 std::optional<std::string_view> WholeArgument(std::string_view line, std::size_t from = kArgumentsFrom);
 
-/// From behind the first "{" through the next "}", which is kept.
+/// From behind the first "{" through the next "}". Kept on purpose: the brace belongs to the argument. Numbers don't
+/// mind, for they are read from their beginning; conditions compare texts with it.
 std::optional<std::string_view> FirstArgument(std::string_view line);
 
 /// From behind the last "{" through the last "}", which is kept.

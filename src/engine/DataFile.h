@@ -14,7 +14,8 @@ struct Bot;
 /// of the first.
 class DataFile {
   public:
-    /// Where the search for the "=" of an entry begins; positions count from 1.
+    /// Where the search for the "=" of an entry begins; positions count from 1. Kept on purpose: a removal looks from
+    /// the first character, reading and writing from the second.
     enum class KeyFrom : std::size_t { FirstCharacter = 1, SecondCharacter = 2 };
 
     static DataFile Parse(std::string_view bytes);

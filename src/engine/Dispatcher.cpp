@@ -28,6 +28,7 @@ std::int16_t TimerInterval(std::string_view line) {
     const std::size_t first = line.find_first_of(kDigits, blank);
     if (first == line.npos) return 0;
     const std::string_view digits = line.substr(first, line.find_first_not_of(kDigits, first) - first);
+    // Not the strict reader: where the cause is no timer, a telephone number in its words is to be no fault.
     const double number = LeadingNumber(digits);
     return number > std::numeric_limits<std::int16_t>::max() ? std::int16_t{0} : static_cast<std::int16_t>(number);
 }
@@ -95,7 +96,7 @@ class ScriptWalk {
     /// Handles one line as a possible cause.
     /// @return the last line that is done with
     std::size_t WalkLine(std::size_t i) {
-        bot_.currentEvent = -1;
+        bot_.currentEvent = -1;  // so that "[player]" in a cause's own words means nobody
         place_.AtLine(i + 1);
         const ScriptLine& cause = Line(i);
         cause.asCause.RaiseFault();
@@ -107,7 +108,8 @@ class ScriptWalk {
         return allHold ? RunEffects(behind, i) : i;
     }
 
-    /// Tests every condition from a line on, without a short cut: each test is to be seen in its line.
+    /// Tests every condition from a line on, without a short cut: each test is to be seen in its line. Kept on purpose:
+    /// the script's last line is no condition, nor an effect; its terminator usually stands there.
     /// @return the line that ended the run
     std::size_t TestConditions(std::size_t first, bool& allHold) {
         std::size_t j = first;

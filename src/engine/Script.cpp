@@ -17,7 +17,7 @@ constexpr std::string_view kTerminatorEnd = " *endtriggers*";
 // Where category and number stand on a command line, counted from 0.
 constexpr std::size_t kCategoryAt = 1;
 constexpr std::size_t kNumberAt = 3;
-constexpr std::size_t kShortestEffect = 5;
+constexpr std::size_t kShortestEffect = 5;  // "(5:0)"
 
 bool IsTerminator(std::string_view line) {
     if (line.size() < kTerminatorStart.size()) return false;
@@ -61,6 +61,8 @@ LineReading ReadAsCondition(std::string_view line) {
     return line.starts_with('(') ? ReadStrictly(line) : LineReading{};
 }
 
+/// Kept on purpose: reads what it finds for a number, so that a remark such as "(todo)" has category 0 here and ends
+/// the effects like a cause.
 LineReading ReadAsEffect(std::string_view line) {
     if (!line.starts_with('(')) return {};
     try {

@@ -4,9 +4,10 @@
 
 namespace {
 
-constexpr int kBase = 95;
-constexpr int kZeroDigit = ' ';
+constexpr int kBase = 95;        // the printable characters of ASCII
+constexpr int kZeroDigit = ' ';  // the first of them
 
+/// Any character counts, so that a digit may be negative or beyond 94: what the game sends is not judged here.
 std::int16_t Digit(char c) { return Subtract16(static_cast<unsigned char>(c), kZeroDigit); }
 
 char DigitCharacter(int digit) {

@@ -10,7 +10,8 @@ std::string Folded(std::string_view text) { return UpperCase(BarsToBlanks(text))
 
 unsigned char Code(char c) { return static_cast<unsigned char>(c); }
 
-/// Does the list (what stands between "[" and "]", without a "!") hold the character? Nothing when it is malformed.
+/// Does the list (what stands between "[" and "]", without a "!") hold the character?
+/// @param wellFormed  set to whether every range goes upward; the answer counts only then
 bool ListHolds(std::string_view list, char c, bool& wellFormed) {
     bool holds = false;
     wellFormed = true;
@@ -49,7 +50,9 @@ bool LooseEquals(std::string_view a, std::string_view b) { return a.size() == b.
 bool LooseLike(std::string_view text, std::string_view pattern) { return Like(Folded(text), Folded(pattern)); }
 
 bool Like(std::string_view text, std::string_view pattern) {
-    // Only the last "*" met is ever tried again with a longer run: what stood before it has matched already.
+    // Only the last "*" met is tried again with a longer run: whatever a longer run of an earlier one could reach, the
+    // last one reaches as well. So the time grows with the length of the text times that of the pattern, at worst, and
+    // not with the number of ways to share the text out among the stars.
     std::size_t at = 0, position = 0, runEnd = 0, afterStar = pattern.npos;
     while (at < text.size()) {
         if (position < pattern.size() && pattern[position] == '*') {

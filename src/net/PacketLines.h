@@ -5,8 +5,9 @@
 #include <utility>
 #include <vector>
 
-/// Cuts what arrives on a socket into lines. The protocol reader takes a packet as a whole: what follows the last
-/// line feed of a packet is dropped, unless it is to be kept for the next one. Carriage returns stay.
+/// Cuts what arrives on a socket into lines. The protocol reader takes a packet as a whole. Kept on purpose: what
+/// follows the last line feed of a packet is dropped, unless it is to be kept for the next one (`--keep-split-lines`).
+/// Carriage returns stay.
 class PacketLines {
   public:
     /// No line of the game comes near this: a longer one is nobody's command, and is dropped up to its line feed.

@@ -23,7 +23,7 @@ using Happening = SessionObserver::Happening;
 namespace {
 
 constexpr std::string_view kInvalidSelection = "Invalid Selection";
-constexpr int kPortDraws = 1000;
+constexpr int kPortDraws = 1000;  // then hardly a port can be free, and waiting would only hide it
 
 /// How much of a packet is held back until the rest of it has come, before it is relayed.
 constexpr std::size_t kMostHeldBack = std::size_t{64} * 1024;
@@ -38,14 +38,16 @@ std::string_view MissingFiles(bool character, bool client) {
 /// Listens on a random port from 1000 to 9999; a port that is taken is drawn again.
 /// @return the port; nothing when none could be had
 std::optional<std::int16_t> ListenOnRandomPort(Bot& bot, Link& link) {
+    constexpr int kFirstPort = 1000, kLastPort = 9999;
     for (int draw = 0; draw < kPortDraws; ++draw) {
-        const std::int16_t port = RoundTo16(bot.host.Random() * 8999 + 1000);
+        const std::int16_t port = RoundTo16(bot.host.Random() * (kLastPort - kFirstPort) + kFirstPort);
         if (link.ListenForClient(port)) return port;
     }
     return std::nullopt;
 }
 
-/// Empties what the last session left behind. The positions, the last dice and the counts stay.
+/// Empties what the last session left behind. Kept on purpose: the positions, the dream's square, the last roll's
+/// numbers, the visitors' count and an accepted request stay.
 void ResetState(BotState& state) {
     state.shutDown = false;
     state.mapFile = state.map = state.previousMap = "";
@@ -162,6 +164,7 @@ void Session::StandAlone() {
 void Session::TypeLine(std::string_view text) {
     Note(Happening::Typed, text);
     HeardMark heard(bot_, Heard::From::User, text);
+    // What is typed goes the way of a client's lines, so that "desc " and "\"&" mean the same here.
     const auto sendIfAccepted = [this](std::string_view line) {
         if (FilterClientLine(bot_, line)) modSend::SendLine(bot_, line);
     };
@@ -191,7 +194,7 @@ void Session::OnServerConnected() {
     Note(Happening::Connected);
     ResetState(bot_.state);
     LearnPassword();
-    bot_.clock.seconds = bot_.clock.minutes = 0;
+    bot_.clock.seconds = bot_.clock.minutes = 0;  // the hours never count, see ElapsedClock
     bot_.status.connection = "Connected";
     ShowMenus(true, bot_.host.IsClientConnected());
     bot_.host.ClearConsole();
@@ -209,7 +212,8 @@ void Session::LogIn() {
     bot_.state.vorel.desc = character.desc;
     bot_.state.vorel.looks = character.looks;
     SetBotName(bot_, character.name);
-    // The sender ends every text with a line feed of its own, so an empty line follows the two.
+    // At once, without a greeting of the server to wait for. Kept on purpose: the sender ends every text with a line
+    // feed of its own, so an empty line follows the two.
     modSend::SendLine(
         bot_, "connect " + character.name + " " + character.password + "\ncolor " + character.looks.Code() + "\n");
     modSend::SendDesc(bot_, bot_.state.vorel.desc);
@@ -246,6 +250,7 @@ void Session::OnServerClosed() {
 }
 
 void Session::OnServerError(const SocketError& error) {
+    // Kept on purpose: a broken connection raises no EventDisconnected, an orderly end does.
     link_.CloseServer();
     if (WasLetIn()) bot_.status.refusals = 0;
     bot_.status.reason = error.description;

@@ -21,6 +21,7 @@ struct MoveLetter {
     char letter;
     std::string_view command;
 };
+// Letter case counts: "S" and "s" are two moves, and no other letter has a capital one.
 constexpr MoveLetter kMoveLetters[] = {
     {'b', "breath"}, {'d', "dragon"}, {'e', "eagle"}, {'f', "flame"}, {'g', "get"},
     {'l', "lie"},    {'S', "stand"},  {'s', "sit"},   {'u', "use"},   {'w', "wings"},
@@ -61,8 +62,10 @@ void SendSpeech(Bot& bot, std::string_view text) { SendLine(bot, "\"" + ExpandVa
 void ShowNotice(Bot& bot, std::string_view text) {
     const std::string notice = ExpandVariables(bot, text);
     bot.host.ShowConsoleLine(notice);
+    // Kept on purpose: of a connection's begin and end the console hears, and the client doesn't.
     const bool clientIsListening = bot.currentEvent != EventConnected && bot.currentEvent != EventDisconnected;
     if (clientIsListening && bot.host.IsClientConnected()) {
+        // As the game would send it: looks first, for the client shows whose words these are.
         bot.host.WriteToClient("]-#A" + bot.state.vorel.looks.Code() + "\n(" + kProductName + ": " + notice + "\n");
     }
 }
@@ -83,8 +86,9 @@ void SendWhisper(Bot& bot, std::string_view name, std::string_view message) {
 }
 
 void SendLookAt(Bot& bot, std::int16_t x, std::int16_t y) {
-    const std::string column = EncodedCoordinate(bot, x, 2);
-    SendLine(bot, "l " + column + EncodedCoordinate(bot, y, 1));
+    constexpr std::int16_t kHalved = 2, kAsIs = 1;
+    const std::string column = EncodedCoordinate(bot, x, kHalved);  // first: of two bad coordinates x is the fault
+    SendLine(bot, "l " + column + EncodedCoordinate(bot, y, kAsIs));
 }
 
 void SendMoves(Bot& bot, std::string& moves) {
@@ -109,7 +113,7 @@ void SendShare(Bot& bot, std::string_view name) { SendSpeechWithText(bot, "share
 
 void SendEntryMusic(Bot& bot, std::int16_t number) { SendSpeech(bot, "entrymusic " + ExpandNumber(bot, number)); }
 
-// The name is left to the senders' own expansions.
+// Kept on purpose: the name is left to the senders' own expansions.
 void SendUnshare(Bot& bot, std::string_view name) { SendSpeech(bot, "unshare " + std::string(name)); }
 
 void SendMakeCookie(Bot& bot, std::string_view name, std::string_view message) {
@@ -122,6 +126,7 @@ void SendRoll(Bot& bot, std::int16_t count, std::int16_t sides) {
     SendSpeech(bot, "roll " + ExpandNumber(bot, count) + "d" + ExpandNumber(bot, sides));
 }
 
+// Kept on purpose: these numbers are not expanded, unlike those of SendRoll.
 void SendRollUpper(Bot& bot, std::int16_t count, std::int16_t sides) {
     SendSpeech(bot, "ROLL " + std::to_string(count) + "d" + std::to_string(sides));
 }

@@ -10,7 +10,7 @@ struct Bot;
 /// Nothing else writes to the server. While the server is not connected a command is dropped without a word.
 ///
 /// Texts are expanded by ExpandVariables before they go into a line, and again by the sender below them, so that a
-/// variable which the first pass yields is expanded by the next.
+/// variable which the first pass yields is expanded by the next. Kept on purpose: scripts build names of variables so.
 namespace modSend {
 
 /// Sends the expanded text and a line feed.

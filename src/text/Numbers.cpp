@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kSignificantDigits = 15;
+constexpr int kSignificantDigits = 15;  // so many a double holds for certain, whatever the number
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 

@@ -59,6 +59,7 @@ char32_t ToUnicode(unsigned char code) {
     return point == 0 ? 0xFFFD : point;
 }
 
+/// Of the control characters 0x80 to 0x9F Unicode has its own, which the code page lacks.
 char FromUnicode(char32_t point) {
     if (point < 0x80 || (point > 0x9F && point <= 0xFF)) return static_cast<char>(point);
     const auto* const found = std::find(kHighControls.begin(), kHighControls.end(), point);
@@ -89,7 +90,7 @@ char32_t NextUtf8(std::string_view utf8, std::size_t& position) {
     const unsigned char first = byte(position++);
     if (first < 0x80) return first;
     const std::size_t tails = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
-    if (first < 0xC0 || first > 0xF4) return 0xFFFD;
+    if (first < 0xC0 || first > 0xF4) return 0xFFFD;  // a tail byte, or beyond the last character of Unicode
     char32_t point = first & (0x3FU >> tails);
     for (std::size_t i = 0; i < tails; ++i) {
         if (position == utf8.size() || (byte(position) & 0xC0) != 0x80) return 0xFFFD;
