@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
     for (const QString& document : arguments.positionalArguments()) documents.push_back(TypedPath(document));
 
     const QString folder = FindProgramFolder();
-    LoadTranslations(application, Options(OptionsFile(folder)).Language());
+    LoadTranslations(application, Options(OptionsFile(folder)).Get(option::kLanguage));
     const std::string noCommandList = ProvideCommandList(folder);
     QtDialogs dialogs;
     frmVorel window(dialogs, folder);

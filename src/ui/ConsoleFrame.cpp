@@ -24,9 +24,9 @@ ConsoleFrame::ConsoleFrame(Options& options, Dialogs& dialogs, QWidget* parent)
     lstView_->setObjectName("lstView");
     lstView_->setAccessibleName(tr("Console"));
     lstView_->setAccessibleDescription(tr("What the game says, line by line; the chosen line can be read below"));
-    lstView_->SetMonospaced(options_.Monospaced());
-    lstView_->Lines().SetTimestamps(options_.Timestamps());
-    lstView_->Lines().SetScrollBack(options_.ScrollBack());
+    lstView_->SetMonospaced(options_.Get(option::kMonospaced));
+    lstView_->Lines().SetTimestamps(options_.Get(option::kTimestamps));
+    lstView_->Lines().SetScrollBack(options_.Get(option::kScrollBack));
     layout->addWidget(lstView_, 1);
 
     txtView_ = new QLineEdit;
@@ -75,15 +75,15 @@ void ConsoleFrame::FillMenu(QMenu& menu) {
     AddItem(menu, "mnuCopy", tr("&Copy lines"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C),
             [this] { lstView_->CopySelection(); });
     AddItem(menu, "mnuSaveConsole", tr("&Save to a file..."), {}, [this] { Save(); });
-    mnuLog_ = AddOption(menu, "mnuLog", tr("&Log to a file"), !options_.LogFile().isEmpty(),
+    mnuLog_ = AddOption(menu, "mnuLog", tr("&Log to a file"), !options_.Get(option::kLogFile).isEmpty(),
                         [this](bool on) { ChooseLog(on); });
     menu.addSeparator();
-    AddOption(menu, "mnuMonospaced", tr("&Monospaced"), options_.Monospaced(), [this](bool on) {
-        options_.Set("console/monospaced", on);
+    AddOption(menu, "mnuMonospaced", tr("&Monospaced"), options_.Get(option::kMonospaced), [this](bool on) {
+        options_.Set(option::kMonospaced, on);
         lstView_->SetMonospaced(on);
     });
-    AddOption(menu, "mnuTimestamps", tr("&Timestamps"), options_.Timestamps(), [this](bool on) {
-        options_.Set("console/timestamps", on);
+    AddOption(menu, "mnuTimestamps", tr("&Timestamps"), options_.Get(option::kTimestamps), [this](bool on) {
+        options_.Set(option::kTimestamps, on);
         lstView_->Lines().SetTimestamps(on);
     });
     AddItem(menu, "mnuScrollBack", tr("Scroll-&back..."), {}, [this] { ChooseScrollBack(); });
@@ -97,7 +97,7 @@ void ConsoleFrame::Append(const QString& line) {
 void ConsoleFrame::Clear() { lstView_->Lines().Clear(); }
 
 void ConsoleFrame::ResumeLog() {
-    if (const QString log = options_.LogFile(); !log.isEmpty()) OpenLog(log);
+    if (const QString log = options_.Get(option::kLogFile); !log.isEmpty()) OpenLog(log);
 }
 
 /// Opens the log, or says on the console why it can't.
@@ -140,11 +140,11 @@ void ConsoleFrame::Save() {
 
 void ConsoleFrame::ChooseLog(bool on) {
     log_.Close();
-    options_.Set("console/log", QString());
+    options_.Set(option::kLogFile, QString());
     if (!on) return;
     const auto path = dialogs_.AskSaveFile(this, tr("Log the console to"), tr("Text (*.txt) | *.txt"), {});
     if (path && OpenLog(*path)) {
-        options_.Set("console/log", *path);
+        options_.Set(option::kLogFile, *path);
     } else {
         mnuLog_->setChecked(false);
     }
@@ -154,6 +154,6 @@ void ConsoleFrame::ChooseScrollBack() {
     const auto text = dialogs_.AskText(this, tr("How many lines the console keeps:"), tr("Scroll-back"));
     const int lines = text ? text->toInt() : 0;
     if (lines < 1) return;
-    options_.Set("console/scrollback", lines);
+    options_.Set(option::kScrollBack, lines);
     lstView_->Lines().SetScrollBack(lines);
 }

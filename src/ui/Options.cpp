@@ -34,7 +34,7 @@ void Options::SetTeller(std::function<void(const QString& why)> tell) {
     if (!trouble_.isEmpty()) tell_(trouble_);
 }
 
-void Options::Set(const char* key, const QVariant& value) {
+void Options::Change(const char* key, const QVariant& value) {
     values_.insert(key, value);
     unkept_.insert(key, value);
     Keep();
@@ -67,15 +67,15 @@ void Options::Trying(const std::function<void()>& work) {
 
 void Options::AddRecentProfile(const QString& path) {
     constexpr int kRecentCount = 8;
-    QStringList profiles = RecentProfiles();
+    QStringList profiles = Get(option::kRecentProfiles);
     profiles.removeAll(path);
     profiles.prepend(path);
-    Set("recent/profiles", profiles.mid(0, kRecentCount));
+    Set(option::kRecentProfiles, profiles.mid(0, kRecentCount));
 }
 
 void Options::KeepSplitLines(const QString& profile, bool keep) {
-    QStringList keepers = SplitLineKeepers();
+    QStringList keepers = Get(option::kSplitLineKeepers);
     keepers.removeAll(profile);
     if (keep) keepers.append(profile);
-    Set("connection/keepSplitLines", keepers);
+    Set(option::kSplitLineKeepers, keepers);
 }

@@ -4,9 +4,40 @@
 #include <QVariantMap>
 #include <functional>
 #include <string>
+#include <type_traits>
 
 #include "net/SendBrake.h"
 #include "ui/ConsoleModel.h"
+
+/// One option: its name in the file, and what holds until the user chooses; where nothing is said off, 0 or empty.
+template <typename Value>
+struct Option {
+    const char* key;
+    Value usual{};
+};
+
+namespace option {
+
+inline constexpr Option<bool> kMonospaced{"console/monospaced"};
+inline constexpr Option<bool> kTimestamps{"console/timestamps"};
+inline constexpr Option<int> kScrollBack{"console/scrollback", ConsoleModel::kUsualScrollBack};
+inline const Option<QString> kLogFile{"console/log"};
+
+inline constexpr Option<bool> kReconnect{"connection/reconnect"};
+inline constexpr Option<bool> kConnectAtStart{"connection/atStart"};
+inline constexpr Option<int> kBrake{"connection/brake", SendBrake::kUsualRate};  ///< lines a second; 0 for no brake
+inline const Option<QString> kServerAddress{"connection/address"};
+inline const Option<QStringList> kSplitLineKeepers{"connection/keepSplitLines"};  ///< profiles; see KeepsSplitLines
+
+inline constexpr Option<bool> kNotifyWhispers{"desktop/notifyWhispers"};
+inline constexpr Option<bool> kTrayExplained{"desktop/trayExplained"};
+inline const Option<QString> kLanguage{"desktop/language"};  ///< its code; empty for the desktop's
+
+inline const Option<QStringList> kRecentProfiles{"recent/profiles"};
+inline const Option<QString> kFaultedProfile{"recent/faulted"};  ///< has ended the program soon after it was opened
+inline const Option<QString> kOpenProfile{"recent/open"};        ///< at the end, when the settings can't hold its path
+
+}  // namespace option
 
 /// What the user has chosen for the program itself, beside the profile: kept as JSON in a file that no script can write
 /// (see ProgramFolder.h), and written as it is changed.
@@ -21,33 +52,20 @@ class Options {
     /// @param tell  is called at once when they could not be read
     void SetTeller(std::function<void(const QString& why)> tell);
 
-    bool Monospaced() const { return Flag("console/monospaced", false); }
-    bool Timestamps() const { return Flag("console/timestamps", false); }
-    int ScrollBack() const { return Value("console/scrollback", ConsoleModel::kUsualScrollBack).toInt(); }
-    QString LogFile() const { return Value("console/log").toString(); }
-    bool Reconnect() const { return Flag("connection/reconnect", false); }
-    /// How many lines a second a script may send; 0 for as many as it likes.
-    int Brake() const { return Value("connection/brake", SendBrake::kUsualRate).toInt(); }
-    bool ConnectAtStart() const { return Flag("connection/atStart", false); }
-    QString ServerAddress() const { return Value("connection/address").toString(); }
-    /// Whether the bot of a profile keeps lines that the network has split; off for profiles that are not known.
-    bool KeepsSplitLines(const QString& profile) const { return SplitLineKeepers().contains(profile); }
-    bool NotifyWhispers() const { return Flag("desktop/notifyWhispers", false); }
-    bool TrayExplained() const { return Flag("desktop/trayExplained", false); }
-    QString Language() const { return Value("desktop/language").toString(); }
-    /// The profile that has ended the program soon after it was opened; empty when none.
-    QString FaultedProfile() const { return Value("recent/faulted").toString(); }
-
-    /// The profile that was open at the end, when the settings can't hold its path; otherwise empty.
-    QString OpenProfile() const { return Value("recent/open").toString(); }
-
-    QStringList RecentProfiles() const { return Value("recent/profiles").toStringList(); }
-
-    void Set(const char* key, const QVariant& value);
+    template <typename Value>
+    Value Get(const Option<Value>& option) const {
+        return values_.value(option.key, QVariant::fromValue(option.usual)).template value<Value>();
+    }
+    template <typename Value>
+    void Set(const Option<Value>& option, const std::type_identity_t<Value>& value) {
+        Change(option.key, QVariant::fromValue(value));
+    }
 
     /// Puts a profile at the head of the recent ones.
     void AddRecentProfile(const QString& path);
 
+    /// Whether the bot of a profile keeps lines that the network has split; off for profiles that are not known.
+    bool KeepsSplitLines(const QString& profile) const { return Get(option::kSplitLineKeepers).contains(profile); }
     void KeepSplitLines(const QString& profile, bool keep);
 
     /// Writes what could not be written before.
@@ -60,8 +78,6 @@ class Options {
     QString trouble_;     ///< why they can't be read or written; empty when all is well
     std::function<void(const QString& why)> tell_;
 
-    QVariant Value(const char* key, const QVariant& usual = {}) const { return values_.value(key, usual); }
-    QStringList SplitLineKeepers() const { return Value("connection/keepSplitLines").toStringList(); }
-    bool Flag(const char* key, bool usual) const { return Value(key, usual).toBool(); }
+    void Change(const char* key, const QVariant& value);
     void Trying(const std::function<void()>& work);
 };

@@ -100,8 +100,8 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
 
     connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
     connect(editor_.get(), &frmGS::ScriptRemarked, this, &frmVorel::Announce);
-    host_.StayConnected(options_.Reconnect());
-    host_.SetBrake(options_.Brake());
+    host_.StayConnected(options_.Get(option::kReconnect));
+    host_.SetBrake(options_.Get(option::kBrake));
     keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
@@ -113,7 +113,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     ::NewProfile(bot());
     ShowSplitLines();
     bot().profile.serverAddress =
-        TypedPath(options_.ServerAddress().isEmpty() ? kGameServer : options_.ServerAddress());
+        TypedPath(options_.Get(option::kServerAddress).isEmpty() ? kGameServer : options_.Get(option::kServerAddress));
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
                                              [this](const QString& path) { OpenDocument(TypedPath(path)); });
     ShowTitle();
@@ -194,15 +194,15 @@ void frmVorel::BuildMenus() {
     AddItem(*session, "mnuSAM", "Stand Alone &Mode", {},
             [this] { host_.RunHandler([this] { host_.session().StandAlone(); }); });
     session->addSeparator();
-    AddOption(*session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Reconnect(),
+    AddOption(*session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Get(option::kReconnect),
               [this](bool on) {
-                  options_.Set("connection/reconnect", on);
+                  options_.Set(option::kReconnect, on);
                   host_.StayConnected(on);
               });
     keepsSplitLines_ = AddOption(*session, "mnuKeepSplitLines", tr("&Keep lines that the network has split"), false,
                                  [this](bool on) { KeepSplitLines(on); });
-    AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.ConnectAtStart(),
-              [this](bool on) { options_.Set("connection/atStart", on); });
+    AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"),
+              options_.Get(option::kConnectAtStart), [this](bool on) { options_.Set(option::kConnectAtStart, on); });
     AddItem(*session, "mnuBrake", tr("&Brake..."), {}, [this] { ChooseBrake(); });
 
     QMenu* const script = AddMenu(*menuBar(), "mnuScript", "&Script");
@@ -211,8 +211,8 @@ void frmVorel::BuildMenus() {
 
     QMenu* const console = AddMenu(*menuBar(), "mnuConsole", tr("&Console"));
     console_->FillMenu(*console);
-    AddOption(*console, "mnuNotify", tr("&Notify of whispers"), options_.NotifyWhispers(),
-              [this](bool on) { options_.Set("desktop/notifyWhispers", on); });
+    AddOption(*console, "mnuNotify", tr("&Notify of whispers"), options_.Get(option::kNotifyWhispers),
+              [this](bool on) { options_.Set(option::kNotifyWhispers, on); });
 
     QMenu* const configuration = AddMenu(*menuBar(), "mnuConfiguration", tr("C&onfiguration"));
     AddItem(*configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
@@ -235,10 +235,10 @@ void frmVorel::BuildLanguageMenu(QMenu* menu) {
     for (const auto& [code, name] : kLanguages) {
         QAction* const action = group->addAction(*code == '\0' ? tr(name) : QString(name));
         action->setCheckable(true);
-        action->setChecked(options_.Language() == code);
+        action->setChecked(options_.Get(option::kLanguage) == code);
         menu->addAction(action);
         connect(action, &QAction::triggered, this, [this, code = QString(code)] {
-            options_.Set("desktop/language", code);
+            options_.Set(option::kLanguage, code);
             panelReason_->setText(tr("The language changes with the next start."));
         });
     }
@@ -314,7 +314,7 @@ QString frmVorel::HowItStands() const {
 void frmVorel::EndWithFault(const RuntimeFault& fault) {
     faulted_ = true;
     if (opened_.isValid() && !opened_.hasExpired(kTrustedAfterMs))
-        options_.Set("recent/faulted", ShownPath(bot().profile.path));
+        options_.Set(option::kFaultedProfile, ShownPath(bot().profile.path));
     QString text = ShownPath(DescribeFault(fault, bot()));
     if (!keepsSplitLines_->isChecked() && MayComeOfASplitLine(bot()))
         text += " " + tr("The network may have split it: Session, Keep lines that the network has split, mends that.");
@@ -336,7 +336,7 @@ void frmVorel::QuitAfterFault() {
 }
 
 void frmVorel::NotifyWhisper(std::string_view line) {
-    if (!options_.NotifyWhispers() || isActiveWindow() || !line.ends_with(" to you. ]")) return;
+    if (!options_.Get(option::kNotifyWhispers) || isActiveWindow() || !line.ends_with(" to you. ]")) return;
     // Some desktops take what looks like a tag for one.
     tray_->showMessage(tr("A whisper"), Shown(line).replace('<', QChar(0x2039)));
 }
@@ -350,7 +350,7 @@ void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
     host_.RunHandler([&] { BeginWork(documents); });
     if (faulted_) {
         QuitAfterFault();  // again, since a question that was open then has taken the first for itself
-    } else if (!scriptLeftOut_ && (practice || options_.ConnectAtStart())) {
+    } else if (!scriptLeftOut_ && (practice || options_.Get(option::kConnectAtStart))) {
         host_.ConnectNow();
     }
 }
@@ -367,7 +367,7 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
             tr("Nothing can be written in %1: neither settings nor unsaved work will be kept.").arg(folder_));
     editor_->LoadCommands(TypedPath(QDir(folder_).filePath(kCommandList)));
     Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
-    if (settings.recent.empty()) settings.recent = TypedPath(options_.OpenProfile());
+    if (settings.recent.empty()) settings.recent = TypedPath(options_.Get(option::kOpenProfile));
     MoveTo(settings);
     auto profile = recovery_.FoundProfile(), script = recovery_.FoundScript();
     if (profile && !Wants(tr("configuration"), profile->path)) profile.reset();
@@ -436,8 +436,8 @@ void frmVorel::OpenDocument(const std::string& path) {
 /// Opens a profile; without its script, if that has ended the program soon after it was opened the last time.
 void frmVorel::OpenProfileFile(const std::string& path) {
     const std::string absolute = host_.Disk().Absolute(path);
-    if (options_.FaultedProfile() == ShownPath(absolute)) {
-        options_.Set("recent/faulted", QString());
+    if (options_.Get(option::kFaultedProfile) == ShownPath(absolute)) {
+        options_.Set(option::kFaultedProfile, QString());
         Announce(tr("%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.")
                      .arg(ShownPath(path)));
         return host_.RunHandler([&] {
@@ -497,7 +497,7 @@ void frmVorel::KeepSplitLines(bool keep) {
 
 void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
-    for (const QString& path : options_.RecentProfiles()) {
+    for (const QString& path : options_.Get(option::kRecentProfiles)) {
         mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] { OpenDocument(TypedPath(path)); });
     }
 }
@@ -561,7 +561,7 @@ void frmVorel::SaveAllSettings() {
     Settings settings;
     settings.recent = bot().profile.path;
     const QString open = FitsCodePage(settings.recent) ? QString() : ShownPath(settings.recent);
-    if (open != options_.OpenProfile()) options_.Set("recent/open", open);
+    if (open != options_.Get(option::kOpenProfile)) options_.Set(option::kOpenProfile, open);
     if (!isMinimized()) {
         settings.top = y();
         settings.left = x();
@@ -640,8 +640,8 @@ void frmVorel::MinimizeToTray() {
     if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();  // it may have come after the start
     if (!tray_->isVisible()) return showMinimized();
     hide();
-    if (options_.TrayExplained()) return;
-    options_.Set("desktop/trayExplained", true);
+    if (options_.Get(option::kTrayExplained)) return;
+    options_.Set(option::kTrayExplained, true);
     tray_->showMessage(kProductName, tr("The bot goes on here. A double click brings the window back."));
 }
 
@@ -691,7 +691,7 @@ void frmVorel::cmdHelp_Click() {
 void frmVorel::ShowConfiguration() {
     frmCfg configuration(bot().profile, Servers(), dialogs_, this);
     configuration.exec();
-    options_.Set("connection/address", ShownPath(bot().profile.serverAddress));
+    options_.Set(option::kServerAddress, ShownPath(bot().profile.serverAddress));
 }
 
 void frmVorel::ShowEditor() {
@@ -712,12 +712,12 @@ void frmVorel::ChooseBrake() {
     const auto text = dialogs_.AskText(
         this,
         tr("How many lines a second the script may send, %1 at present. 0 lets it send as many as it likes.")
-            .arg(options_.Brake()),
+            .arg(options_.Get(option::kBrake)),
         tr("Brake"));
     bool isNumber = false;
     const int lines = text ? text->toInt(&isNumber) : 0;
     if (!isNumber || lines < 0 || lines > SendBrake::kHighestRate) return;
-    options_.Set("connection/brake", lines);
+    options_.Set(option::kBrake, lines);
     host_.SetBrake(lines);
 }
 

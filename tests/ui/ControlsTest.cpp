@@ -136,7 +136,7 @@ TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
     for (const char* const typed : {"7", "x", "-1", "Cancel"}) {
         EXPECT_TRUE(Choose("mnuBrake", {typed}).contains("[Brake] How many lines a second the script may send, "));
     }
-    EXPECT_EQ(Options(OptionsFile(Path())).Brake(), 7);
+    EXPECT_EQ(Options(OptionsFile(Path())).Get(option::kBrake), 7);
 
     bot().profile.owners.clear();
     EXPECT_TRUE(Choose("mnuConnect").startsWith("message [Bot Owner] You must add at least one name"));

@@ -24,7 +24,7 @@ class Desk : public testing::Test, public BotFiles {
   public:
     Desk() {
         WriteBot("bot", "(0:0) loaded,\r\n(5:2) show {ready}", "[Ignores]\nMean One\n");
-        Options(OptionsFile(Path())).Set("connection/address", QString(kPracticeAddress));
+        Options(OptionsFile(Path())).Set(option::kServerAddress, QString(kPracticeAddress));
     }
 
     RecordingDialogs dialogs;

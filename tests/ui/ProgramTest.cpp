@@ -347,10 +347,10 @@ TEST_F(Program, TellsOnceWhatItCantKeepAndKeepsItLater) {
     EXPECT_EQ(ConsoleText().count("options.json: Is a directory"), 1);
     EXPECT_EQ(ConsoleText().count("unsaved-script.bak: Is a directory"), 1);
     ASSERT_TRUE(own.rmdir("options.json"));
-    kept().Set("console/scrollback", 7);
+    kept().Set(option::kScrollBack, 7);
     Choose("mnuReconnect");
-    EXPECT_TRUE(kept().Monospaced() && kept().Reconnect() && !kept().Timestamps());
-    EXPECT_EQ(kept().ScrollBack(), 7) << "which another program has written meanwhile";
+    EXPECT_TRUE(kept().Get(option::kMonospaced) && kept().Get(option::kReconnect) && !kept().Get(option::kTimestamps));
+    EXPECT_EQ(kept().Get(option::kScrollBack), 7) << "which another program has written meanwhile";
 
     ASSERT_TRUE(QDir(Path()).mkdir("tvorel.cfg"));
     EXPECT_TRUE(Close({"No", "No"})
