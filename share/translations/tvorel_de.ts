@@ -251,6 +251,63 @@
     </message>
 </context>
 <context>
+    <name>Documents</name>
+    <message>
+        <source>configuration</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is neither a profile (.tvm) nor a script (.vs).</source>
+        <translation>%1 ist weder ein Profil (.tvm) noch ein Skript (.vs).</translation>
+    </message>
+    <message>
+        <source>%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.</source>
+        <translation>%1 hat das Programm das letzte Mal beendet, darum ist das Skript nicht geladen. Noch einmal geöffnet, wird es geladen.</translation>
+    </message>
+    <message>
+        <source>%1 stands in the editor (Script, Edit); saving it there loads it.</source>
+        <translation>%1 steht im Editor (Script, Bearbeiten); dort gesichert wird es geladen.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The profile names the script %1, which does not exist.</source>
+        <translation>Das Profil nennt das Skript %1, das es nicht gibt.</translation>
+    </message>
+    <message>
+        <source>%1.
+The profile counts as not saved; choose another place for it.</source>
+        <translation>%1.
+Das Profil gilt als nicht gespeichert; wähle einen anderen Ort dafür.</translation>
+    </message>
+    <message>
+        <source>The program did not end in order the last time. Take back the unsaved %1?</source>
+        <translation>Das Programm wurde das letzte Mal nicht ordentlich beendet. Nicht Gespeichertes zurückholen: %1?</translation>
+    </message>
+    <message>
+        <source>Unsaved work can&apos;t be put aside, and would be lost in a crash: %1</source>
+        <translation>Nicht Gespeichertes kann nicht beiseitegelegt werden und ginge bei einem Absturz verloren: %1</translation>
+    </message>
+    <message>
+        <source>Unsaved work could not be put aside: %1</source>
+        <translation>Nicht Gespeichertes konnte nicht beiseitegelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Unsaved work was put aside in %1, and will be offered at the next start.</source>
+        <translation>Nicht Gespeichertes wurde in %1 beiseitegelegt und wird beim nächsten Start angeboten.</translation>
+    </message>
+</context>
+<context>
     <name>EmoticonRow</name>
     <message>
         <source>Emoticon %1: adds %2 to the line</source>
@@ -297,6 +354,15 @@
     <message>
         <source>E&amp;xit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>UnnamedFile</name>
+    <message>
+        <source>The profile can&apos;t name %1: it is written in the letters of Windows-1252, and this path holds others.
+A profile that is saved in the same folder, or beside it, can name the file from there. Save it there first.</source>
+        <translation>Das Profil kann %1 nicht nennen: Es ist mit den Zeichen von Windows-1252 geschrieben, und dieser Pfad enthält andere.
+Ein Profil, das im selben Ordner oder daneben gespeichert ist, kann die Datei von dort aus nennen. Speichere es zuerst dort.</translation>
     </message>
 </context>
 <context>
@@ -839,20 +905,8 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         </translation>
     </message>
     <message>
-        <source>Unsaved work was put aside in %1, and will be offered at the next start.</source>
-        <translation>Nicht Gespeichertes wurde in %1 beiseitegelegt und wird beim nächsten Start angeboten.</translation>
-    </message>
-    <message>
         <source>A whisper</source>
         <translation>Ein Flüstern</translation>
-    </message>
-    <message>
-        <source>%1 is neither a profile (.tvm) nor a script (.vs).</source>
-        <translation>%1 ist weder ein Profil (.tvm) noch ein Skript (.vs).</translation>
-    </message>
-    <message>
-        <source>The profile names the script %1, which does not exist.</source>
-        <translation>Das Profil nennt das Skript %1, das es nicht gibt.</translation>
     </message>
     <message>
         <source>Version %1 is there:
@@ -873,18 +927,6 @@ An einem Ort deiner Wahl speichern?</translation>
     <message>
         <source>Archive (*.zip) | *.zip</source>
         <translation>Archiv (*.zip) | *.zip</translation>
-    </message>
-    <message>
-        <source>The program did not end in order the last time. Take back the unsaved %1?</source>
-        <translation>Das Programm wurde das letzte Mal nicht ordentlich beendet. Nicht Gespeichertes zurückholen: %1?</translation>
-    </message>
-    <message>
-        <source>configuration</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>script</source>
-        <translation>Skript</translation>
     </message>
     <message>
         <source>The bot goes on here. A double click brings the window back.</source>
@@ -919,32 +961,12 @@ An einem Ort deiner Wahl speichern?</translation>
         <translation>In %1 kann nichts geschrieben werden: Weder Einstellungen noch ungesicherte Arbeit bleiben erhalten.</translation>
     </message>
     <message>
-        <source>%1 does not exist.</source>
-        <translation>%1 gibt es nicht.</translation>
-    </message>
-    <message>
         <source>How to make a bot is told in guide.md, and every command in language.md, both in %1. Other makers are glad to help in the game&apos;s own bot-making dreams.
 
 Settings and data files are kept in %2.</source>
         <translation>Wie man einen Bot baut, steht in guide.md, und jeder Befehl in language.md, beide in %1. Andere helfen gern in den Träumen des Spiels, in denen Bots gebaut werden.
 
 Einstellungen und Datendateien liegen in %2.</translation>
-    </message>
-    <message>
-        <source>%1 stands in the editor (Script, Edit); saving it there loads it.</source>
-        <translation>%1 steht im Editor (Script, Bearbeiten); dort gesichert wird es geladen.</translation>
-    </message>
-    <message>
-        <source>%1 can&apos;t be read: %2.</source>
-        <translation>%1 kann nicht gelesen werden: %2.</translation>
-    </message>
-    <message>
-        <source>%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.</source>
-        <translation>%1 hat das Programm das letzte Mal beendet, darum ist das Skript nicht geladen. Noch einmal geöffnet, wird es geladen.</translation>
-    </message>
-    <message>
-        <source>Unsaved work could not be put aside: %1</source>
-        <translation>Nicht Gespeichertes konnte nicht beiseitegelegt werden: %1</translation>
     </message>
     <message>
         <source>The options can&apos;t be kept: %1</source>
@@ -956,32 +978,13 @@ Einstellungen und Datendateien liegen in %2.</translation>
     </message>
     <message>
         <source>%1.
-The profile counts as not saved; choose another place for it.</source>
-        <translation>%1.
-Das Profil gilt als nicht gespeichert; wähle einen anderen Ort dafür.</translation>
-    </message>
-    <message>
-        <source>%1.
 The next start will not know this profile and the window&apos;s place.</source>
         <translation>%1.
 Der nächste Start kennt dieses Profil und den Platz des Fensters nicht.</translation>
     </message>
     <message>
-        <source>Unsaved work can&apos;t be put aside, and would be lost in a crash: %1</source>
-        <translation>Nicht Gespeichertes kann nicht beiseitegelegt werden und ginge bei einem Absturz verloren: %1</translation>
-    </message>
-    <message>
         <source>The list of commands can&apos;t be written, so the script editor shows none: %1</source>
         <translation>Die Liste der Befehle kann nicht geschrieben werden, darum zeigt der Skripteditor keine: %1</translation>
-    </message>
-</context>
-<context>
-    <name>UnnamedFile</name>
-    <message>
-        <source>The profile can&apos;t name %1: it is written in the letters of Windows-1252, and this path holds others.
-A profile that is saved in the same folder, or beside it, can name the file from there. Save it there first.</source>
-        <translation>Das Profil kann %1 nicht nennen: Es ist mit den Zeichen von Windows-1252 geschrieben, und dieser Pfad enthält andere.
-Ein Profil, das im selben Ordner oder daneben gespeichert ist, kann die Datei von dort aus nennen. Speichere es zuerst dort.</translation>
     </message>
 </context>
 </TS>

@@ -6,17 +6,16 @@
 #include <QUrl>
 #include <QWidget>
 
-#include "profile/ProfileFile.h"
+#include "ui/Documents.h"
+#include "ui/ShownText.h"
 
 namespace {
 
-QStringList Documents(const QMimeData& data) {
+QStringList DocumentsIn(const QMimeData& data) {
     QStringList paths;
     for (const QUrl& url : data.urls()) {
         const QString path = url.toLocalFile();  // empty for what lies elsewhere
-        if (path.endsWith(kProfileExtension, Qt::CaseInsensitive) ||
-            path.endsWith(kScriptExtension, Qt::CaseInsensitive))
-            paths << path;
+        if (DocumentKind(TypedPath(path))) paths << path;
     }
     return paths;
 }
@@ -36,7 +35,7 @@ bool DocumentDrops::eventFilter(QObject* watched, QEvent* event) {
     const auto* const widget = qobject_cast<QWidget*>(watched);
     if (!widget || !windows_.contains(widget->window())) return false;
     auto* const drop = static_cast<QDropEvent*>(event);
-    const QStringList documents = Documents(*drop->mimeData());
+    const QStringList documents = DocumentsIn(*drop->mimeData());
     if (documents.isEmpty()) return false;
     drop->setDropAction(Qt::CopyAction);  // a file that was moved here would be gone from its place
     drop->accept();

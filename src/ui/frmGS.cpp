@@ -129,7 +129,7 @@ QWidget* frmGS::BuildCommands() {
 void frmGS::BuildMenus() {
     QMenu* const file = AddMenu(*menuBar(), "mnuFile", tr("&File"));
     AddItem(*file, "mnuNew", tr("&New"), QKeySequence::New, [this] {
-        if (MayDropChanges()) NewScript();
+        if (AskToDropChanges()) NewScript();
     });
     AddItem(*file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { Open(); });
     AddItem(*file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { Save(); });
@@ -239,21 +239,21 @@ void frmGS::RestoreText(const std::string& path, const std::string& text) {
     ShowTitle();
 }
 
-bool frmGS::MayDropChanges(bool offersCancel) {
+bool frmGS::AskToDropChanges(bool offersCancel) {
     if (!IsDirty()) return true;
     const auto answer = dialogs_.Ask(this, kSaveQuestion, kSaveTitle, offersCancel);
     return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && Save());
 }
 
 void frmGS::Open() {
-    if (!MayDropChanges()) return;
+    if (!AskToDropChanges()) return;
     const auto chosen =
         dialogs_.AskOpenFile(this, "Select a VorelSpeak Script to Open", kFilter, ShownPath(FolderOf(path_)));
     if (chosen) ReadFrom(TypedPath(*chosen));
 }
 
 void frmGS::OpenScript(const std::string& path) {
-    if (MayDropChanges()) ReadFrom(path);
+    if (AskToDropChanges()) ReadFrom(path);
 }
 
 void frmGS::ReadFrom(const std::string& path) {

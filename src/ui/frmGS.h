@@ -38,7 +38,7 @@ class frmGS final : public QMainWindow {
 
     /// Asks about unsaved changes before something else takes their place.
     /// @return false when the user would rather stay
-    bool MayDropChanges(bool offersCancel = true);
+    bool AskToDropChanges(bool offersCancel = true);
 
     /// Opens a script with text put aside earlier, as an unsaved change of a file (empty: of none).
     void RestoreText(const std::string& path, const std::string& text);

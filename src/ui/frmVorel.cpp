@@ -46,10 +46,7 @@
 
 namespace {
 
-constexpr char kProfileFilter[] = "Tandry Vorel (*.tvm) | *.tvm";
-constexpr int kKeepUnsavedMs = 5000;
-constexpr int kTrustedAfterMs = 60000;  // a profile that has run so long does not end the program at every start
-constexpr int kFaultExit = 70;          // EX_SOFTWARE, as vorel run
+constexpr int kFaultExit = 70;  // EX_SOFTWARE, as vorel run
 
 QList<ServerChoice> Servers() {
     return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
@@ -72,10 +69,10 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
       folder_(folder),
       options_(OptionsFile(folder)),
       host_(*this, TypedPath(folder)),
-      recovery_(host_.Disk(), TypedPath(OwnFolder(folder))),
       updates_(QUrl(QString(kUpdateServer))),
       console_(new ConsoleFrame(options_, dialogs, this)),
-      editor_(std::make_unique<frmGS>(host_, dialogs)) {
+      editor_(std::make_unique<frmGS>(host_, dialogs)),
+      documents_(this, host_, dialogs, options_, *editor_, folder) {
     setObjectName("frmVorel");
     setWindowIcon(QIcon(":/icons/tvorel.svg"));
 
@@ -98,24 +95,31 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(tray_, &TrayIcon::MinimizeChosen, this, &frmVorel::MinimizeToTray);
     connect(tray_, &TrayIcon::ExitChosen, this, &QWidget::close);
 
-    connect(editor_.get(), &frmGS::ScriptFileChanged, this, [this] { bot().profile.dirty = true; });
-    connect(editor_.get(), &frmGS::ScriptRemarked, this, &frmVorel::Announce);
+    connect(&documents_, &Documents::Told, this, &frmVorel::Announce);
+    connect(&documents_, &Documents::TroubleTold, this, &frmVorel::AnnounceTrouble);
+    connect(&documents_, &Documents::ProfileTakenUp, this, [this] {
+        ShowTitle();
+        ShowSplitLines();
+    });
+    connect(&documents_, &Documents::ProfileSaved, this, [this] {
+        ShowTitle();
+        KeepSplitLines(keepsSplitLines_->isChecked());  // under its new name, perhaps
+    });
+    connect(&documents_, &Documents::EditorWanted, this, &frmVorel::ShowEditor);
     host_.StayConnected(options_.Get(option::kReconnect));
     host_.SetBrake(options_.Get(option::kBrake));
-    keepUnsaved_.setObjectName("tmrKeepUnsaved");
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
         Announce(why.isEmpty() ? tr("The new version has been saved.")
                                : tr("The new version was not saved: %1").arg(why));
     });
-    connect(&keepUnsaved_, &QTimer::timeout, this, &frmVorel::KeepUnsavedWorkOrTell);
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
     ::NewProfile(bot());
     ShowSplitLines();
     bot().profile.serverAddress =
         TypedPath(options_.Get(option::kServerAddress).isEmpty() ? kGameServer : options_.Get(option::kServerAddress));
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
-                                             [this](const QString& path) { OpenDocument(TypedPath(path)); });
+                                             [this](const QString& path) { documents_.Open(TypedPath(path)); });
     ShowTitle();
     ShowStatus();
 }
@@ -177,13 +181,13 @@ QWidget* frmVorel::BuildRightSide() {
 
 void frmVorel::BuildMenus() {
     QMenu* const file = AddMenu(*menuBar(), "mnuFile", tr("&File"));
-    AddItem(*file, "mnuNew", tr("&New"), QKeySequence::New, [this] { NewProfile(); });
-    AddItem(*file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { OpenProfileByMenu(); });
+    AddItem(*file, "mnuNew", tr("&New"), QKeySequence::New, [this] { documents_.NewProfile(); });
+    AddItem(*file, "mnuOpen", tr("&Open..."), QKeySequence::Open, [this] { documents_.OpenProfile(); });
     mnuRecent_ = file->addMenu(tr("&Recent"));
     mnuRecent_->setObjectName("mnuRecent");
     connect(mnuRecent_, &QMenu::aboutToShow, this, &frmVorel::ShowRecentProfiles);
-    AddItem(*file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { SaveProfile(); });
-    AddItem(*file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { SaveProfileAs(); });
+    AddItem(*file, "mnuSave", tr("&Save"), QKeySequence::Save, [this] { documents_.SaveProfile(); });
+    AddItem(*file, "mnuSaveAs", tr("Save &As..."), QKeySequence::SaveAs, [this] { documents_.SaveProfileAs(); });
     file->addSeparator();
     AddItem(*file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
 
@@ -312,20 +316,12 @@ QString frmVorel::HowItStands() const {
 }
 
 void frmVorel::EndWithFault(const RuntimeFault& fault) {
-    faulted_ = true;
-    if (opened_.isValid() && !opened_.hasExpired(kTrustedAfterMs))
-        options_.Set(option::kFaultedProfile, ShownPath(bot().profile.path));
+    documents_.EndWithFault();
     QString text = ShownPath(DescribeFault(fault, bot()));
     if (!keepsSplitLines_->isChecked() && MayComeOfASplitLine(bot()))
         text += " " + tr("The network may have split it: Session, Keep lines that the network has split, mends that.");
     Announce(text);  // for the log
-    // Before the first time, what an earlier run has left is still to be offered.
-    const QString unkept = keepUnsaved_.isActive() ? KeepUnsavedWork() : QString();
-    if (!unkept.isEmpty()) {
-        text += "\n\n" + tr("Unsaved work could not be put aside: %1").arg(unkept);
-    } else if (recovery_.FoundScript() || recovery_.FoundProfile()) {
-        text += "\n\n" + tr("Unsaved work was put aside in %1, and will be offered at the next start.").arg(folder_);
-    }
+    if (const QString aside = documents_.PutAsideAfterFault(); !aside.isEmpty()) text += "\n\n" + aside;
     dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
     QuitAfterFault();
 }
@@ -348,9 +344,9 @@ void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
 void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
     if (practice) bot().profile.serverAddress = kPracticeAddress;
     host_.RunHandler([&] { BeginWork(documents); });
-    if (faulted_) {
+    if (documents_.HasFaulted()) {
         QuitAfterFault();  // again, since a question that was open then has taken the first for itself
-    } else if (!scriptLeftOut_ && (practice || options_.Get(option::kConnectAtStart))) {
+    } else if (!documents_.IsScriptLeftOut() && (practice || options_.Get(option::kConnectAtStart))) {
         host_.ConnectNow();
     }
 }
@@ -369,29 +365,8 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
     Settings settings = LoadSettings(host_.Disk(), TypedPath(folder_));
     if (settings.recent.empty()) settings.recent = TypedPath(options_.Get(option::kOpenProfile));
     MoveTo(settings);
-    auto profile = recovery_.FoundProfile(), script = recovery_.FoundScript();
-    if (profile && !Wants(tr("configuration"), profile->path)) profile.reset();
-    if (script && !Wants(tr("script"), script->path)) script.reset();
-    const bool handedOver = std::any_of(documents.begin(), documents.end(), [](const std::string& path) {
-        return LowerCase(path).ends_with(kProfileExtension);
-    });
-    if (profile) {
-        TakeUpProfile(profile->path, profile->bytes);
-    } else if (script || !handedOver) {
-        const std::string& recent = script ? script->profile : settings.recent;
-        if (host_.Disk().Find(recent)) OpenProfileFile(recent);
-    }
-    if (faulted_) return;
-    if (script) {
-        editor_->RestoreText(script->path, script->bytes);
-        ShowEditor();
-    }
-    KeepUnsavedWorkOrTell();  // what was not wanted goes
-    keepUnsaved_.start(kKeepUnsavedMs);
-    for (const std::string& document : documents) {
-        if (!faulted_) OpenDocument(document);
-    }
-    updates_.Look();
+    documents_.Begin(settings.recent, documents);
+    if (!documents_.HasFaulted()) updates_.Look();
 }
 
 /// Puts the window where it was, unless its title would lie on no screen there.
@@ -400,85 +375,6 @@ void frmVorel::MoveTo(const Settings& settings) {
     if (!settings.hasPlace || std::abs(settings.left) > kFarthest || std::abs(settings.top) > kFarthest) return;
     const QPoint place(static_cast<int>(settings.left), static_cast<int>(settings.top));
     if (QGuiApplication::screenAt(place + QPoint(width() / 2, 10))) move(place);
-}
-
-/// Takes up a profile that may have ended the program, without what has done it: its script only stands in the editor.
-void frmVorel::TakeUpProfile(const std::string& path, const std::string& bytes) {
-    try {
-        RestoreProfile(bot(), path, bytes);
-        bot().script.reset();
-        scriptLeftOut_ = true;
-        host_.StopTrying();
-        ShowTitle();
-        ShowSplitLines();
-        const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
-        if (!script) return editor_->NewScript();
-        editor_->ShowFile(*script);
-        Announce(tr("%1 stands in the editor (Script, Edit); saving it there loads it.").arg(ShownPath(*script)));
-    } catch (const RuntimeFault& fault) {
-        Announce(tr("%1 can't be read: %2.").arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))));
-    }
-}
-
-void frmVorel::OpenDocument(const std::string& path) {
-    if (!host_.Disk().Find(path)) {
-        Announce(tr("%1 does not exist.").arg(ShownPath(path)));
-    } else if (LowerCase(path).ends_with(kScriptExtension)) {
-        editor_->OpenScript(path);
-        ShowEditor();
-    } else if (!LowerCase(path).ends_with(kProfileExtension)) {
-        Announce(tr("%1 is neither a profile (.tvm) nor a script (.vs).").arg(ShownPath(path)));
-    } else if (MayDropChanges()) {
-        OpenProfileFile(path);
-    }
-}
-
-/// Opens a profile; without its script, if that has ended the program soon after it was opened the last time.
-void frmVorel::OpenProfileFile(const std::string& path) {
-    const std::string absolute = host_.Disk().Absolute(path);
-    if (options_.Get(option::kFaultedProfile) == ShownPath(absolute)) {
-        options_.Set(option::kFaultedProfile, QString());
-        Announce(tr("%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.")
-                     .arg(ShownPath(path)));
-        return host_.RunHandler([&] {
-            TakeUpProfile(absolute, host_.Disk().Read(absolute));
-            bot().profile.dirty = false;
-        });
-    }
-    opened_.start();
-    host_.RunHandler([&] {
-        const std::string address = bot().profile.serverAddress;
-        const ProfileLoad load = LoadProfile(bot(), absolute);
-        bot().profile.serverAddress = address;
-        ShowLoaded(load, absolute);
-    });
-}
-
-void frmVorel::OpenProfileByMenu() {
-    if (!MayDropChanges()) return;
-    const auto chosen = dialogs_.AskOpenFile(this, "Select a Tandry Vorel to open", kProfileFilter,
-                                             ShownPath(FolderOf(bot().profile.path)));
-    if (!chosen) return;
-    opened_.start();
-    host_.RunHandler([&] {
-        const ProfileLoad load = OpenProfile(bot(), TypedPath(*chosen));
-        if (load.found) bot().profile.dirty = false;
-        ShowLoaded(load, TypedPath(*chosen));
-    });
-}
-
-void frmVorel::ShowLoaded(const ProfileLoad& load, const std::string& path) {
-    if (!load.found) return;
-    ClearUnfinished(FolderOf(path));
-    host_.StopTrying();  // it was for another bot
-    ShowTitle();
-    ShowSplitLines();
-    editor_->ShowBotScript();
-    options_.AddRecentProfile(ShownPath(path));
-    for (const std::string& remark : load.remarks) Announce(ShownPath(remark));
-    if (!load.missingScript.empty()) {
-        Announce(tr("The profile names the script %1, which does not exist.").arg(Shown(load.missingScript)));
-    }
 }
 
 /// Shows whether the bot keeps split lines, and lets it: a new one does, a profile as its user has chosen.
@@ -498,70 +394,16 @@ void frmVorel::KeepSplitLines(bool keep) {
 void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
     for (const QString& path : options_.Get(option::kRecentProfiles)) {
-        mnuRecent_->addAction(QString(path).replace("&", "&&"), this, [this, path] { OpenDocument(TypedPath(path)); });
+        mnuRecent_->addAction(QString(path).replace("&", "&&"), this,
+                              [this, path] { documents_.Open(TypedPath(path)); });
     }
-}
-
-void frmVorel::NewProfile() {
-    if (!MayDropChanges()) return;
-    host_.StopTrying();
-    const std::string address = bot().profile.serverAddress;
-    ::NewProfile(bot());
-    bot().profile.serverAddress = address;
-    editor_->NewScript();
-    ShowTitle();
-    ShowSplitLines();
-}
-
-bool frmVorel::SaveProfile() { return bot().profile.path.empty() ? SaveProfileAs() : WriteProfile(bot().profile.path); }
-
-bool frmVorel::SaveProfileAs() {
-    const auto chosen = AskSaveName(dialogs_, this, "Save Tandry Vorel As...", kProfileFilter,
-                                    ShownPath(FolderOf(bot().profile.path)), kProfileExtension);
-    return chosen && WriteProfile(TypedPath(*chosen));
-}
-
-bool frmVorel::WriteProfile(const std::string& path) {
-    const std::string absolute = host_.Disk().Absolute(path);
-    editor_->NameScriptFrom(absolute);
-    if (const auto unnamed = NameFilesFrom(bot(), absolute)) {
-        dialogs_.ShowMessage(this, WhyNotNamed(*unnamed), "Save Vorel", Dialogs::Icon::Critical);
-        return false;
-    }
-    try {
-        ::SaveProfile(bot(), path);
-    } catch (const RuntimeFault& fault) {
-        // The profile is still here, and can be saved elsewhere.
-        dialogs_.ShowMessage(
-            this, tr("%1.\nThe profile counts as not saved; choose another place for it.").arg(ShownFault(fault)),
-            "Save Vorel", Dialogs::Icon::Critical);
-        return false;
-    }
-    ShowTitle();
-    KeepSplitLines(keepsSplitLines_->isChecked());  // under its new name, perhaps
-    options_.AddRecentProfile(ShownPath(bot().profile.path));
-    return true;
-}
-
-/// Asks about unsaved changes before something else takes their place.
-/// @return false when the user would rather stay
-bool frmVorel::MayDropChanges(bool offersCancel) {
-    // The script first: saved under a new name, it changes the profile.
-    if (!editor_->MayDropChanges(offersCancel) || faulted_) return false;
-    if (!bot().profile.dirty) return true;
-    const auto answer =
-        dialogs_.Ask(this, "Do you want to save any changes to your bot's configuration?", "Save Vorel", offersCancel);
-    if (faulted_) return false;  // while the question was open
-    return answer == Dialogs::Answer::No || (answer == Dialogs::Answer::Yes && SaveProfile());
 }
 
 // --- leaving -----------------------------------------------------------------------------------------------------
 
 void frmVorel::SaveAllSettings() {
     Settings settings;
-    settings.recent = bot().profile.path;
-    const QString open = FitsCodePage(settings.recent) ? QString() : ShownPath(settings.recent);
-    if (open != options_.Get(option::kOpenProfile)) options_.Set(option::kOpenProfile, open);
+    settings.recent = documents_.RememberProfile();
     if (!isMinimized()) {
         settings.top = y();
         settings.left = x();
@@ -579,15 +421,12 @@ void frmVorel::SaveAllSettings() {
 
 void frmVorel::closeEvent(QCloseEvent* event) {
     SaveAllSettings();
+    const bool inOrder = !documents_.HasFaulted();
     // From the tray: questions are asked in a window that can be seen.
-    if (!faulted_ && !isVisible() && (bot().profile.dirty || editor_->IsDirty())) RestoreFromTray();
-    if (!faulted_ && !MayDropChanges(false)) return event->ignore();
-    keepUnsaved_.stop();
-    if (!faulted_) {
-        recovery_.KeepScript(std::nullopt);
-        recovery_.KeepProfile(std::nullopt);
-        host_.Leave();
-    }
+    if (inOrder && !isVisible() && documents_.HasChanges()) RestoreFromTray();
+    if (inOrder && !documents_.AskToDropChanges(false)) return event->ignore();
+    documents_.End();
+    if (!documents_.HasFaulted()) host_.Leave();
     host_.StopTrying();
     editor_->Unload();
     editor_->close();
@@ -601,32 +440,6 @@ void frmVorel::OfferUpdate(const QString& version, const QString& text) {
     if (dialogs_.Ask(this, question, kProductName) != Dialogs::Answer::Yes) return;
     const auto file = dialogs_.AskSaveFile(this, tr("Save the new version"), tr("Archive (*.zip) | *.zip"), {});
     if (file) updates_.FetchArchive(*file);
-}
-
-/// @return why it can't be done; empty when it is
-QString frmVorel::KeepUnsavedWork() {
-    using Copy = Recovery::Copy;
-    const std::string& profile = bot().profile.path;
-    const std::string noScript = recovery_.KeepScript(
-        editor_->IsDirty() ? std::optional(Copy{editor_->Path(), profile, editor_->ScriptText()}) : std::nullopt);
-    const std::string noProfile = recovery_.KeepProfile(
-        bot().profile.dirty ? std::optional(Copy{profile, profile, ProfileBytes(bot().profile)}) : std::nullopt);
-    return ShownPath(noScript.empty() ? noProfile : noScript);
-}
-
-void frmVorel::KeepUnsavedWorkOrTell() {
-    const QString why = KeepUnsavedWork();
-    if (!why.isEmpty() && !toldUnkept_)
-        AnnounceTrouble(tr("Unsaved work can't be put aside, and would be lost in a crash: %1").arg(why));
-    toldUnkept_ = !why.isEmpty();
-}
-
-/// Asks whether unsaved work of the last time is to be taken back.
-/// @param file  what it is a change of; empty for a new one
-bool frmVorel::Wants(const QString& what, const std::string& file) {
-    const QString name = file.empty() ? what : what + " " + ShownPath(FileNameOf(file));
-    return dialogs_.Ask(this, tr("The program did not end in order the last time. Take back the unsaved %1?").arg(name),
-                        kProductName) == Dialogs::Answer::Yes;
 }
 
 void frmVorel::changeEvent(QEvent* event) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QMainWindow>
 #include <memory>
@@ -9,8 +8,8 @@
 
 #include "platform/FrontEnd.h"
 #include "platform/QtHost.h"
+#include "ui/Documents.h"
 #include "ui/Options.h"
-#include "ui/Recovery.h"
 #include "ui/UpdateCheck.h"
 
 class ConsoleFrame;
@@ -22,7 +21,6 @@ class QMenu;
 class TrayIcon;
 class VariableList;
 class frmGS;
-struct ProfileLoad;
 struct Settings;
 
 /// Where the address list's practice dream leads; no host has this name.
@@ -49,7 +47,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
 
     /// Opens a ".tvm" or ".vs" file that the desktop or a drop has handed over; asks about unsaved changes first.
     /// @param path  UTF-8
-    void OpenDocument(const std::string& path);
+    void OpenDocument(const std::string& path) { documents_.Open(path); }
 
     // FrontEnd
     void ShowConsoleLine(std::string_view line) override;
@@ -74,14 +72,8 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Options options_;
     std::unique_ptr<PracticeServer> practice_;
     QtHost host_;
-    Recovery recovery_;
-    QTimer keepUnsaved_{this};
     UpdateCheck updates_;
-    QElapsedTimer opened_;  ///< since the profile was opened; invalid for a new one
-    bool faulted_ = false;
-    bool toldUnkept_ = false;     ///< that unsaved work can't be put aside
-    bool scriptLeftOut_ = false;  ///< at the start: a bot without its script is not to connect by itself
-    QStringList lasting_;         ///< to be told when the session's console begins
+    QStringList lasting_;  ///< to be told when the session's console begins
 
     ConsoleFrame* console_;
     VariableList* lvwVars_;
@@ -89,6 +81,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QMenu* mnuRecent_;
     QAction* keepsSplitLines_;
     std::unique_ptr<frmGS> editor_;
+    Documents documents_;
     TrayIcon* tray_;
     std::unique_ptr<DocumentDrops> drops_;
 
@@ -103,19 +96,10 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void ShowRecentProfiles();
     void ShowSplitLines();
     void KeepSplitLines(bool keep);
-    void ShowLoaded(const ProfileLoad& load, const std::string& path);
     void ShowStatus();
     QString HowItStands() const;
     void QuitAfterFault();
 
-    void NewProfile();
-    void OpenProfileByMenu();
-    void TakeUpProfile(const std::string& path, const std::string& bytes);
-    void OpenProfileFile(const std::string& path);
-    bool SaveProfile();
-    bool SaveProfileAs();
-    bool WriteProfile(const std::string& path);
-    bool MayDropChanges(bool offersCancel = true);
     void SaveAllSettings();
     void BeginWork(const std::vector<std::string>& documents);
     void MoveTo(const Settings& settings);
@@ -130,9 +114,6 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void RunScriptOnce();
     void OpenPractice(std::string& address, int& port);
     void OfferUpdate(const QString& version, const QString& text);
-    QString KeepUnsavedWork();
-    void KeepUnsavedWorkOrTell();
-    bool Wants(const QString& what, const std::string& file);
     void NotifyWhisper(std::string_view line);
     void MinimizeToTray();
     void RestoreFromTray();
