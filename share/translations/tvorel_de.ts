@@ -342,6 +342,67 @@ Das Profil gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
     </message>
 </context>
 <context>
+    <name>SessionMenu</name>
+    <message>
+        <source>S&amp;ession</source>
+        <translation>S&amp;itzung</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect when the connection is lost</source>
+        <translation>&amp;Neu verbinden, wenn die Verbindung verloren geht</translation>
+    </message>
+    <message>
+        <source>&amp;Keep lines that the network has split</source>
+        <translation>&amp;Zeilen behalten, die das Netz geteilt hat</translation>
+    </message>
+    <message>
+        <source>Connect when the program &amp;starts</source>
+        <translation>Beim &amp;Start verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Brake...</source>
+        <translation>&amp;Bremse...</translation>
+    </message>
+    <message>
+        <source>How many lines a second the script may send, %1 at present. 0 lets it send as many as it likes.</source>
+        <translation>Wie viele Zeilen das Skript in der Sekunde senden darf, zurzeit %1. Mit 0 sendet es beliebig viele.</translation>
+    </message>
+    <message>
+        <source>Brake</source>
+        <translation>Bremse</translation>
+    </message>
+</context>
+<context>
+    <name>SessionWatch</name>
+    <message>
+        <source>Connecting...</source>
+        <translation>Verbinde...</translation>
+    </message>
+    <message>
+        <source>The server has ended the connection before the bot was let in: check its name and password.</source>
+        <translation>Der Server hat die Verbindung beendet, bevor der Bot eingelassen wurde: prüfe Name und Passwort.</translation>
+    </message>
+    <message>
+        <source>The server has ended the connection.</source>
+        <translation>Der Server hat die Verbindung beendet.</translation>
+    </message>
+    <message>
+        <source>No connection: %1</source>
+        <translation>Keine Verbindung: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Trying again in %n second(s).</source>
+        <translation>
+            <numerusform>Neuer Versuch in %n Sekunde.</numerusform>
+            <numerusform>Neuer Versuch in %n Sekunden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The network may have split it: Session, Keep lines that the network has split, mends that.</source>
+        <translation>Vielleicht hat das Netz sie geteilt: Dagegen hilft Sitzung, Zeilen behalten, die das Netz geteilt hat.</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>
@@ -826,38 +887,6 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>S&amp;ession</source>
-        <translation>S&amp;itzung</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect when the connection is lost</source>
-        <translation>&amp;Neu verbinden, wenn die Verbindung verloren geht</translation>
-    </message>
-    <message>
-        <source>&amp;Keep lines that the network has split</source>
-        <translation>&amp;Zeilen behalten, die das Netz geteilt hat</translation>
-    </message>
-    <message>
-        <source>The network may have split it: Session, Keep lines that the network has split, mends that.</source>
-        <translation>Vielleicht hat das Netz sie geteilt: Dagegen hilft Sitzung, Zeilen behalten, die das Netz geteilt hat.</translation>
-    </message>
-    <message>
-        <source>Connect when the program &amp;starts</source>
-        <translation>Beim &amp;Start verbinden</translation>
-    </message>
-    <message>
-        <source>&amp;Brake...</source>
-        <translation>&amp;Bremse...</translation>
-    </message>
-    <message>
-        <source>How many lines a second the script may send, %1 at present. 0 lets it send as many as it likes.</source>
-        <translation>Wie viele Zeilen das Skript in der Sekunde senden darf, zurzeit %1. Mit 0 sendet es beliebig viele.</translation>
-    </message>
-    <message>
-        <source>Brake</source>
-        <translation>Bremse</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -880,29 +909,6 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>Connecting...</source>
-        <translation>Verbinde...</translation>
-    </message>
-    <message>
-        <source>The server has ended the connection before the bot was let in: check its name and password.</source>
-        <translation>Der Server hat die Verbindung beendet, bevor der Bot eingelassen wurde: prüfe Name und Passwort.</translation>
-    </message>
-    <message>
-        <source>The server has ended the connection.</source>
-        <translation>Der Server hat die Verbindung beendet.</translation>
-    </message>
-    <message>
-        <source>No connection: %1</source>
-        <translation>Keine Verbindung: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>Trying again in %n second(s).</source>
-        <translation>
-            <numerusform>Neuer Versuch in %n Sekunde.</numerusform>
-            <numerusform>Neuer Versuch in %n Sekunden.</numerusform>
-        </translation>
     </message>
     <message>
         <source>A whisper</source>

@@ -36,6 +36,8 @@ struct SessionStatus {
     End end = End::NotYet;
     std::string reason;  ///< of an error, in words
 
+    bool lacksFiles = false;  ///< the bot was to connect, but its character or client is not there
+
     int nextTry = 0;  ///< in how many seconds the bot tries to connect again; 0 when it doesn't
 
     /// How often running the server has closed the connection before it let the bot in. Once may be the server's own
@@ -62,6 +64,7 @@ struct Heard {
     enum class From { Nobody, Game, Client, User };
     From from = From::Nobody;
     std::string line;
+    bool isWhisper = false;  ///< to the bot, which has answered it: it is about to be shown
 };
 
 /// Everything one bot is. Every operation takes the Bot it works on, so that one process can run many.

@@ -80,7 +80,8 @@ void Session::Connect() {
     const bool character = FindProfileFile(bot_, bot_.profile.characterPath).has_value();
     // Without a client to link nobody needs its program.
     const bool client = !bot_.profile.IsClientMode() || FindProfileFile(bot_, bot_.profile.clientPath).has_value();
-    if (!character || !client) {
+    bot_.status.lacksFiles = !character || !client;
+    if (bot_.status.lacksFiles) {
         bot_.host.ShowMessage(kInvalidSelection, MissingFiles(character, client));
     } else if (bot_.profile.owners.empty()) {
         bot_.host.ShowMessage("Bot Owner",

@@ -93,7 +93,8 @@ bool ReadWhisper(Bot& bot, const ServerLine& line) {
     if (line.HasAt(kWhispererAt, "You ")) {
         ReadOwnWhisper(bot, line);
     } else if (line.Whole().ends_with(" to you. ]")) {
-        return ReadWhisperToBot(bot, line);
+        bot.heard.isWhisper = ReadWhisperToBot(bot, line);
+        return bot.heard.isWhisper;
     }
     return true;
 }

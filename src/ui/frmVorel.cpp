@@ -21,7 +21,6 @@
 #include "Version.h"
 #include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
-#include "net/FaultText.h"
 #include "net/Passwords.h"
 #include "platform/WholeFile.h"
 #include "practice/PracticeServer.h"
@@ -37,6 +36,7 @@
 #include "ui/DocumentDrops.h"
 #include "ui/MenuItems.h"
 #include "ui/ProgramFolder.h"
+#include "ui/SessionMenu.h"
 #include "ui/ShownText.h"
 #include "ui/TrayIcon.h"
 #include "ui/UnnamedFile.h"
@@ -97,17 +97,11 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
 
     connect(&documents_, &Documents::Told, this, &frmVorel::Announce);
     connect(&documents_, &Documents::TroubleTold, this, &frmVorel::AnnounceTrouble);
-    connect(&documents_, &Documents::ProfileTakenUp, this, [this] {
-        ShowTitle();
-        ShowSplitLines();
-    });
-    connect(&documents_, &Documents::ProfileSaved, this, [this] {
-        ShowTitle();
-        KeepSplitLines(keepsSplitLines_->isChecked());  // under its new name, perhaps
-    });
+    connect(&documents_, &Documents::ProfileTakenUp, this, &frmVorel::ShowTitle);
+    connect(&documents_, &Documents::ProfileTakenUp, mnuSession_, &SessionMenu::ShowProfile);
+    connect(&documents_, &Documents::ProfileSaved, this, &frmVorel::ShowTitle);
+    connect(&documents_, &Documents::ProfileSaved, mnuSession_, &SessionMenu::KeepForProfile);
     connect(&documents_, &Documents::EditorWanted, this, &frmVorel::ShowEditor);
-    host_.StayConnected(options_.Get(option::kReconnect));
-    host_.SetBrake(options_.Get(option::kBrake));
     connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
     connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
         Announce(why.isEmpty() ? tr("The new version has been saved.")
@@ -115,7 +109,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     });
     host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
     ::NewProfile(bot());
-    ShowSplitLines();
+    mnuSession_->ShowProfile();
     bot().profile.serverAddress =
         TypedPath(options_.Get(option::kServerAddress).isEmpty() ? kGameServer : options_.Get(option::kServerAddress));
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
@@ -191,23 +185,8 @@ void frmVorel::BuildMenus() {
     file->addSeparator();
     AddItem(*file, "mnuExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
 
-    QMenu* const session = AddMenu(*menuBar(), "mnuSession", tr("S&ession"));
-    AddItem(*session, "mnuConnect", "&Connect", QKeySequence(Qt::CTRL | Qt::Key_K), [this] { host_.ConnectNow(); });
-    AddItem(*session, "mnuDisconnect", "&Disconnect", QKeySequence(Qt::CTRL | Qt::Key_D),
-            [this] { host_.RunHandler([this] { host_.Disconnect(); }); });
-    AddItem(*session, "mnuSAM", "Stand Alone &Mode", {},
-            [this] { host_.RunHandler([this] { host_.session().StandAlone(); }); });
-    session->addSeparator();
-    AddOption(*session, "mnuReconnect", tr("&Reconnect when the connection is lost"), options_.Get(option::kReconnect),
-              [this](bool on) {
-                  options_.Set(option::kReconnect, on);
-                  host_.StayConnected(on);
-              });
-    keepsSplitLines_ = AddOption(*session, "mnuKeepSplitLines", tr("&Keep lines that the network has split"), false,
-                                 [this](bool on) { KeepSplitLines(on); });
-    AddOption(*session, "mnuConnectAtStart", tr("Connect when the program &starts"),
-              options_.Get(option::kConnectAtStart), [this](bool on) { options_.Set(option::kConnectAtStart, on); });
-    AddItem(*session, "mnuBrake", tr("&Brake..."), {}, [this] { ChooseBrake(); });
+    mnuSession_ = new SessionMenu(host_, options_, dialogs_, menuBar());
+    menuBar()->addMenu(mnuSession_);
 
     QMenu* const script = AddMenu(*menuBar(), "mnuScript", "&Script");
     AddItem(*script, "mnuEdit", tr("&Edit"), QKeySequence(Qt::Key_F4), [this] { ShowEditor(); });
@@ -275,7 +254,9 @@ void frmVorel::AnnounceTrouble(const QString& line) {
 void frmVorel::ShowConsoleLine(std::string_view line) {
     const std::string shown = WithoutPasswords(bot(), line);
     Announce(Shown(shown));
-    NotifyWhisper(shown);
+    if (!watch_.HasWhisperToTell() || isActiveWindow()) return;
+    // Some desktops take what looks like a tag for one.
+    tray_->showMessage(tr("A whisper"), Shown(shown).replace('<', QChar(0x2039)));
 }
 
 void frmVorel::ClearConsole() {
@@ -285,41 +266,22 @@ void frmVorel::ClearConsole() {
 }
 
 void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
-    const bool critical = title == "Invalid Selection";
-    dialogs_.ShowMessage(this, Shown(text), Shown(title), critical ? Dialogs::Icon::Critical : Dialogs::Icon::None);
+    const auto icon = bot().status.lacksFiles ? Dialogs::Icon::Critical : Dialogs::Icon::None;
+    dialogs_.ShowMessage(this, Shown(text), Shown(title), icon);
 }
 
 void frmVorel::StatusChanged() { ShowStatus(); }
 
 void frmVorel::ShowStatus() {
-    findChild<QAction*>("mnuConnect")->setEnabled(status().canConnect);
-    findChild<QAction*>("mnuDisconnect")->setEnabled(status().canDisconnect);
-    findChild<QAction*>("mnuSAM")->setEnabled(status().canStandAlone);
-    panelName_->setText(Shown(status().botName));
-    panelConnection_->setText(status().connection.empty() ? "Disconnected" : Shown(status().connection));
-    panelReason_->setText(HowItStands());
-}
-
-/// Whether the bot is connecting; or why it is not connected, and when it tries again.
-QString frmVorel::HowItStands() const {
-    if (!status().canConnect) return status().connection == "Connected" ? QString() : tr("Connecting...");
-    QString reason;
-    if (status().end == SessionStatus::End::ByServer && status().refusals > 0) {
-        reason = tr("The server has ended the connection before the bot was let in: check its name and password.");
-    } else if (status().end == SessionStatus::End::ByServer) {
-        reason = tr("The server has ended the connection.");
-    } else if (status().end == SessionStatus::End::ByError) {
-        reason = tr("No connection: %1").arg(Shown(status().reason));
-    }
-    if (status().nextTry > 0) reason += " " + tr("Trying again in %n second(s).", nullptr, status().nextTry);
-    return reason;
+    mnuSession_->ShowStatus();
+    panelName_->setText(watch_.BotName());
+    panelConnection_->setText(watch_.Connection());
+    panelReason_->setText(watch_.HowItStands());
 }
 
 void frmVorel::EndWithFault(const RuntimeFault& fault) {
     documents_.EndWithFault();
-    QString text = ShownPath(DescribeFault(fault, bot()));
-    if (!keepsSplitLines_->isChecked() && MayComeOfASplitLine(bot()))
-        text += " " + tr("The network may have split it: Session, Keep lines that the network has split, mends that.");
+    QString text = watch_.FaultInWords(fault, mnuSession_->KeepsSplitLines());
     Announce(text);  // for the log
     if (const QString aside = documents_.PutAsideAfterFault(); !aside.isEmpty()) text += "\n\n" + aside;
     dialogs_.ShowMessage(this, text, kProductName, Dialogs::Icon::Critical);
@@ -329,12 +291,6 @@ void frmVorel::EndWithFault(const RuntimeFault& fault) {
 void frmVorel::QuitAfterFault() {
     // Later, since the fault may have come before the event loop that this is to end.
     QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(kFaultExit); });
-}
-
-void frmVorel::NotifyWhisper(std::string_view line) {
-    if (!options_.Get(option::kNotifyWhispers) || isActiveWindow() || !line.ends_with(" to you. ]")) return;
-    // Some desktops take what looks like a tag for one.
-    tray_->showMessage(tr("A whisper"), Shown(line).replace('<', QChar(0x2039)));
 }
 
 void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
@@ -375,20 +331,6 @@ void frmVorel::MoveTo(const Settings& settings) {
     if (!settings.hasPlace || std::abs(settings.left) > kFarthest || std::abs(settings.top) > kFarthest) return;
     const QPoint place(static_cast<int>(settings.left), static_cast<int>(settings.top));
     if (QGuiApplication::screenAt(place + QPoint(width() / 2, 10))) move(place);
-}
-
-/// Shows whether the bot keeps split lines, and lets it: a new one does, a profile as its user has chosen.
-void frmVorel::ShowSplitLines() {
-    const std::string& path = bot().profile.path;
-    const bool keep = path.empty() || options_.KeepsSplitLines(ShownPath(path));
-    keepsSplitLines_->setChecked(keep);
-    host_.session().KeepSplitLines(keep);
-}
-
-void frmVorel::KeepSplitLines(bool keep) {
-    host_.session().KeepSplitLines(keep);
-    const QString path = ShownPath(bot().profile.path);
-    if (!path.isEmpty() && options_.KeepsSplitLines(path) != keep) options_.KeepSplitLines(path, keep);
 }
 
 void frmVorel::ShowRecentProfiles() {
@@ -519,19 +461,6 @@ void frmVorel::ShowEditor() {
     } else {
         show();
     }
-}
-
-void frmVorel::ChooseBrake() {
-    const auto text = dialogs_.AskText(
-        this,
-        tr("How many lines a second the script may send, %1 at present. 0 lets it send as many as it likes.")
-            .arg(options_.Get(option::kBrake)),
-        tr("Brake"));
-    bool isNumber = false;
-    const int lines = text ? text->toInt(&isNumber) : 0;
-    if (!isNumber || lines < 0 || lines > SendBrake::kHighestRate) return;
-    options_.Set(option::kBrake, lines);
-    host_.SetBrake(lines);
 }
 
 void frmVorel::RunScriptOnce() {

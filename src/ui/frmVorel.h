@@ -10,13 +10,14 @@
 #include "platform/QtHost.h"
 #include "ui/Documents.h"
 #include "ui/Options.h"
+#include "ui/SessionWatch.h"
 #include "ui/UpdateCheck.h"
 
 class ConsoleFrame;
 class Dialogs;
 class DocumentDrops;
 class PracticeServer;
-class QAction;
+class SessionMenu;
 class QMenu;
 class TrayIcon;
 class VariableList;
@@ -72,6 +73,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Options options_;
     std::unique_ptr<PracticeServer> practice_;
     QtHost host_;
+    SessionWatch watch_{host_.bot(), options_};
     UpdateCheck updates_;
     QStringList lasting_;  ///< to be told when the session's console begins
 
@@ -79,7 +81,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     VariableList* lvwVars_;
     QLabel *panelName_, *panelConnection_, *panelReason_;
     QMenu* mnuRecent_;
-    QAction* keepsSplitLines_;
+    SessionMenu* mnuSession_;
     std::unique_ptr<frmGS> editor_;
     Documents documents_;
     TrayIcon* tray_;
@@ -91,13 +93,9 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void BuildStatusBar();
 
     Bot& bot() { return host_.bot(); }
-    const SessionStatus& status() const { return host_.bot().status; }
     void ShowTitle();
     void ShowRecentProfiles();
-    void ShowSplitLines();
-    void KeepSplitLines(bool keep);
     void ShowStatus();
-    QString HowItStands() const;
     void QuitAfterFault();
 
     void SaveAllSettings();
@@ -110,11 +108,9 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void cmdHelp_Click();
     void ShowConfiguration();
     void ShowEditor();
-    void ChooseBrake();
     void RunScriptOnce();
     void OpenPractice(std::string& address, int& port);
     void OfferUpdate(const QString& version, const QString& text);
-    void NotifyWhisper(std::string_view line);
     void MinimizeToTray();
     void RestoreFromTray();
 };
