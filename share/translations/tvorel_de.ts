@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CommandTree</name>
+    <message>
+        <source>Show commands with these words</source>
+        <translation>Befehle mit diesen Wörtern zeigen</translation>
+    </message>
+    <message>
+        <source>Filter of the commands</source>
+        <translation>Filter der Befehle</translation>
+    </message>
+    <message>
+        <source>Shows only the commands that hold all of these words</source>
+        <translation>Zeigt nur die Befehle, die alle diese Wörter enthalten</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>Fi&amp;lter:</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Enter or a double click puts the chosen command into the script</source>
+        <translation>Eingabe oder Doppelklick setzt den gewählten Befehl in das Skript ein</translation>
+    </message>
+    <message>
+        <source>The chosen command</source>
+        <translation>Der gewählte Befehl</translation>
+    </message>
+</context>
+<context>
     <name>ConsoleFrame</name>
     <message>
         <source>Console</source>
@@ -688,34 +719,6 @@ Ein Profil, das im selben Ordner oder daneben gespeichert ist, kann die Datei vo
     <message>
         <source>Line %1, column %2</source>
         <translation>Zeile %1, Spalte %2</translation>
-    </message>
-    <message>
-        <source>Show commands with these words</source>
-        <translation>Befehle mit diesen Wörtern zeigen</translation>
-    </message>
-    <message>
-        <source>Filter of the commands</source>
-        <translation>Filter der Befehle</translation>
-    </message>
-    <message>
-        <source>Shows only the commands that hold all of these words</source>
-        <translation>Zeigt nur die Befehle, die alle diese Wörter enthalten</translation>
-    </message>
-    <message>
-        <source>Fi&amp;lter:</source>
-        <translation>Fi&amp;lter:</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Befehle</translation>
-    </message>
-    <message>
-        <source>Enter or a double click puts the chosen command into the script</source>
-        <translation>Eingabe oder Doppelklick setzt den gewählten Befehl in das Skript ein</translation>
-    </message>
-    <message>
-        <source>The chosen command</source>
-        <translation>Der gewählte Befehl</translation>
     </message>
     <message>
         <source>&amp;File</source>

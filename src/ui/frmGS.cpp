@@ -4,8 +4,6 @@
 
 #include <QCloseEvent>
 #include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QStatusBar>
@@ -16,10 +14,10 @@
 #include "engine/FileRemarks.h"
 #include "engine/Script.h"
 #include "platform/QtHost.h"
-#include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "text/Fault.h"
 #include "ui/CommandList.h"
+#include "ui/CommandTree.h"
 #include "ui/Dialogs.h"
 #include "ui/FindBar.h"
 #include "ui/MenuItems.h"
@@ -33,12 +31,16 @@ constexpr char kTitle[] = "VorelSpeak Script Editor";
 constexpr char kFilter[] = "VorelSpeak Script (*.vs) | *.vs";
 constexpr char kSaveTitle[] = "Save Script";
 constexpr char kSaveQuestion[] = "Do you want to save any changes to your script?";
-constexpr char kRootCaptions[][24] = {"Causes", "Additional Conditions", "Effects"};
 
 }  // namespace
 
 frmGS::frmGS(QtHost& host, Dialogs& dialogs)
-    : host_(host), dialogs_(dialogs), txtScript_(new QsciScintilla), lexer_(new VorelSpeakLexer(this)) {
+    : host_(host),
+      dialogs_(dialogs),
+      file_(host),
+      txtScript_(new QsciScintilla),
+      lexer_(new VorelSpeakLexer(this)),
+      commands_(new CommandTree) {
     setObjectName("frmGS");
     setWindowIcon(QIcon(":/icons/tvorel.svg"));
     resize(980, 640);
@@ -53,12 +55,13 @@ frmGS::frmGS(QtHost& host, Dialogs& dialogs)
     auto* const splitter = new QSplitter;
     splitter->setContentsMargins(6, 6, 6, 0);
     splitter->addWidget(textSide);
-    splitter->addWidget(BuildCommands());
+    splitter->addWidget(commands_);
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({660, 320});
     setCentralWidget(splitter);
     statusBar();
     BuildMenus();
+    connect(commands_, &CommandTree::CommandChosen, this, &frmGS::InsertCommand);
     NewScript();
 }
 
@@ -82,48 +85,6 @@ void frmGS::BuildText() {
     connect(txtScript_, &QsciScintilla::cursorPositionChanged, this, [this](int line, int column) {
         statusBar()->showMessage(tr("Line %1, column %2").arg(line + 1).arg(column + 1));
     });
-}
-
-QWidget* frmGS::BuildCommands() {
-    auto* const side = new QWidget;
-    auto* const layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-
-    txtFilter_ = new QLineEdit;
-    txtFilter_->setObjectName("txtFilter");
-    txtFilter_->setPlaceholderText(tr("Show commands with these words"));
-    txtFilter_->setClearButtonEnabled(true);
-    txtFilter_->setAccessibleName(tr("Filter of the commands"));
-    txtFilter_->setAccessibleDescription(tr("Shows only the commands that hold all of these words"));
-    auto* const label = new QLabel(tr("Fi&lter:"));
-    label->setBuddy(txtFilter_);
-    auto* const row = new QHBoxLayout;
-    row->addWidget(label);
-    row->addWidget(txtFilter_, 1);
-    layout->addLayout(row);
-
-    tvwCmds_ = new QTreeWidget;
-    tvwCmds_->setObjectName("tvwCmds");
-    tvwCmds_->setHeaderHidden(true);
-    tvwCmds_->setUniformRowHeights(true);
-    tvwCmds_->setAccessibleName(tr("Commands"));
-    tvwCmds_->setAccessibleDescription(tr("Enter or a double click puts the chosen command into the script"));
-    for (const auto* const caption : kRootCaptions) new QTreeWidgetItem(tvwCmds_, {QString(caption)});
-    layout->addWidget(tvwCmds_, 1);
-
-    lblPreview_ = new QLabel;
-    lblPreview_->setObjectName("lblPreview");
-    lblPreview_->setWordWrap(true);
-    lblPreview_->setTextFormat(Qt::PlainText);
-    lblPreview_->setMinimumHeight(lblPreview_->fontMetrics().lineSpacing() * 9);
-    lblPreview_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    lblPreview_->setAccessibleName(tr("The chosen command"));
-    layout->addWidget(lblPreview_);
-
-    connect(txtFilter_, &QLineEdit::textChanged, this, &frmGS::FilterCommands);
-    connect(tvwCmds_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) { InsertCommand(item); });
-    connect(tvwCmds_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { ShowPreview(item); });
-    return side;
 }
 
 void frmGS::BuildMenus() {
@@ -159,7 +120,7 @@ void frmGS::BuildMenus() {
     view->addSeparator();
     AddItem(*view, "mnuCommands", tr("&Commands"), QKeySequence(Qt::Key_F6), [this] {
         if (txtScript_->hasFocus()) {
-            tvwCmds_->setFocus();
+            commands_->FocusTree();
         } else {
             txtScript_->setFocus();
         }
@@ -187,7 +148,8 @@ void frmGS::changeEvent(QEvent* event) {
 void frmGS::ShowTitle() {
     const QString title(kTitle);
     // The placeholder is where Qt shows its mark of unsaved changes.
-    setWindowTitle((path_.empty() ? title : title + " - [" + ShownPath(FileNameOf(path_)) + "]") + "[*]");
+    const QString name = ShownPath(FileNameOf(Path()));
+    setWindowTitle((name.isEmpty() ? title : title + " - [" + name + "]") + "[*]");
     setWindowModified(txtScript_->isModified());
 }
 
@@ -204,24 +166,18 @@ std::string frmGS::ScriptText() const { return Typed(txtScript_->text()); }
 void frmGS::ShowBotScript() {
     const auto& script = host_.bot().script;
     if (!script) return NewScript();
-    // Absolute, for keeping: the next start may be from another folder.
-    unnamed_ = false;
-    path_ = script->File().empty() ? std::string() : host_.Disk().Absolute(script->File());
-    if (!path_.empty()) ClearUnfinished(FolderOf(path_));
+    file_.TakeBotScript();
     SetText(script->Text());
 }
 
 std::string frmGS::ShowFile(const std::string& path) {
-    std::string text = ScriptTextFromFile(host_.Disk().Read(path));
-    path_ = host_.Disk().Absolute(path);
-    ClearUnfinished(FolderOf(path_));
+    std::string text = file_.Read(path);
     SetText(text);
     return text;
 }
 
 void frmGS::NewScript() {
-    unnamed_ = false;
-    path_.clear();
+    file_.Forget();
     SetText(kNewScript);
 }
 
@@ -232,7 +188,7 @@ void frmGS::RestoreText(const std::string& path, const std::string& text) {
     } catch (const RuntimeFault&) {
         // Undoing the change leads to the new script then.
     }
-    path_ = path;
+    file_.TakePath(path);
     // Replaced by hand, as it were: only that counts as a change, and it can be undone.
     txtScript_->selectAll();
     txtScript_->replaceSelectedText(Shown(text));
@@ -248,7 +204,7 @@ bool frmGS::AskToDropChanges(bool offersCancel) {
 void frmGS::Open() {
     if (!AskToDropChanges()) return;
     const auto chosen =
-        dialogs_.AskOpenFile(this, "Select a VorelSpeak Script to Open", kFilter, ShownPath(FolderOf(path_)));
+        dialogs_.AskOpenFile(this, "Select a VorelSpeak Script to Open", kFilter, ShownPath(FolderOf(Path())));
     if (chosen) ReadFrom(TypedPath(*chosen));
 }
 
@@ -267,44 +223,32 @@ void frmGS::ReadFrom(const std::string& path) {
 }
 
 void frmGS::RunText(const std::string& text) {
-    host_.bot().script = std::make_shared<Script>(text, path_);
-    if (const auto remark = FileRemark(FileKind::Script, path_, ScriptTextToFile(text))) {
+    host_.bot().script = std::make_shared<Script>(text, Path());
+    if (const auto remark = FileRemark(FileKind::Script, Path(), ScriptTextToFile(text))) {
         emit ScriptRemarked(ShownPath(*remark));
     }
     RunScript(host_.bot(), EventScriptLoaded);
 }
 
-/// A profile that names this file already, perhaps from its own folder, keeps it as it stands.
 void frmGS::NameInProfile() {
-    Bot& bot = host_.bot();
-    const std::string path = host_.Disk().Absolute(path_);
-    unnamed_ = false;
-    const auto named = FindProfileFile(bot, bot.profile.scriptPath);
-    if (named && host_.Disk().Absolute(*named) == path) return;
-    const auto name = ::NameInProfile(bot.profile.path, FitsCodePage(path_) ? path_ : path);
-    unnamed_ = !name;
-    if (unnamed_) return dialogs_.ShowMessage(this, WhyNotNamed(path), kSaveTitle, Dialogs::Icon::Critical);
-    bot.profile.scriptPath = *name;
-    emit ScriptFileChanged();
+    const ScriptFile::Naming naming = file_.NameInProfile();
+    if (naming == ScriptFile::Naming::Anew) emit ScriptFileChanged();
+    if (naming != ScriptFile::Naming::Impossible) return;
+    const std::string path = host_.Disk().Absolute(Path());
+    dialogs_.ShowMessage(this, WhyNotNamed(path), kSaveTitle, Dialogs::Icon::Critical);
 }
 
-void frmGS::NameScriptFrom(const std::string& profile) {
-    if (!unnamed_) return;
-    const auto name = ::NameInProfile(profile, host_.Disk().Absolute(path_));
-    if (name) host_.bot().profile.scriptPath = *name;
-    unnamed_ = !name;
-}
-
-bool frmGS::Save() { return path_.empty() ? SaveAs() : WriteTo(path_); }
+bool frmGS::Save() { return Path().empty() ? SaveAs() : WriteTo(Path()); }
 
 bool frmGS::SaveAs() {
-    const auto chosen = AskSaveName(dialogs_, this, "Save VorelSpeak Script As...", kFilter, ShownPath(FolderOf(path_)),
-                                    kScriptExtension);
+    const auto chosen = AskSaveName(dialogs_, this, "Save VorelSpeak Script As...", kFilter,
+                                    ShownPath(FolderOf(Path())), kScriptExtension);
     return chosen && WriteTo(TypedPath(*chosen));
 }
 
 /// Asks before characters that a script can't hold are saved as question marks.
-bool frmGS::LosesNothing() {
+/// @return whether it may be saved so
+bool frmGS::AskAboutLosses() {
     for (int line = 0; line < txtScript_->lines(); ++line) {
         const QString text = txtScript_->text(line);
         if (Shown(Typed(text)) == text) continue;
@@ -318,11 +262,10 @@ bool frmGS::LosesNothing() {
 }
 
 bool frmGS::WriteTo(const std::string& path) {
-    if (!LosesNothing()) return false;
-    const std::string file = WithExtension(path, kScriptExtension);
+    if (!AskAboutLosses()) return false;
     const std::string text = ScriptText();
     try {
-        host_.Disk().Write(file, ScriptTextToFile(text));
+        file_.Write(path, text);
     } catch (const RuntimeFault& fault) {
         // The text is still here, and can be saved elsewhere.
         dialogs_.ShowMessage(
@@ -330,7 +273,6 @@ bool frmGS::WriteTo(const std::string& path) {
             kSaveTitle, Dialogs::Icon::Critical);
         return false;
     }
-    path_ = file;
     txtScript_->setModified(false);
     ShowTitle();
     NameInProfile();
@@ -346,43 +288,12 @@ void frmGS::closeEvent(QCloseEvent* event) {
 }
 
 void frmGS::LoadCommands(const std::string& path) {
-    for (int root = 0; root < tvwCmds_->topLevelItemCount(); ++root)
-        qDeleteAll(tvwCmds_->topLevelItem(root)->takeChildren());
     const std::optional<std::string> found = host_.Disk().Find(path);
-    if (!found) return;
-    for (const std::string& line : FileLines(host_.Disk().Read(*found))) {
-        const CommandRoot root = RootOf(line);
-        if (root == CommandRoot::None) continue;
-        auto* const item = new QTreeWidgetItem(tvwCmds_->topLevelItem(static_cast<int>(root)), {Shown(line)});
-        item->setToolTip(0, Shown(line));
-        item->setData(0, Qt::AccessibleDescriptionRole, Shown(CommandPreview(line)));
-    }
+    commands_->ShowCommands(found ? FileLines(host_.Disk().Read(*found)) : std::vector<std::string>());
 }
 
-void frmGS::FilterCommands(const QString& words) {
-    const QStringList wanted = words.split(' ', Qt::SkipEmptyParts);
-    for (int root = 0; root < tvwCmds_->topLevelItemCount(); ++root) {
-        QTreeWidgetItem* const top = tvwCmds_->topLevelItem(root);
-        for (int i = 0; i < top->childCount(); ++i) {
-            const QString text = top->child(i)->text(0);
-            const bool holds = std::all_of(wanted.begin(), wanted.end(), [&](const QString& word) {
-                return text.contains(word, Qt::CaseInsensitive);
-            });
-            top->child(i)->setHidden(!holds);
-        }
-        top->setExpanded(!wanted.isEmpty());
-    }
-}
-
-void frmGS::ShowPreview(const QTreeWidgetItem* item) {
-    const bool isCommand = item && item->parent();
-    lblPreview_->setText(isCommand ? item->data(0, Qt::AccessibleDescriptionRole).toString() : QString());
-    lblPreview_->setAccessibleDescription(lblPreview_->text());
-}
-
-void frmGS::InsertCommand(const QTreeWidgetItem* item) {
-    if (item->childCount() > 0 || !item->text(0).startsWith('(')) return;
-    const QByteArray text = Shown(CommandInsertion(Typed(item->text(0)))).toUtf8();
+void frmGS::InsertCommand(const QString& command) {
+    const QByteArray text = Shown(CommandInsertion(Typed(command))).toUtf8();
     const long caret = txtScript_->SendScintilla(QsciScintilla::SCI_GETCURRENTPOS);
     txtScript_->SendScintilla(QsciScintilla::SCI_INSERTTEXT, static_cast<unsigned long>(caret), text.constData());
     txtScript_->SendScintilla(QsciScintilla::SCI_GOTOPOS, static_cast<unsigned long>(caret + text.size()));

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QTreeWidget>
 #include <string>
 
+#include "ui/ScriptFile.h"
+
+class CommandTree;
 class Dialogs;
 class FindBar;
-class QLabel;
-class QLineEdit;
 class QsciScintilla;
 class QtHost;
 class VorelSpeakLexer;
@@ -51,11 +51,11 @@ class frmGS final : public QMainWindow {
     bool IsDirty() const;
 
     std::string ScriptText() const;
-    const std::string& Path() const { return path_; }
+    const std::string& Path() const { return file_.Path(); }
 
     /// Names a script in the profile that could not be named there, when a profile at another path can.
     /// @param profile  where the profile is about to be saved, absolute, UTF-8
-    void NameScriptFrom(const std::string& profile);
+    void NameScriptFrom(const std::string& profile) { file_.NameFrom(profile); }
 
     /// Fills the tree of commands from the command list.
     /// @param path  UTF-8; a missing file leaves the roots empty
@@ -81,31 +81,25 @@ class frmGS final : public QMainWindow {
   private:
     QtHost& host_;
     Dialogs& dialogs_;
-    std::string path_;  ///< of the script file, UTF-8; empty for a new script
+    ScriptFile file_;
     bool unloading_ = false;
-    bool unnamed_ = false;  ///< the profile, as it lies now, can't name the script
 
     QsciScintilla* txtScript_;
     VorelSpeakLexer* lexer_;
-    QTreeWidget* tvwCmds_;
-    QLineEdit* txtFilter_;
-    QLabel* lblPreview_;
+    CommandTree* commands_;
     FindBar* findBar_;
 
     void BuildText();
-    QWidget* BuildCommands();
     void BuildMenus();
     void FollowPalette();
     void ShowTitle();
     void SetText(const std::string& text);
-    void FilterCommands(const QString& words);
-    void ShowPreview(const QTreeWidgetItem* item);
-    void InsertCommand(const QTreeWidgetItem* item);
+    void InsertCommand(const QString& command);
     void AskForLine();
     void Open();
     void ReadFrom(const std::string& path);
     void NameInProfile();
     void RunText(const std::string& text);
     bool WriteTo(const std::string& path);
-    bool LosesNothing();
+    bool AskAboutLosses();
 };
