@@ -206,13 +206,17 @@ void frmCfg::ShowPage(int page) {
     if (page >= 0) pages_->setCurrentIndex(page);
 }
 
+bool frmCfg::AskToAdd(AddToList add, const QString& prompt, const QString& title) {
+    const auto typed = dialogs_.AskText(this, prompt, title);
+    if (!typed || typed->isEmpty()) return false;
+    const auto refusal = (edit_.*add)(Typed(*typed));
+    if (refusal) dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
+    return !refusal;
+}
+
 void frmCfg::cmdAdd_Map_Click() {
-    const auto typed = dialogs_.AskText(this, "Enter the name of the new active map", "New Active Map");
-    if (!typed || typed->isEmpty()) return;
-    if (const auto refusal = edit_.AddMap(Typed(*typed))) {
-        return dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
-    }
-    ShowList(cmbMaps_, edit_.Maps().entries);
+    if (AskToAdd(&ProfileEdit::AddMap, "Enter the name of the new active map", "New Active Map"))
+        ShowList(cmbMaps_, edit_.Maps().entries);
 }
 
 void frmCfg::cmdDel_Map_Click() {
@@ -222,12 +226,8 @@ void frmCfg::cmdDel_Map_Click() {
 }
 
 void frmCfg::cmdAdd_Owner_Click() {
-    const auto typed = dialogs_.AskText(this, "Enter the name of the new bot owner", "New Bot Owner");
-    if (!typed || typed->isEmpty()) return;
-    if (const auto refusal = edit_.AddOwner(Typed(*typed))) {
-        return dialogs_.ShowMessage(this, Shown(*refusal), "Invalid");
-    }
-    ShowList(cmbOwner_, edit_.Owners().entries);
+    if (AskToAdd(&ProfileEdit::AddOwner, "Enter the name of the new bot owner", "New Bot Owner"))
+        ShowList(cmbOwner_, edit_.Owners().entries);
 }
 
 void frmCfg::cmdDel_Owner_Click() {
@@ -270,21 +270,21 @@ QString frmCfg::FolderOfNamed(const QLineEdit& edit) const {
     return ShownPath(fromProfile ? JoinPath(FolderOf(profile_.path), folder) : folder);
 }
 
-std::optional<std::string> frmCfg::NameOf(const QString& path) {
+std::optional<std::string> frmCfg::NameOrTell(const QString& path) {
     auto name = NameInProfile(profile_.path, TypedPath(path));
     if (!name) dialogs_.ShowMessage(this, WhyNotNamed(TypedPath(path)), "Invalid");
     return name;
 }
 
 void frmCfg::TakeChosen(QLineEdit& edit, const QString& path) {
-    const auto name = NameOf(path);
+    const auto name = NameOrTell(path);
     if (!name) return;
     edit.setText(Shown(*name));
     edit_.MarkChanged();
 }
 
-std::optional<std::string> frmCfg::NameIn(const QLineEdit& edit, const std::string& before) {
-    return edit.text() == Shown(before) ? before : NameOf(edit.text());
+std::optional<std::string> frmCfg::NameOrTell(const QLineEdit& edit, const std::string& before) {
+    return edit.text() == Shown(before) ? before : NameOrTell(edit.text());
 }
 
 void frmCfg::cmdClient_Click() {
@@ -303,8 +303,8 @@ void frmCfg::cmdOK_Click() {
     if (!ProfileEdit::IsUsablePort(Typed(cmbPort_->currentText()))) {
         return dialogs_.ShowMessage(this, tr("The port is a number from 1 to 32767."), "Invalid");
     }
-    const auto client = NameIn(*txtClient_, profile_.clientPath);
-    const auto character = client ? NameIn(*txtINI_, profile_.characterPath) : std::nullopt;
+    const auto client = NameOrTell(*txtClient_, profile_.clientPath);
+    const auto character = client ? NameOrTell(*txtINI_, profile_.characterPath) : std::nullopt;
     if (!client || !character) return;
     edit_.Apply({*client, *character, chkClient_->isChecked(), chkClose_->isChecked(), optSignatureFirst_->isChecked(),
                  Typed(cmbPort_->currentText()), TypedPath(cmbAddress_->currentData().toString())});

@@ -51,9 +51,14 @@ class frmCfg final : public QDialog {
     void ShowProfile();
     void ShowPage(int page);
 
-    /// What the profile is to call a file; nothing, and the user told why, when it can't.
-    std::optional<std::string> NameOf(const QString& path);
-    std::optional<std::string> NameIn(const QLineEdit& edit, const std::string& before);
+    /// What the profile is to call a file; nothing when it can't, and then the user is told why.
+    std::optional<std::string> NameOrTell(const QString& path);
+    std::optional<std::string> NameOrTell(const QLineEdit& edit, const std::string& before);
+
+    /// Asks for a name for one of the profile's lists.
+    /// @return whether it is on the list now; not when it was refused, which the user is told, or cancelled
+    using AddToList = std::optional<std::string> (ProfileEdit::*)(std::string_view);
+    bool AskToAdd(AddToList add, const QString& prompt, const QString& title);
     void TakeChosen(QLineEdit& edit, const QString& path);
     QString FolderOfNamed(const QLineEdit& edit) const;
 
