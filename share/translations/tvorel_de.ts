@@ -373,6 +373,35 @@ Das Profil gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
     </message>
 </context>
 <context>
+    <name>Help</name>
+    <message>
+        <source>How to make a bot is told in guide.md, and every command in language.md, both in %1. Other makers are glad to help in the game&apos;s own bot-making dreams.
+
+Settings and data files are kept in %2.</source>
+        <translation>Wie man einen Bot baut, steht in guide.md, und jeder Befehl in language.md, beide in %1. Andere helfen gern in den Träumen des Spiels, in denen Bots gebaut werden.
+
+Einstellungen und Datendateien liegen in %2.</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>S&amp;prache</translation>
+    </message>
+    <message>
+        <source>&amp;The desktop&apos;s</source>
+        <translation>Die de&amp;s Desktops</translation>
+    </message>
+</context>
+<context>
+    <name>PracticeDoor</name>
+    <message>
+        <source>The practice dream can&apos;t be opened: %1</source>
+        <translation>Der Übungstraum kann nicht geöffnet werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>SessionMenu</name>
     <message>
         <source>S&amp;ession</source>
@@ -447,6 +476,14 @@ Das Profil gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         <source>E&amp;xit</source>
         <translation>&amp;Beenden</translation>
     </message>
+    <message>
+        <source>The bot goes on here. A double click brings the window back.</source>
+        <translation>Der Bot läuft hier weiter. Ein Doppelklick holt das Fenster zurück.</translation>
+    </message>
+    <message>
+        <source>A whisper</source>
+        <translation>Ein Flüstern</translation>
+    </message>
 </context>
 <context>
     <name>UnnamedFile</name>
@@ -462,6 +499,60 @@ Ein Profil, das im selben Ordner oder daneben gespeichert ist, kann die Datei vo
     <message>
         <source>It is too large.</source>
         <translation>Sie ist zu groß.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateOffer</name>
+    <message>
+        <source>The new version has been saved.</source>
+        <translation>Die neue Version ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>The new version was not saved: %1</source>
+        <translation>Die neue Version wurde nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Version %1 is there:
+
+%2
+
+Save it to a place of your choice?</source>
+        <translation>Version %1 ist da:
+
+%2
+
+An einem Ort deiner Wahl speichern?</translation>
+    </message>
+    <message>
+        <source>Save the new version</source>
+        <translation>Neue Version speichern</translation>
+    </message>
+    <message>
+        <source>Archive (*.zip) | *.zip</source>
+        <translation>Archiv (*.zip) | *.zip</translation>
+    </message>
+</context>
+<context>
+    <name>VariableFrame</name>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>Hin&amp;zufügen</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Adds a variable</source>
+        <translation>Fügt eine Variable hinzu</translation>
+    </message>
+    <message>
+        <source>Removes the chosen variable</source>
+        <translation>Entfernt die gewählte Variable</translation>
     </message>
 </context>
 <context>
@@ -830,34 +921,6 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         <translation>Übungstraum auf diesem Computer</translation>
     </message>
     <message>
-        <source>The new version has been saved.</source>
-        <translation>Die neue Version ist gespeichert.</translation>
-    </message>
-    <message>
-        <source>The new version was not saved: %1</source>
-        <translation>Die neue Version wurde nicht gespeichert: %1</translation>
-    </message>
-    <message>
-        <source>Variables</source>
-        <translation>Variablen</translation>
-    </message>
-    <message>
-        <source>&amp;Add</source>
-        <translation>Hin&amp;zufügen</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve</source>
-        <translation>&amp;Entfernen</translation>
-    </message>
-    <message>
-        <source>Adds a variable</source>
-        <translation>Fügt eine Variable hinzu</translation>
-    </message>
-    <message>
-        <source>Removes the chosen variable</source>
-        <translation>Entfernt die gewählte Variable</translation>
-    </message>
-    <message>
         <source>Ends the program</source>
         <translation>Beendet das Programm</translation>
     </message>
@@ -914,34 +977,6 @@ Das Skript gilt als nicht gespeichert; wähle einen anderen Ort dafür.</transla
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>A whisper</source>
-        <translation>Ein Flüstern</translation>
-    </message>
-    <message>
-        <source>Version %1 is there:
-
-%2
-
-Save it to a place of your choice?</source>
-        <translation>Version %1 ist da:
-
-%2
-
-An einem Ort deiner Wahl speichern?</translation>
-    </message>
-    <message>
-        <source>Save the new version</source>
-        <translation>Neue Version speichern</translation>
-    </message>
-    <message>
-        <source>Archive (*.zip) | *.zip</source>
-        <translation>Archiv (*.zip) | *.zip</translation>
-    </message>
-    <message>
-        <source>The bot goes on here. A double click brings the window back.</source>
-        <translation>Der Bot läuft hier weiter. Ein Doppelklick holt das Fenster zurück.</translation>
-    </message>
-    <message>
         <source>%1 could not be started.</source>
         <translation>%1 konnte nicht gestartet werden.</translation>
     </message>
@@ -950,32 +985,12 @@ An einem Ort deiner Wahl speichern?</translation>
         <translation>&quot;%1&quot; wurde nicht gefunden.</translation>
     </message>
     <message>
-        <source>The practice dream can&apos;t be opened: %1</source>
-        <translation>Der Übungstraum kann nicht geöffnet werden: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Language</source>
-        <translation>S&amp;prache</translation>
-    </message>
-    <message>
-        <source>&amp;The desktop&apos;s</source>
-        <translation>Die de&amp;s Desktops</translation>
-    </message>
-    <message>
         <source>The language changes with the next start.</source>
         <translation>Die Sprache wechselt mit dem nächsten Start.</translation>
     </message>
     <message>
         <source>Nothing can be written in %1: neither settings nor unsaved work will be kept.</source>
         <translation>In %1 kann nichts geschrieben werden: Weder Einstellungen noch ungesicherte Arbeit bleiben erhalten.</translation>
-    </message>
-    <message>
-        <source>How to make a bot is told in guide.md, and every command in language.md, both in %1. Other makers are glad to help in the game&apos;s own bot-making dreams.
-
-Settings and data files are kept in %2.</source>
-        <translation>Wie man einen Bot baut, steht in guide.md, und jeder Befehl in language.md, beide in %1. Andere helfen gern in den Träumen des Spiels, in denen Bots gebaut werden.
-
-Einstellungen und Datendateien liegen in %2.</translation>
     </message>
     <message>
         <source>The options can&apos;t be kept: %1</source>

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "platform/DiskFiles.h"
 #include "text/Fault.h"
@@ -94,7 +95,13 @@ void ConsoleFrame::Append(const QString& line) {
     if (!log_.Append(line.toStdString())) lstView_->Lines().Append(tr("The log can't be written any more."));
 }
 
-void ConsoleFrame::Clear() { lstView_->Lines().Clear(); }
+void ConsoleFrame::Clear() {
+    lstView_->Lines().Clear();
+    whenCleared_.removeDuplicates();
+    for (const QString& line : std::exchange(whenCleared_, {})) Append(line);
+}
+
+void ConsoleFrame::ShowWhenCleared(const QString& line) { whenCleared_ << line; }
 
 void ConsoleFrame::ResumeLog() {
     if (const QString log = options_.Get(option::kLogFile); !log.isEmpty()) OpenLog(log);

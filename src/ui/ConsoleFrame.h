@@ -22,7 +22,12 @@ class ConsoleFrame final : public QGroupBox {
 
     /// Shows a line, and logs it.
     void Append(const QString& line);
+
+    /// Empties the console, but for what is to be shown then.
     void Clear();
+
+    /// Keeps a line that would be missed to be shown when the console is cleared the next time, as a session begins.
+    void ShowWhenCleared(const QString& line);
 
     /// Goes on with the log of the last time, or says why it can't.
     void ResumeLog();
@@ -41,6 +46,7 @@ class ConsoleFrame final : public QGroupBox {
     Dialogs& dialogs_;
     ConsoleLog log_;
     QString sought_;
+    QStringList whenCleared_;
     ConsoleView* lstView_;
     QLineEdit* txtView_;
     InputLine* txtSend_;

@@ -55,7 +55,16 @@ constexpr PanelButton kButtons[] = {
 };
 // clang-format on
 
-constexpr const char* kTools[] = {kPlayerEditorTool, kConfigurationTool, kVorelConfigurationTool};
+struct ToolButton {
+    Tool tool;
+    const char* caption;
+};
+
+constexpr ToolButton kTools[] = {
+    {Tool::PlayerEditor, "Furcadia  Player Editor"},
+    {Tool::GameConfiguration, "Furcadia Configuration"},
+    {Tool::VorelConfiguration, "Vorel Configuration"},
+};
 
 constexpr int kToolTab = 2;
 
@@ -123,9 +132,10 @@ ControlPanel::ControlPanel(QWidget* parent) : QGroupBox(parent), tsControls_(new
         connect(button, &QToolButton::clicked, this, [this, tag] { emit CommandChosen(tag); });
         place(row.tab, button, kColumns);
     }
-    for (const char* const tool : kTools) {
-        QToolButton* const button = NewButton(ArrayName("C", counts[kToolTab]), tool, {}, tr("Opens %1").arg(tool));
-        connect(button, &QToolButton::clicked, this, [this, tool] { emit ToolChosen(tool); });
+    for (const auto& [tool, caption] : kTools) {
+        const QString name = ArrayName("C", counts[kToolTab]);
+        QToolButton* const button = NewButton(name, caption, {}, tr("Opens %1").arg(caption));
+        connect(button, &QToolButton::clicked, this, [this, tool = tool] { emit ToolChosen(tool); });
         place(kToolTab, button, 1);
     }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QGroupBox>
-#include <functional>
+
+#include "ui/Tools.h"
 
 class QTabBar;
 
@@ -16,8 +17,8 @@ class ControlPanel final : public QGroupBox {
     /// A command button was clicked; its tag is the whole command.
     void CommandChosen(const QString& tag);
 
-    /// A tool launcher of tab C was clicked, told apart by its caption.
-    void ToolChosen(const QString& caption);
+    /// A tool launcher of tab C was clicked.
+    void ToolChosen(Tool tool);
 
   private:
     QTabBar* tsControls_;
@@ -36,7 +37,3 @@ class EmoticonRow final : public QWidget {
   signals:
     void EmoticonChosen(const QString& tag);
 };
-
-inline constexpr char kPlayerEditorTool[] = "Furcadia  Player Editor";
-inline constexpr char kConfigurationTool[] = "Furcadia Configuration";
-inline constexpr char kVorelConfigurationTool[] = "Vorel Configuration";

@@ -1,6 +1,8 @@
 #include "ui/VariableList.h"
 
 #include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 #include "bot/UserVariables.h"
 #include "ui/ShownText.h"
@@ -70,4 +72,23 @@ void VariableList::RemoveRow() {
     if (!currentItem()) return;
     variables_.Remove(Typed(currentItem()->data(0, kNameRole).toString()));
     Refresh();
+}
+
+VariableFrame::VariableFrame(UserVariables& variables, QWidget* parent) : QGroupBox(tr("Variables"), parent) {
+    auto* const layout = new QVBoxLayout(this);
+    auto* const lvwVars = new VariableList(variables);
+    layout->addWidget(lvwVars, 1);
+    auto* const buttons = new QHBoxLayout;
+    auto* const cmdAddVar = new QPushButton(tr("&Add"));
+    auto* const cmdDelVar = new QPushButton(tr("Remo&ve"));
+    cmdAddVar->setObjectName("cmdAdd_Var");
+    cmdDelVar->setObjectName("cmdDel_Var");
+    cmdAddVar->setAccessibleDescription(tr("Adds a variable"));
+    cmdDelVar->setAccessibleDescription(tr("Removes the chosen variable"));
+    buttons->addWidget(cmdAddVar);
+    buttons->addWidget(cmdDelVar);
+    buttons->addStretch();
+    layout->addLayout(buttons);
+    connect(cmdAddVar, &QPushButton::clicked, lvwVars, &VariableList::AddRow);
+    connect(cmdDelVar, &QPushButton::clicked, lvwVars, &VariableList::RemoveRow);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QGroupBox>
 #include <QTimer>
 #include <QTreeWidget>
-#include <functional>
 
 class UserVariables;
 
@@ -26,4 +26,12 @@ class VariableList final : public QTreeWidget {
     QTimer refresh_;
 
     void TakeOver(QTreeWidgetItem* item, int column);
+};
+
+/// The frame "Variables": the list, and buttons that add to it and take from it.
+class VariableFrame final : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    explicit VariableFrame(UserVariables& variables, QWidget* parent = nullptr);
 };

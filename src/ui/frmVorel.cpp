@@ -1,30 +1,21 @@
 #include "ui/frmVorel.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
-#include <QGroupBox>
+#include <QLabel>
 #include <QMenuBar>
-#include <QProcess>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSplitter>
-#include <QStatusBar>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <chrono>
 #include <cmath>
-#include <utility>
 
 #include "Version.h"
 #include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
 #include "net/Passwords.h"
 #include "platform/WholeFile.h"
-#include "practice/PracticeServer.h"
-#include "practice/Tour.h"
 #include "profile/ProfileFile.h"
 #include "profile/Settings.h"
 #include "send/modSend.h"
@@ -34,12 +25,14 @@
 #include "ui/ControlPanel.h"
 #include "ui/Dialogs.h"
 #include "ui/DocumentDrops.h"
+#include "ui/Help.h"
+#include "ui/LanguageMenu.h"
 #include "ui/MenuItems.h"
 #include "ui/ProgramFolder.h"
 #include "ui/SessionMenu.h"
 #include "ui/ShownText.h"
+#include "ui/StatusPanels.h"
 #include "ui/TrayIcon.h"
-#include "ui/UnnamedFile.h"
 #include "ui/VariableList.h"
 #include "ui/frmCfg.h"
 #include "ui/frmGS.h"
@@ -52,15 +45,6 @@ QList<ServerChoice> Servers() {
     return {{kGameServer, kGameServer}, {frmVorel::tr("Practice dream on this computer"), kPracticeAddress}};
 }
 
-/// Where the guide and the reference lie: installed, beside the source, or else with whoever gave the program away.
-QString DocumentsFolder() {
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const char* const place : {"../share/doc/tandry-vorel/docs", "../../docs"}) {
-        if (const QFileInfo folder(program.filePath(place)); folder.isDir()) return folder.canonicalFilePath();
-    }
-    return "docs";
-}
-
 }  // namespace
 
 frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
@@ -69,7 +53,8 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
       folder_(folder),
       options_(OptionsFile(folder)),
       host_(*this, TypedPath(folder)),
-      updates_(QUrl(QString(kUpdateServer))),
+      practice_(host_),
+      updates_(dialogs, this),
       console_(new ConsoleFrame(options_, dialogs, this)),
       editor_(std::make_unique<frmGS>(host_, dialogs)),
       documents_(this, host_, dialogs, options_, *editor_, folder) {
@@ -83,16 +68,15 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     splitter->setStretchFactor(0, 1);
     setCentralWidget(splitter);
     BuildMenus();
-    BuildStatusBar();
+    panels_ = new StatusPanels(watch_);
+    setStatusBar(panels_);
     connect(console_, &ConsoleFrame::LineTyped, this, &frmVorel::txtSend_Enter);
     connect(console_, &ConsoleFrame::HelpAsked, this, &frmVorel::cmdHelp_Click);
     connect(console_, &ConsoleFrame::NotFound, this,
-            [this](const QString& text) { panelReason_->setText(tr("\"%1\" was not found.").arg(text)); });
+            [this](const QString& text) { panels_->Remark(tr("\"%1\" was not found.").arg(text)); });
     resize(980, 660);
 
-    tray_ = new TrayIcon(this);
-    connect(tray_, &TrayIcon::RestoreChosen, this, &frmVorel::RestoreFromTray);
-    connect(tray_, &TrayIcon::MinimizeChosen, this, &frmVorel::MinimizeToTray);
+    tray_ = new TrayIcon(*this, options_);
     connect(tray_, &TrayIcon::ExitChosen, this, &QWidget::close);
 
     connect(&documents_, &Documents::Told, this, &frmVorel::Announce);
@@ -102,12 +86,9 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(&documents_, &Documents::ProfileSaved, this, &frmVorel::ShowTitle);
     connect(&documents_, &Documents::ProfileSaved, mnuSession_, &SessionMenu::KeepForProfile);
     connect(&documents_, &Documents::EditorWanted, this, &frmVorel::ShowEditor);
-    connect(&updates_, &UpdateCheck::NewerFound, this, &frmVorel::OfferUpdate);
-    connect(&updates_, &UpdateCheck::ArchiveDone, this, [this](const QString& why) {
-        Announce(why.isEmpty() ? tr("The new version has been saved.")
-                               : tr("The new version was not saved: %1").arg(why));
-    });
-    host_.SetAddressResolver([this](std::string& address, int& port) { OpenPractice(address, port); });
+    connect(&updates_, &UpdateOffer::Told, this, &frmVorel::Announce);
+    connect(&practice_, &PracticeDoor::Refused, this, &frmVorel::Announce);
+    connect(&practice_, &PracticeDoor::TourRefused, console_, &ConsoleFrame::ShowWhenCleared);
     ::NewProfile(bot());
     mnuSession_->ShowProfile();
     bot().profile.serverAddress =
@@ -115,7 +96,7 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
                                              [this](const QString& path) { documents_.Open(TypedPath(path)); });
     ShowTitle();
-    ShowStatus();
+    StatusChanged();
 }
 
 frmVorel::~frmVorel() {
@@ -136,24 +117,7 @@ QWidget* frmVorel::BuildRightSide() {
             [this](const QString& tag) { host_.RunHandler([&] { modSend::SendLine(bot(), Typed(tag)); }); });
     connect(panel, &ControlPanel::ToolChosen, this, &frmVorel::cmdC_Click);
 
-    auto* const fmeVars = new QGroupBox(tr("Variables"));
-    auto* const vars = new QVBoxLayout(fmeVars);
-    lvwVars_ = new VariableList(bot().variables);
-    vars->addWidget(lvwVars_, 1);
-    auto* const buttons = new QHBoxLayout;
-    auto* const cmdAddVar = new QPushButton(tr("&Add"));
-    auto* const cmdDelVar = new QPushButton(tr("Remo&ve"));
-    cmdAddVar->setObjectName("cmdAdd_Var");
-    cmdDelVar->setObjectName("cmdDel_Var");
-    cmdAddVar->setAccessibleDescription(tr("Adds a variable"));
-    cmdDelVar->setAccessibleDescription(tr("Removes the chosen variable"));
-    buttons->addWidget(cmdAddVar);
-    buttons->addWidget(cmdDelVar);
-    buttons->addStretch();
-    vars->addLayout(buttons);
-    connect(cmdAddVar, &QPushButton::clicked, lvwVars_, &VariableList::AddRow);
-    connect(cmdDelVar, &QPushButton::clicked, lvwVars_, &VariableList::RemoveRow);
-    layout->addWidget(fmeVars, 1);
+    layout->addWidget(new VariableFrame(bot().variables), 1);
 
     auto* const bottom = new QHBoxLayout;
     auto* const lblLogo = new QLabel("Vorel");
@@ -201,45 +165,13 @@ void frmVorel::BuildMenus() {
     AddItem(*configuration, "mnuCfg", tr("&Vorel Configuration..."), QKeySequence(Qt::CTRL | Qt::Key_Comma),
             [this] { ShowConfiguration(); });
 
-    BuildLanguageMenu(configuration->addMenu(tr("&Language")));
+    auto* const language = new LanguageMenu(options_, configuration);
+    configuration->addMenu(language);
+    connect(language, &LanguageMenu::Chosen, this,
+            [this] { panels_->Remark(tr("The language changes with the next start.")); });
 
     QMenu* const help = AddMenu(*menuBar(), "mnuHelp", tr("&Help"));
     AddItem(*help, "mnuGHelp", "Vorel &Help", QKeySequence::HelpContents, [this] { cmdHelp_Click(); });
-}
-
-void frmVorel::BuildLanguageMenu(QMenu* menu) {
-    struct Language {
-        const char *code, *name;
-    };
-    // Each language by its own name; the empty code is the desktop's language.
-    constexpr Language kLanguages[] = {{"", QT_TR_NOOP("&The desktop's")}, {"en", "&English"}, {"de", "&Deutsch"}};
-    menu->setObjectName("mnuLanguage");
-    auto* const group = new QActionGroup(menu);
-    for (const auto& [code, name] : kLanguages) {
-        QAction* const action = group->addAction(*code == '\0' ? tr(name) : QString(name));
-        action->setCheckable(true);
-        action->setChecked(options_.Get(option::kLanguage) == code);
-        menu->addAction(action);
-        connect(action, &QAction::triggered, this, [this, code = QString(code)] {
-            options_.Set(option::kLanguage, code);
-            panelReason_->setText(tr("The language changes with the next start."));
-        });
-    }
-}
-
-void frmVorel::BuildStatusBar() {
-    auto* const sbVorel = statusBar();
-    sbVorel->setObjectName("sbVorel");
-    const auto panel = [&](const char* name, int stretch) {
-        auto* const label = new QLabel;
-        label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
-        sbVorel->addPermanentWidget(label, stretch);
-        return label;
-    };
-    panelName_ = panel("sbVorel_1", 1);
-    panelConnection_ = panel("sbVorel_2", 1);
-    panelReason_ = panel("sbVorel_3", 3);
 }
 
 // --- what the bot shows ------------------------------------------------------------------------------------------
@@ -248,35 +180,26 @@ void frmVorel::Announce(const QString& line) { console_->Append(line); }
 
 void frmVorel::AnnounceTrouble(const QString& line) {
     Announce(line);
-    lasting_ << line;
+    console_->ShowWhenCleared(line);
 }
 
 void frmVorel::ShowConsoleLine(std::string_view line) {
     const std::string shown = WithoutPasswords(bot(), line);
     Announce(Shown(shown));
     if (!watch_.HasWhisperToTell() || isActiveWindow()) return;
-    // Some desktops take what looks like a tag for one.
-    tray_->showMessage(tr("A whisper"), Shown(shown).replace('<', QChar(0x2039)));
+    tray_->TellWhisper(Shown(shown));
 }
 
-void frmVorel::ClearConsole() {
-    console_->Clear();
-    lasting_.removeDuplicates();
-    for (const QString& line : std::exchange(lasting_, {})) Announce(line);
-}
+void frmVorel::ClearConsole() { console_->Clear(); }
 
 void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
     const auto icon = bot().status.lacksFiles ? Dialogs::Icon::Critical : Dialogs::Icon::None;
     dialogs_.ShowMessage(this, Shown(text), Shown(title), icon);
 }
 
-void frmVorel::StatusChanged() { ShowStatus(); }
-
-void frmVorel::ShowStatus() {
+void frmVorel::StatusChanged() {
     mnuSession_->ShowStatus();
-    panelName_->setText(watch_.BotName());
-    panelConnection_->setText(watch_.Connection());
-    panelReason_->setText(watch_.HowItStands());
+    panels_->ShowStatus();
 }
 
 void frmVorel::EndWithFault(const RuntimeFault& fault) {
@@ -312,7 +235,7 @@ void frmVorel::BeginWork(const std::vector<std::string>& documents) {
     for (const QString& folder : {folder_, OwnFolder(folder_)}) ClearUnfinished(TypedPath(folder));
     options_.SetTeller([this](const QString& why) {
         AnnounceTrouble(tr("The options can't be kept: %1").arg(why));
-        panelReason_->setText(tr("The options can't be kept."));
+        panels_->Remark(tr("The options can't be kept."));
     });
     if (!QFileInfo(folder_).isWritable())
         AnnounceTrouble(
@@ -365,7 +288,7 @@ void frmVorel::closeEvent(QCloseEvent* event) {
     SaveAllSettings();
     const bool inOrder = !documents_.HasFaulted();
     // From the tray: questions are asked in a window that can be seen.
-    if (inOrder && !isVisible() && documents_.HasChanges()) RestoreFromTray();
+    if (inOrder && !isVisible() && documents_.HasChanges()) tray_->RestoreWindow();
     if (inOrder && !documents_.AskToDropChanges(false)) return event->ignore();
     documents_.End();
     if (!documents_.HasFaulted()) host_.Leave();
@@ -377,34 +300,11 @@ void frmVorel::closeEvent(QCloseEvent* event) {
     QCoreApplication::quit();
 }
 
-void frmVorel::OfferUpdate(const QString& version, const QString& text) {
-    const QString question = tr("Version %1 is there:\n\n%2\n\nSave it to a place of your choice?").arg(version, text);
-    if (dialogs_.Ask(this, question, kProductName) != Dialogs::Answer::Yes) return;
-    const auto file = dialogs_.AskSaveFile(this, tr("Save the new version"), tr("Archive (*.zip) | *.zip"), {});
-    if (file) updates_.FetchArchive(*file);
-}
-
 void frmVorel::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isMinimized()) {
-        QTimer::singleShot(0, this, [this] { MinimizeToTray(); });
+        QTimer::singleShot(0, this, [this] { tray_->MinimizeWindow(); });
     }
-}
-
-void frmVorel::MinimizeToTray() {
-    if (QSystemTrayIcon::isSystemTrayAvailable()) tray_->show();  // it may have come after the start
-    if (!tray_->isVisible()) return showMinimized();
-    hide();
-    if (options_.Get(option::kTrayExplained)) return;
-    options_.Set(option::kTrayExplained, true);
-    tray_->showMessage(kProductName, tr("The bot goes on here. A double click brings the window back."));
-}
-
-void frmVorel::RestoreFromTray() {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
 }
 
 // --- what the controls do ----------------------------------------------------------------------------------------
@@ -413,35 +313,13 @@ void frmVorel::txtSend_Enter(const QString& line) {
     host_.RunHandler([&] { host_.session().TypeLine(Typed(line)); });
 }
 
-/// For a program that starts in another folder; as the profile has it when there is no such file.
-QString frmVorel::CharacterFile() {
-    const auto found = FindProfileFile(bot(), bot().profile.characterPath);
-    const bool named = !found || FitsCodePage(host_.Disk().Absolute(*found));
-    return named ? Shown(bot().profile.characterPath) : ShownPath(host_.Disk().Absolute(*found));
+void frmVorel::cmdC_Click(Tool tool) {
+    if (tool == Tool::VorelConfiguration) return ShowConfiguration();
+    const QString refused = StartTool(host_, tool);
+    if (!refused.isEmpty()) Announce(tr("%1 could not be started.").arg(refused));
 }
 
-void frmVorel::cmdC_Click(const QString& caption) {
-    if (caption == kVorelConfigurationTool) return ShowConfiguration();
-    const std::string folder = host_.CurrentFolder();
-    const bool playerEditor = caption == kPlayerEditorTool;
-    const auto program = host_.Disk().Find(JoinPath(folder, playerEditor ? "FurEd.exe" : "config.exe"));
-    if (!program) return;
-    // A bare name would be looked for along the search path.
-    const QString absolute = ShownPath(host_.Disk().Absolute(*program));
-    const QStringList arguments = playerEditor ? QStringList{CharacterFile()} : QStringList();
-    if (!QProcess::startDetached(absolute, arguments, ShownPath(folder))) {
-        Announce(tr("%1 could not be started.").arg(absolute));
-    }
-}
-
-void frmVorel::cmdHelp_Click() {
-    dialogs_.ShowMessage(
-        this,
-        tr("How to make a bot is told in guide.md, and every command in language.md, both in %1. Other makers are glad "
-           "to help in the game's own bot-making dreams.\n\nSettings and data files are kept in %2.")
-            .arg(DocumentsFolder(), folder_),
-        "Help", Dialogs::Icon::Information);
-}
+void frmVorel::cmdHelp_Click() { dialogs_.ShowMessage(this, HelpText(folder_), "Help", Dialogs::Icon::Information); }
 
 void frmVorel::ShowConfiguration() {
     frmCfg configuration(bot().profile, Servers(), dialogs_, this);
@@ -465,20 +343,4 @@ void frmVorel::ShowEditor() {
 
 void frmVorel::RunScriptOnce() {
     host_.RunHandler([this] { RunScript(bot(), EventScriptLoaded); });
-}
-
-void frmVorel::OpenPractice(std::string& address, int& port) {
-    if (address != kPracticeAddress) return;
-    PracticeSettings settings;
-    const std::string tourFile = JoinPath(FolderOf(bot().profile.path), "tour.txt");
-    if (const auto tour = host_.Disk().Find(tourFile)) {
-        TourReading reading = ReadTour(host_.Disk().Read(*tour), *tour);
-        if (!reading.fault.empty()) lasting_ << QString::fromStdString(reading.fault);
-        settings.tour = std::move(reading.tour);
-    }
-    practice_ = std::make_unique<PracticeServer>(std::move(settings));
-    const auto listening = practice_->Listen(0);
-    if (listening.port == 0) Announce(tr("The practice dream can't be opened: %1").arg(listening.fault));
-    address = "127.0.0.1";
-    port = listening.port;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <memory>
 #include <string>
@@ -10,22 +9,20 @@
 #include "platform/QtHost.h"
 #include "ui/Documents.h"
 #include "ui/Options.h"
+#include "ui/PracticeDoor.h"
 #include "ui/SessionWatch.h"
-#include "ui/UpdateCheck.h"
+#include "ui/Tools.h"
+#include "ui/UpdateOffer.h"
 
 class ConsoleFrame;
 class Dialogs;
 class DocumentDrops;
-class PracticeServer;
 class SessionMenu;
+class StatusPanels;
 class QMenu;
 class TrayIcon;
-class VariableList;
 class frmGS;
 struct Settings;
-
-/// Where the address list's practice dream leads; no host has this name.
-inline constexpr char kPracticeAddress[] = "practice dream";
 
 /// The main window: console, input line, control panel, variables, and the menus that start and stop the session.
 /// It owns the bot's host, and lives until the program ends.
@@ -71,17 +68,15 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     Dialogs& dialogs_;
     QString folder_;
     Options options_;
-    std::unique_ptr<PracticeServer> practice_;
     QtHost host_;
     SessionWatch watch_{host_.bot(), options_};
-    UpdateCheck updates_;
-    QStringList lasting_;  ///< to be told when the session's console begins
+    PracticeDoor practice_;
+    UpdateOffer updates_;
 
     ConsoleFrame* console_;
-    VariableList* lvwVars_;
-    QLabel *panelName_, *panelConnection_, *panelReason_;
     QMenu* mnuRecent_;
     SessionMenu* mnuSession_;
+    StatusPanels* panels_;
     std::unique_ptr<frmGS> editor_;
     Documents documents_;
     TrayIcon* tray_;
@@ -89,13 +84,10 @@ class frmVorel final : public QMainWindow, public FrontEnd {
 
     QWidget* BuildRightSide();
     void BuildMenus();
-    void BuildLanguageMenu(QMenu* menu);
-    void BuildStatusBar();
 
     Bot& bot() { return host_.bot(); }
     void ShowTitle();
     void ShowRecentProfiles();
-    void ShowStatus();
     void QuitAfterFault();
 
     void SaveAllSettings();
@@ -103,14 +95,9 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     void MoveTo(const Settings& settings);
 
     void txtSend_Enter(const QString& line);
-    QString CharacterFile();
-    void cmdC_Click(const QString& caption);
+    void cmdC_Click(Tool tool);
     void cmdHelp_Click();
     void ShowConfiguration();
     void ShowEditor();
     void RunScriptOnce();
-    void OpenPractice(std::string& address, int& port);
-    void OfferUpdate(const QString& version, const QString& text);
-    void MinimizeToTray();
-    void RestoreFromTray();
 };
