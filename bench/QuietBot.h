@@ -36,9 +36,6 @@ class QuietHost final : public Host {
     void Connect() override {}
     void Disconnect() override {}
     void ShowConsoleLine(std::string_view) override {}
-    void ClearConsole() override {}
-    void ShowMessage(std::string_view, std::string_view) override {}
-    void StatusChanged() override {}
     void SwitchMovementTimer(bool) override {}
     LocalTime Now() const override { return {}; }
     std::string ShortDate(const LocalTime&) const override { return "1/1/1970"; }

@@ -25,34 +25,6 @@ struct Walk {
     std::int16_t detourReferenceX = 0;  ///< nothing ever sets it
 };
 
-/// What the menus and the status bar of a window show of the session.
-struct SessionStatus {
-    bool canConnect = true, canDisconnect = false, canStandAlone = false;
-    std::string botName;     ///< "|" shown as blanks
-    std::string connection;  ///< "Connected", "Disconnected", or empty before the first connection
-
-    /// How the last session ended: not at all yet, by the bot's own doing, by the server, or by an error.
-    enum class End { NotYet, Asked, ByServer, ByError };
-    End end = End::NotYet;
-    std::string reason;  ///< of an error, in words
-
-    bool lacksFiles = false;  ///< the bot was to connect, but its character or client is not there
-
-    int nextTry = 0;  ///< in how many seconds the bot tries to connect again; 0 when it doesn't
-
-    /// How often running the server has closed the connection before it let the bot in. Once may be the server's own
-    /// trouble, so many times are a refused login.
-    int refusals = 0;
-    static constexpr int kRefusalsToBelieve = 5;
-    bool IsLoginRefused() const { return refusals >= kRefusalsToBelieve; }
-
-    /// Whether the bot is neither connected nor about to be.
-    bool IsIdle() const { return canConnect && nextTry == 0; }
-
-    /// Whether the last connection was lost, refused or could not be had, instead of given up by the bot.
-    bool IsLost() const { return end == End::ByServer || end == End::ByError; }
-};
-
 /// Where the program is in a file that it reads or runs, so that a fault can name the place.
 struct Place {
     std::string file;      ///< UTF-8; empty when nowhere
@@ -78,7 +50,6 @@ struct Bot {
     std::int16_t currentEvent = -1;  ///< the code of the event being handled; -1 while no cause is tested
     ElapsedClock clock;
     Walk walk;
-    SessionStatus status;
     Place place;
     Heard heard;
     bool scriptActs = false;  ///< one of its effects is being carried out: what is sent now, the script sends

@@ -7,7 +7,8 @@
 
 class Files;
 
-/// All that a bot may ask of the world around it. Texts are Windows-1252. A host translates and decides nothing.
+/// All that a script may ask of the world around its bot. Texts are Windows-1252. A host translates and decides
+/// nothing.
 class Host {
   public:
     virtual ~Host() = default;
@@ -24,15 +25,8 @@ class Host {
     virtual void Connect() = 0;
     virtual void Disconnect() = 0;
 
-    /// Appends a line to the console; ClearConsole empties it.
+    /// Appends a line to the console.
     virtual void ShowConsoleLine(std::string_view line) = 0;
-    virtual void ClearConsole() = 0;
-
-    /// Shows a message that the user must acknowledge.
-    virtual void ShowMessage(std::string_view title, std::string_view text) = 0;
-
-    /// Tells that Bot::status (menus, status panels) has changed.
-    virtual void StatusChanged() = 0;
 
     /// Switches the movement timer, whose every tick is modMovement::Tick, on or off.
     virtual void SwitchMovementTimer(bool enabled) = 0;

@@ -3,9 +3,11 @@
 #include <string>
 #include <string_view>
 
-#include "bot/Bot.h"
+#include "net/SessionStatus.h"
 #include "profile/ProfileFile.h"
 #include "text/Fault.h"
+
+struct Bot;
 
 /// A fault in words for standard error (see DescribeFault): UTF-8, control characters put out of action.
 std::string FaultForTerminal(const RuntimeFault& fault, const Bot& bot);

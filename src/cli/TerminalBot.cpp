@@ -46,7 +46,7 @@ void TerminalBot::Record(const std::string& lines) {
 }
 
 std::string TerminalBot::Label() const {
-    const std::string& name = host_.bot().status.botName;
+    const std::string& name = status().botName;
     return name.empty() ? FileNameOf(profilePath_) : ToUtf8(name);
 }
 

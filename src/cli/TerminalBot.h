@@ -45,7 +45,7 @@ class TerminalBot final : public FrontEnd {
 
     void TypeLine(const std::string& line);
 
-    const SessionStatus& status() const { return host_.bot().status; }
+    const SessionStatus& status() const { return host_.session().status(); }
 
     QtHost& host() { return host_; }
 

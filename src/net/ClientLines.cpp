@@ -12,12 +12,18 @@
 
 namespace {
 
+constexpr std::string_view kLogin = "connect ";
+
+/// The first word and the blank behind it, in small letters; empty when there is no blank: "desc" alone is no
+/// description, and goes on to the server.
+std::string WordOf(std::string_view text) { return LowerCase(text.substr(0, text.find(' ') + 1)); }
+
 /// "connect name password"; what is missing at the end is empty.
 void LearnLogin(Bot& bot, std::string_view words) {
     const std::string_view name = words.substr(0, words.find(' '));
     const std::string_view behind = words.substr(std::min(name.size() + 1, words.size()));
     bot.state.password = behind.substr(0, behind.find(' '));
-    SetBotName(bot, name);
+    bot.state.vorel.name = name;
 }
 
 /// "color ", the colour code, and one character each for gender, species and markings
@@ -32,9 +38,8 @@ void LearnColors(Bot& bot, const ServerLine& line) {
 bool FilterClientLine(Bot& bot, std::string_view text) {
     constexpr std::string_view kCommandOfBot = "\"&";
     const ServerLine line(text);
-    // With its blank: "desc" alone is no description, and goes on to the server.
-    const std::string word = LowerCase(text.substr(0, text.find(' ') + 1));
-    if (word == "connect ") {
+    const std::string word = WordOf(text);
+    if (word == kLogin) {
         LearnLogin(bot, text.substr(word.size()));
     } else if (word == "color ") {
         LearnColors(bot, line);
@@ -52,8 +57,4 @@ bool FilterClientLine(Bot& bot, std::string_view text) {
     return true;
 }
 
-void SetBotName(Bot& bot, std::string_view name) {
-    bot.state.vorel.name = name;
-    bot.status.botName = BarsToBlanks(name);
-    bot.host.StatusChanged();
-}
+bool IsLogin(std::string_view line) { return WordOf(line) == kLogin; }

@@ -11,5 +11,5 @@ struct Bot;
 /// @throws RuntimeFault InvalidProcedureCall, when a "color " line is too short; what the script raises
 bool FilterClientLine(Bot& bot, std::string_view line);
 
-/// Makes a name the bot's own and shows it in the status bar.
-void SetBotName(Bot& bot, std::string_view name);
+/// Whether a line of the client is a login, from which FilterClientLine learns the bot's name.
+bool IsLogin(std::string_view line);

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// What a session needs of the machine beyond what its bot needs: sockets, and the local game client. What happens on
-/// the sockets comes back as calls of Session's On… operations. Paths are UTF-8.
+/// What a session needs of the world beyond what its bot needs: sockets, the local game client, and a place to show how
+/// it stands. What happens on the sockets comes back as calls of Session's On… operations. Paths are UTF-8.
 class Link {
   public:
     virtual ~Link() = default;
@@ -47,4 +47,13 @@ class Link {
 
     /// Asks that window to close; nothing happens when it is gone.
     virtual void CloseClientWindow(std::int64_t window) = 0;
+
+    /// Empties the console.
+    virtual void ClearConsole() = 0;
+
+    /// Shows a message that the user must acknowledge. Windows-1252.
+    virtual void ShowMessage(std::string_view title, std::string_view text) = 0;
+
+    /// Tells that Session::status has changed.
+    virtual void StatusChanged() = 0;
 };

@@ -76,21 +76,24 @@ std::string ErrorLine(std::string_view socket, const SocketError& error) {
 }  // namespace
 
 void Session::Connect() {
-    bot_.status.end = SessionStatus::End::NotYet;
+    const bool waited = std::exchange(status_.nextTry, 0) > 0;
+    status_.end = SessionStatus::End::NotYet;
     const bool character = FindProfileFile(bot_, bot_.profile.characterPath).has_value();
     // Without a client to link nobody needs its program.
     const bool client = !bot_.profile.IsClientMode() || FindProfileFile(bot_, bot_.profile.clientPath).has_value();
-    bot_.status.lacksFiles = !character || !client;
-    if (bot_.status.lacksFiles) {
-        bot_.host.ShowMessage(kInvalidSelection, MissingFiles(character, client));
+    status_.lacksFiles = !character || !client;
+    if (status_.lacksFiles) {
+        link_.ShowMessage(kInvalidSelection, MissingFiles(character, client));
     } else if (bot_.profile.owners.empty()) {
-        bot_.host.ShowMessage("Bot Owner",
-                              "You must add at least one name to the bot owners list before attempting to connect.");
+        link_.ShowMessage("Bot Owner",
+                          "You must add at least one name to the bot owners list before attempting to connect.");
     } else if (bot_.profile.IsClientMode()) {
         ConnectThroughClient();
     } else {
         ConnectStandAlone();
     }
+    // The profile may have lost what it takes meanwhile: then the try is over before it has begun.
+    if (waited && status_.canConnect) ShowMenus(false, false);
 }
 
 void Session::ConnectStandAlone() {
@@ -130,7 +133,7 @@ void Session::GiveUpClient(const std::string& why) {
     link_.CloseClient();
     awaitsClientWindow_ = false;
     bot_.host.ShowConsoleLine(why);
-    bot_.status.reason = why;
+    status_.reason = why;
     ShowIdle(SessionStatus::End::ByError);
 }
 
@@ -143,6 +146,7 @@ void Session::ConnectServer(const std::string& address) {
 }
 
 void Session::Disconnect() {
+    status_.nextTry = 0;
     ShowIdle(SessionStatus::End::Asked);
     link_.CloseClient();
     if (bot_.host.IsServerConnected()) {
@@ -159,7 +163,20 @@ void Session::StandAlone() {
     // Until the client has logged in through the bot there is no session that could go on without it.
     if (!bot_.host.IsServerConnected()) return Disconnect();
     link_.CloseClient();
-    ShowMenus(bot_.status.canDisconnect, false);
+    ShowMenus(status_.canDisconnect, false);
+}
+
+void Session::AwaitNextTry(int seconds) {
+    status_.nextTry = seconds;
+    status_.canDisconnect = true;
+    bot_.host.ShowConsoleLine("Trying again in " + std::to_string(seconds) + (seconds == 1 ? " second." : " seconds."));
+    link_.StatusChanged();
+}
+
+void Session::CallOffNextTry() {
+    if (std::exchange(status_.nextTry, 0) == 0) return;
+    status_.canDisconnect = false;
+    link_.StatusChanged();
 }
 
 void Session::TypeLine(std::string_view text) {
@@ -167,7 +184,7 @@ void Session::TypeLine(std::string_view text) {
     HeardMark heard(bot_, Heard::From::User, text);
     // What is typed goes the way of a client's lines, so that "desc " and "\"&" mean the same here.
     const auto sendIfAccepted = [this](std::string_view line) {
-        if (FilterClientLine(bot_, line)) modSend::SendLine(bot_, line);
+        if (Accepts(line)) modSend::SendLine(bot_, line);
     };
     if (text.starts_with('-') || text.starts_with(':')) {
         sendIfAccepted(text);
@@ -175,7 +192,7 @@ void Session::TypeLine(std::string_view text) {
         sendIfAccepted(text.substr(1));
     } else if (text.starts_with('/')) {
         sendIfAccepted("wh " + std::string(text.substr(1)));
-    } else if (FilterClientLine(bot_, text)) {
+    } else if (Accepts(text)) {
         modSend::SendSpeech(bot_, text);
     }
 }
@@ -196,9 +213,9 @@ void Session::OnServerConnected() {
     ResetState(bot_.state);
     LearnPassword();
     bot_.clock.seconds = bot_.clock.minutes = 0;  // the hours never count, see ElapsedClock
-    bot_.status.connection = "Connected";
+    status_.connection = "Connected";
     ShowMenus(true, bot_.host.IsClientConnected());
-    bot_.host.ClearConsole();
+    link_.ClearConsole();
     if (!bot_.profile.IsClientMode()) LogIn();
     LookForClientWindow();
     RunScript(bot_, EventConnected);
@@ -212,7 +229,8 @@ void Session::LogIn() {
     bot_.state.password = character.password;
     bot_.state.vorel.desc = character.desc;
     bot_.state.vorel.looks = character.looks;
-    SetBotName(bot_, character.name);
+    bot_.state.vorel.name = character.name;
+    ShowBotName();
     // At once, without a greeting of the server to wait for. Kept on purpose: the sender ends every text with a line
     // feed of its own, so an empty line follows the two.
     modSend::SendLine(
@@ -244,7 +262,7 @@ void Session::TellDropped(std::string_view whose, PacketLines& lines) {
 
 void Session::OnServerClosed() {
     Note(Happening::Closed);
-    bot_.status.refusals = WasLetIn() ? 0 : bot_.status.refusals + 1;
+    status_.refusals = WasLetIn() ? 0 : status_.refusals + 1;
     ShowIdle(SessionStatus::End::ByServer);
     CloseClientWindow();
     RunScript(bot_, EventDisconnected);
@@ -253,8 +271,8 @@ void Session::OnServerClosed() {
 void Session::OnServerError(const SocketError& error) {
     // Kept on purpose: a broken connection raises no EventDisconnected, an orderly end does.
     link_.CloseServer();
-    if (WasLetIn()) bot_.status.refusals = 0;
-    bot_.status.reason = error.description;
+    if (WasLetIn()) status_.refusals = 0;
+    status_.reason = error.description;
     ShowIdle(SessionStatus::End::ByError);
     bot_.host.ShowConsoleLine(ErrorLine("Server", error));
 }
@@ -273,7 +291,7 @@ void Session::OnClientRequest() {
 
 void Session::OnClientConnected() {
     Note(Happening::Linked);
-    ShowMenus(bot_.status.canDisconnect, true);
+    ShowMenus(status_.canDisconnect, true);
 }
 
 void Session::OnClientData(std::string_view packet, bool goesOn) {
@@ -283,7 +301,7 @@ void Session::OnClientData(std::string_view packet, bool goesOn) {
     for (const std::string& line : lines) {
         Note(Happening::ClientLine, line);
         HeardMark heard(bot_, Heard::From::Client, line);
-        if (!FilterClientLine(bot_, line)) continue;
+        if (!Accepts(line)) continue;
         toServer_.append(line).append("\n");
         // Behind its line, as if each had come in a packet of its own: so a recording can be played line by line.
         if (bot_.host.IsServerConnected()) Note(Happening::Sent, line);
@@ -295,7 +313,7 @@ void Session::OnClientData(std::string_view packet, bool goesOn) {
 
 void Session::OnClientClosed() {
     Note(Happening::Unlinked);
-    ShowMenus(bot_.status.canDisconnect, false);
+    ShowMenus(status_.canDisconnect, false);
     ForgetClientWindow();
 }
 
@@ -318,17 +336,28 @@ void Session::Note(Happening happening, std::string_view text) {
     if (observer_) observer_->Note(happening, text);
 }
 
+bool Session::Accepts(std::string_view line) {
+    const bool goesOn = FilterClientLine(bot_, line);
+    if (IsLogin(line)) ShowBotName();
+    return goesOn;
+}
+
+void Session::ShowBotName() {
+    status_.botName = BarsToBlanks(bot_.state.vorel.name);
+    link_.StatusChanged();
+}
+
 void Session::ShowMenus(bool inSession, bool canStandAlone) {
-    bot_.status.canConnect = !inSession;
-    bot_.status.canDisconnect = inSession;
-    bot_.status.canStandAlone = canStandAlone;
-    bot_.host.StatusChanged();
+    status_.canConnect = !inSession;
+    status_.canDisconnect = inSession;
+    status_.canStandAlone = canStandAlone;
+    link_.StatusChanged();
 }
 
 void Session::ShowIdle(SessionStatus::End end) {
     link_.TakeAwayProxyFile();
-    bot_.status.end = end;
-    bot_.status.connection = "Disconnected";
+    status_.end = end;
+    status_.connection = "Disconnected";
     ShowMenus(false, false);
 }
 

@@ -7,6 +7,7 @@
 #include "bot/Bot.h"
 #include "net/PacketLines.h"
 #include "net/SessionObserver.h"
+#include "net/SessionStatus.h"
 
 class Link;
 
@@ -35,6 +36,15 @@ class Session {
 
     /// Lets the linked client go and keeps the bot connected.
     void StandAlone();
+
+    /// Shows that the bot will connect again in so many seconds; they end with Connect, Disconnect or CallOffNextTry.
+    void AwaitNextTry(int seconds);
+    void CallOffNextTry();
+
+    /// Lets a login that was refused be tried again.
+    void ForgetRefusals() { status_.refusals = 0; }
+
+    const SessionStatus& status() const { return status_; }
 
     /// What the user typed on the console: "-" and ":" begin raw commands, "`" precedes one, "/" begins a whisper,
     /// anything else is said.
@@ -67,6 +77,7 @@ class Session {
   private:
     Bot& bot_;
     Link& link_;
+    SessionStatus status_;
     std::int64_t clientWindow_ = 0;
     bool awaitsClientWindow_ = false;  ///< the client was started, and its window had not opened yet
     std::string serverAddress_;
@@ -83,6 +94,8 @@ class Session {
     void LearnPassword();
     void LogIn();
     bool WasLetIn() const;
+    bool Accepts(std::string_view line);
+    void ShowBotName();
     void ShowMenus(bool inSession, bool canStandAlone);
     void ShowIdle(SessionStatus::End end);
     void GiveUpClient(const std::string& why);

@@ -107,7 +107,7 @@ void QtHost::Leave() {
 
 void QtHost::ConnectNow() {
     reconnector_.Forget();
-    bot_.status.refusals = 0;
+    session_.ForgetRefusals();
     Dial();
 }
 
@@ -118,33 +118,23 @@ void QtHost::StayConnected(bool stays) {
 
 void QtHost::StopTrying() {
     reconnector_.Forget();
-    if (std::exchange(bot_.status.nextTry, 0) == 0) return;
-    bot_.status.canDisconnect = false;
-    StatusChanged();
+    session_.CallOffNextTry();
 }
 
 void QtHost::Dial() {
     if (leaving_) return;
-    const bool waited = std::exchange(bot_.status.nextTry, 0) > 0;
-    RunHandler([&] {
-        session_.Connect();
-        // The profile may have lost what it takes meanwhile: then the try is over before it has begun.
-        if (!waited || !bot_.status.canConnect) return;
-        bot_.status.canDisconnect = false;
-        StatusChanged();
-    });
+    RunHandler([this] { session_.Connect(); });
     TryAgainIfLost();
 }
 
 void QtHost::Connect() {
-    const SessionStatus& status = bot_.status;
+    const SessionStatus& status = session_.status();
     if (leaving_ || !status.IsIdle() || status.IsLoginRefused()) return;
     TryAgain(Reconnector::First::AtOnce);
 }
 
 void QtHost::Disconnect() {
     reconnector_.EndPause();
-    bot_.status.nextTry = 0;
     session_.Disconnect();
 }
 
@@ -152,16 +142,12 @@ void QtHost::TryAgain(Reconnector::First first) {
     constexpr int kSecondMs = 1000;
     const int pause = reconnector_.Schedule(first);
     if (pause == 0) return session_.Connect();
-    const int seconds = (pause + kSecondMs / 2) / kSecondMs;
-    bot_.status.nextTry = seconds;
-    bot_.status.canDisconnect = true;
-    ShowConsoleLine("Trying again in " + std::to_string(seconds) + (seconds == 1 ? " second." : " seconds."));
-    StatusChanged();
+    session_.AwaitNextTry((pause + kSecondMs / 2) / kSecondMs);
 }
 
 /// After a session's end, when the script has had its turn to connect by itself.
 void QtHost::TryAgainIfLost() {
-    const SessionStatus& status = bot_.status;
+    const SessionStatus& status = session_.status();
     if (!stays_ || ended_ || leaving_ || !status.IsIdle() || !status.IsLost() || status.IsLoginRefused()) return;
     RunHandler([this] { TryAgain(Reconnector::First::AfterAPause); });
 }

@@ -31,6 +31,7 @@ class QtHost final : public QObject, public Host, public Link {
     Bot& bot() { return bot_; }
     const Bot& bot() const { return bot_; }
     Session& session() { return session_; }
+    const Session& session() const { return session_; }
 
     /// Lets an address that stands for something else be put right before it is connected to.
     using AddressResolver = std::function<void(std::string& address, int& port)>;
@@ -70,9 +71,6 @@ class QtHost final : public QObject, public Host, public Link {
     void Connect() override;
     void Disconnect() override;
     void ShowConsoleLine(std::string_view line) override { frontEnd_.ShowConsoleLine(line); }
-    void ClearConsole() override { frontEnd_.ClearConsole(); }
-    void ShowMessage(std::string_view title, std::string_view text) override { frontEnd_.ShowMessage(title, text); }
-    void StatusChanged() override { frontEnd_.StatusChanged(); }
     void SwitchMovementTimer(bool enabled) override;
     LocalTime Now() const override;
     std::string ShortDate(const LocalTime& time) const override;
@@ -94,6 +92,9 @@ class QtHost final : public QObject, public Host, public Link {
     std::string StartClient(const std::string& program, const std::string& characterFile) override;
     std::int64_t FindClientWindow() override;
     void CloseClientWindow(std::int64_t window) override { clientWindow_->Close(window); }
+    void ClearConsole() override { frontEnd_.ClearConsole(); }
+    void ShowMessage(std::string_view title, std::string_view text) override { frontEnd_.ShowMessage(title, text); }
+    void StatusChanged() override { frontEnd_.StatusChanged(); }
 
     /// The folder that programs are started from; empty before a client was started.
     const std::string& CurrentFolder() const { return currentFolder_; }

@@ -47,9 +47,6 @@ class RehearsalHost final : public Host, public Link {
     void Connect() override;
     void Disconnect() override;
     void ShowConsoleLine(std::string_view line) override { Tell("console", line); }
-    void ClearConsole() override {}
-    void ShowMessage(std::string_view title, std::string_view text) override;
-    void StatusChanged() override {}
     void SwitchMovementTimer(bool enabled) override { movementTimer_ = enabled; }
     LocalTime Now() const override;
     std::string ShortDate(const LocalTime& time) const override;
@@ -71,6 +68,9 @@ class RehearsalHost final : public Host, public Link {
     std::string StartClient(const std::string&, const std::string&) override { return {}; }
     std::int64_t FindClientWindow() override { return 0; }
     void CloseClientWindow(std::int64_t) override {}
+    void ClearConsole() override {}
+    void ShowMessage(std::string_view title, std::string_view text) override;
+    void StatusChanged() override {}
 
   private:
     Files& disk_;

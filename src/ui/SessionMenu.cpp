@@ -31,7 +31,7 @@ SessionMenu::SessionMenu(QtHost& host, Options& options, Dialogs& dialogs, QWidg
 }
 
 void SessionMenu::ShowStatus() {
-    const SessionStatus& status = host_.bot().status;
+    const SessionStatus& status = host_.session().status();
     connect_->setEnabled(status.canConnect);
     disconnect_->setEnabled(status.canDisconnect);
     standAlone_->setEnabled(status.canStandAlone);

@@ -3,27 +3,27 @@
 #include "bot/Bot.h"
 #include "bot/Host.h"
 #include "net/FaultText.h"
+#include "net/SessionStatus.h"
 #include "ui/Options.h"
 #include "ui/ShownText.h"
 
-QString SessionWatch::BotName() const { return Shown(bot_.status.botName); }
+QString SessionWatch::BotName() const { return Shown(status_.botName); }
 
 QString SessionWatch::Connection() const {
-    return bot_.status.connection.empty() ? "Disconnected" : Shown(bot_.status.connection);
+    return status_.connection.empty() ? "Disconnected" : Shown(status_.connection);
 }
 
 QString SessionWatch::HowItStands() const {
-    const SessionStatus& status = bot_.status;
-    if (!status.canConnect) return bot_.host.IsServerConnected() ? QString() : tr("Connecting...");
+    if (!status_.canConnect) return bot_.host.IsServerConnected() ? QString() : tr("Connecting...");
     QString reason;
-    if (status.end == SessionStatus::End::ByServer && status.refusals > 0) {
+    if (status_.end == SessionStatus::End::ByServer && status_.refusals > 0) {
         reason = tr("The server has ended the connection before the bot was let in: check its name and password.");
-    } else if (status.end == SessionStatus::End::ByServer) {
+    } else if (status_.end == SessionStatus::End::ByServer) {
         reason = tr("The server has ended the connection.");
-    } else if (status.end == SessionStatus::End::ByError) {
-        reason = tr("No connection: %1").arg(Shown(status.reason));
+    } else if (status_.end == SessionStatus::End::ByError) {
+        reason = tr("No connection: %1").arg(Shown(status_.reason));
     }
-    if (status.nextTry > 0) reason += " " + tr("Trying again in %n second(s).", nullptr, status.nextTry);
+    if (status_.nextTry > 0) reason += " " + tr("Trying again in %n second(s).", nullptr, status_.nextTry);
     return reason;
 }
 

@@ -6,6 +6,7 @@
 class Options;
 class RuntimeFault;
 struct Bot;
+struct SessionStatus;
 
 /// What there is to tell of a bot's session: how it stands, why it has ended and when it is tried again, and whether it
 /// was a whisper. It goes by the bot's state and shows nothing itself.
@@ -13,7 +14,8 @@ class SessionWatch {
     Q_DECLARE_TR_FUNCTIONS(SessionWatch)
 
   public:
-    SessionWatch(const Bot& bot, const Options& options) : bot_(bot), options_(options) {}
+    SessionWatch(const Bot& bot, const SessionStatus& status, const Options& options)
+        : bot_(bot), status_(status), options_(options) {}
 
     QString BotName() const;
 
@@ -32,5 +34,6 @@ class SessionWatch {
 
   private:
     const Bot& bot_;
+    const SessionStatus& status_;
     const Options& options_;
 };

@@ -193,7 +193,7 @@ void frmVorel::ShowConsoleLine(std::string_view line) {
 void frmVorel::ClearConsole() { console_->Clear(); }
 
 void frmVorel::ShowMessage(std::string_view title, std::string_view text) {
-    const auto icon = bot().status.lacksFiles ? Dialogs::Icon::Critical : Dialogs::Icon::None;
+    const auto icon = host_.session().status().lacksFiles ? Dialogs::Icon::Critical : Dialogs::Icon::None;
     dialogs_.ShowMessage(this, Shown(text), Shown(title), icon);
 }
 

@@ -69,7 +69,7 @@ class frmVorel final : public QMainWindow, public FrontEnd {
     QString folder_;
     Options options_;
     QtHost host_;
-    SessionWatch watch_{host_.bot(), options_};
+    SessionWatch watch_{host_.bot(), host_.session().status(), options_};
     PracticeDoor practice_;
     UpdateOffer updates_;
 

@@ -58,7 +58,7 @@ class Parting : public ClientMode, public testing::WithParamInterface<PartingCas
 TEST_P(Parting, EndsTheClientOrTheSessionOrBoth) {
     Link();
     GetParam().part(*this);
-    EXPECT_TRUE(Eventually([&] { return !host.bot().status.canStandAlone; }));
+    EXPECT_TRUE(Eventually([&] { return !host.session().status().canStandAlone; }));
     EXPECT_TRUE(leash.Hears(GetParam().clientTells));
     EXPECT_EQ(ClosesWindow(), GetParam().closesWindow);
     EXPECT_EQ(host.IsServerConnected(), GetParam().staysInGame);
@@ -134,7 +134,7 @@ TEST_F(ClientMode, AClientThatCantBeStartedEndsTheSessionWithAReason) {
         QFile::setPermissions(files.Path("client.txt"), permissions);
         host.ConnectNow();
         EXPECT_EQ(screen.Count(reason), 1) << testing::PrintToString(screen.lines);
-        EXPECT_TRUE(host.bot().status.canConnect);
+        EXPECT_TRUE(host.session().status().canConnect);
     }
 }
 

@@ -55,7 +55,7 @@ class BusyGreeter : public GreeterBench {
         Changeable all = {
             {"client", std::to_string(bot.profile.connectClient)},
             {"connected", host.IsServerConnected() ? "yes" : "no"},
-            {"connecting", bot.status.canDisconnect && !host.IsServerConnected() ? "yes" : "no"},
+            {"connecting", session.status().canDisconnect && !host.IsServerConnected() ? "yes" : "no"},
             {"maps", bot.profile.maps},
             {"owners", bot.profile.owners},
             {"walk", host.IsMovementTimerEnabled() ? target : "none"},

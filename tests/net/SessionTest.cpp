@@ -57,7 +57,7 @@ class ReadyBot : public RehearsalBot {
 
     /// What the menus Connect, Disconnect and Stand Alone Mode allow, in this order.
     std::string Menus() const {
-        const SessionStatus& status = bot.status;
+        const SessionStatus& status = session.status();
         return std::string(status.canConnect ? "C" : "-") + (status.canDisconnect ? "D" : "-") +
                (status.canStandAlone ? "S" : "-");
     }
@@ -72,7 +72,7 @@ TEST(Session, StandAloneConnectsAsConfiguredAndLogsInAsTheCharacterFileSays) {
     EXPECT_EQ(bot.TakeTold(), Told{"link connect elsewhere:6000"});
     bot.AcceptServer();
     EXPECT_EQ(bot.told.front(), "sent connect Bot|One made-up");
-    EXPECT_EQ(bot.bot.status.botName, "Bot One");
+    EXPECT_EQ(bot.session.status().botName, "Bot One");
     bot.TakeTold();
     std::string& character = bot.files.contents["bots/bot.ini"];
     character = "name=Old\r\nname=New";
@@ -135,7 +135,7 @@ TEST(Session, PacketsAreRelayedWholeAfterTheBotsOwnReaction) {
                                     "sent connect New|Bot secret past", "sent color 9876543210abc"}));
     EXPECT_EQ(bot.bot.state.vorel.name, "New|Bot");
     EXPECT_EQ(bot.bot.state.password, "secret");
-    EXPECT_EQ(bot.bot.status.botName, "New Bot");
+    EXPECT_EQ(bot.session.status().botName, "New Bot");
 }
 
 TEST(Session, SplitLinesAreDroppedUnlessKept) {

@@ -43,7 +43,7 @@ TEST_F(QtHostTest, AFloodLosesNoLineAndLeavesOthersTheirTurn) {
     shown = 0;
     server.Say(flood);
     server.Close();
-    ASSERT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+    ASSERT_TRUE(Eventually([&] { return host.session().status().canConnect; }));
     host.Disconnect();
     expected.emplace_back("gone");
     EXPECT_EQ(screen.lines, expected) << "what was said before the end still counts";
@@ -69,7 +69,7 @@ TEST_F(QtHostTest, LetsAServerGoThatDoesNotRead) {
     server.bots[0]->setReadBufferSize(1);
     for (int i = 0; i < 200; ++i) host.WriteToServer(std::string(100000, 'x') + "\n");
     EXPECT_TRUE(host.IsServerConnected()) << "whoever writes is not interrupted";
-    EXPECT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+    EXPECT_TRUE(Eventually([&] { return host.session().status().canConnect; }));
     EXPECT_THAT(screen.lines, ElementsAre("Server Socket Error 0: more than 1 MiB of what was sent has not been read "
                                           "(0: 127.0.0.1)"));
 }
@@ -80,7 +80,7 @@ TEST_F(QtHostTest, AResetIsNoOrderlyEndButWhatCameBeforeStillCounts) {
     ASSERT_TRUE(Eventually([&] { return screen.Count("still heard") == 1; }));
     server.Say("(the last words\n");
     server.Reset();
-    EXPECT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+    EXPECT_TRUE(Eventually([&] { return host.session().status().canConnect; }));
     EXPECT_THAT(screen.lines,
                 ElementsAre("A line of the server was left out: it was longer than 1 MiB.", "still heard",
                             "the last words", "Server Socket Error 1: the connection was broken off (104: 127.0.0.1)"));
@@ -98,17 +98,17 @@ TEST_F(QtHostTest, GivesUpAHostThatDoesNotAnswer) {
     host.ConnectNow();
     for (const auto& [timer, word] : {std::pair{"tmrSilence", "has not answered yet"},
                                       {"tmrAnswer", "Server Socket Error 5: there was no answer within 20 seconds"}}) {
-        EXPECT_FALSE(host.bot().status.canConnect);
+        EXPECT_FALSE(host.session().status().canConnect);
         Timer(timer)->start(0);
         EXPECT_TRUE(Eventually([&] { return screen.Count(word) == 1; })) << word;
     }
-    EXPECT_TRUE(host.bot().status.canConnect);
+    EXPECT_TRUE(host.session().status().canConnect);
 }
 
 TEST_F(QtHostTest, AScriptsTriesToConnectAgainComeAfterGrowingPauses) {
     const QString script = files.Write("bot.vs", ScriptText("(0:2) gone,\r\n (5:0) reconnect.\r\n (5:0) reconnect."));
     LoadProfile(host.bot(), files.Path("bot.tvm").toStdString());
-    const SessionStatus& status = host.bot().status;
+    const SessionStatus& status = host.session().status();
     LogIn();
     server.Close();
     ASSERT_TRUE(server.Hears("desc ", 1)) << "the first try comes at once";
@@ -162,8 +162,8 @@ TEST_F(QtHostTest, StaysConnectedUntilItsLoginIsRefused) {
         ASSERT_TRUE(server.Hears("desc ", session));
         server.Close(session);
     }
-    ASSERT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
-    EXPECT_TRUE(host.bot().status.IsLoginRefused());
+    ASSERT_TRUE(Eventually([&] { return host.session().status().canConnect; }));
+    EXPECT_TRUE(host.session().status().IsLoginRefused());
     EXPECT_FALSE(IsPausing());
 
     LogIn();
@@ -171,12 +171,12 @@ TEST_F(QtHostTest, StaysConnectedUntilItsLoginIsRefused) {
     ASSERT_TRUE(Eventually([&] { return !host.bot().state.mapFile.empty(); }));
     server.Close(6);
     ASSERT_TRUE(Eventually([&] { return IsPausing(); })) << "and the user may try again";
-    EXPECT_EQ(host.bot().status.refusals, 0);
+    EXPECT_EQ(host.session().status().refusals, 0);
     files.Write("bot.ini", "");
     QFile::remove(files.Path("bot.ini"));
     Timer("tmrReconnect")->start(0);
-    ASSERT_TRUE(Eventually([&] { return host.bot().status.IsIdle(); }));
-    EXPECT_FALSE(host.bot().status.canDisconnect);
+    ASSERT_TRUE(Eventually([&] { return host.session().status().IsIdle(); }));
+    EXPECT_FALSE(host.session().status().canDisconnect);
 }
 
 TEST(Reconnector, PausesGrowToFiveMinutesAndVaryByAQuarter) {
@@ -201,8 +201,8 @@ TEST_F(QtHostTest, TellsOfAConnectionThatCantBeMade) {
         screen.lines.clear();
         host.session().SetServer("127.0.0.1", port);
         host.ConnectNow();
-        EXPECT_FALSE(host.bot().status.canConnect);
-        EXPECT_TRUE(Eventually([&] { return host.bot().status.canConnect; }));
+        EXPECT_FALSE(host.session().status().canConnect);
+        EXPECT_TRUE(Eventually([&] { return host.session().status().canConnect; }));
         EXPECT_THAT(screen.lines, ElementsAre(std::string("Server Socket Error 0: ") + why + " (0: 127.0.0.1)"))
             << "and nothing is gone that never was";
     }
@@ -245,7 +245,7 @@ TEST_F(QtHostTest, LeadsOneClientToTheServer) {
     client.write("wh Ann bye\n");
     client.disconnectFromHost();
     EXPECT_TRUE(server.Hears("hi\nwh Ann bye\n"));
-    EXPECT_TRUE(Eventually([&] { return !host.bot().status.canStandAlone; }));
+    EXPECT_TRUE(Eventually([&] { return !host.session().status().canStandAlone; }));
     EXPECT_TRUE(host.IsServerConnected());
 }
 

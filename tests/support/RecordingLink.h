@@ -47,6 +47,10 @@ class RecordingLink final : public Link {
     std::int64_t FindClientWindow() override { return window; }
     void CloseClientWindow(std::int64_t handle) override { Tell("close window " + std::to_string(handle)); }
 
+    void ClearConsole() override {}
+    void ShowMessage(std::string_view title, std::string_view text) override { host_.ShowMessage(title, text); }
+    void StatusChanged() override {}
+
     std::vector<std::int16_t> ports;  ///< the ones that were tried
 
   private:

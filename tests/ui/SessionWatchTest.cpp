@@ -14,7 +14,7 @@ class SessionWatched : public testing::Test, public BotFiles, public FrontEnd {
   protected:
     Options options{Path("options.json")};
     QtHost host{*this, Path().toStdString()};
-    SessionWatch watch{host.bot(), options};
+    SessionWatch watch{host.bot(), host.session().status(), options};
     std::string shown, told;
 
     void ShowConsoleLine(std::string_view line) override {
