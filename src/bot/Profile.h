@@ -5,11 +5,10 @@
 #include <string_view>
 #include <vector>
 
-/// The game server's name, and the port the game has always used.
-inline constexpr char kGameServer[] = "lightbringer.furcadia.com";
+/// The port the game has always used.
 inline constexpr std::int16_t kDefaultPort = 6000;
 
-/// What is saved in a ".tvm" file, Windows-1252 as it stands there, and the choices made beside it.
+/// What is saved in a ".tvm" file, Windows-1252 as it stands there.
 struct Profile {
     std::string path;                       ///< of the ".tvm" file, absolute, UTF-8; empty while it has no name yet
     std::string clientPath, characterPath;  ///< as written in the file
@@ -21,8 +20,6 @@ struct Profile {
     std::string scriptPath;
     std::vector<std::string> ignores;
     bool dirty = false;  ///< changed since it was last saved; not stored
-
-    std::string serverAddress = kGameServer;  ///< chosen in the configuration; not stored
 
     bool IsClientMode() const { return connectClient == 1; }
 

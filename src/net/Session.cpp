@@ -100,7 +100,7 @@ void Session::ConnectStandAlone() {
     ShowMenus(true, false);
     link_.CloseServer();
     link_.CloseClient();
-    ConnectServer(bot_.profile.serverAddress);
+    ConnectServer(chosenServer_);
 }
 
 void Session::ConnectThroughClient() {

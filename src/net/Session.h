@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "bot/Bot.h"
 #include "net/PacketLines.h"
@@ -10,6 +11,9 @@
 #include "net/SessionStatus.h"
 
 class Link;
+
+/// The game server's name.
+inline constexpr char kGameServer[] = "lightbringer.furcadia.com";
 
 /// What a socket says of its failure.
 struct SocketError {
@@ -63,10 +67,15 @@ class Session {
     void OnClientClosed();
     void OnClientError(const SocketError& error);
 
-    /// Connects elsewhere than the profile says, in both modes.
-    /// @param address  empty: where the profile says
+    /// Connects elsewhere than was chosen, in both modes.
+    /// @param address  empty: as chosen
     /// @param port     0: the profile's
     void SetServer(std::string address, int port);
+
+    /// The server that stand-alone mode connects to, as its user has chosen it: for as long as the program runs, and no
+    /// part of any profile. At first it is the game's own.
+    void ChooseServer(std::string address) { chosenServer_ = std::move(address); }
+    const std::string& ChosenServer() const { return chosenServer_; }
 
     /// Tells an observer of everything that arrives; nullptr for none.
     void SetObserver(SessionObserver* observer) { observer_ = observer; }
@@ -80,7 +89,7 @@ class Session {
     SessionStatus status_;
     std::int64_t clientWindow_ = 0;
     bool awaitsClientWindow_ = false;  ///< the client was started, and its window had not opened yet
-    std::string serverAddress_;
+    std::string chosenServer_ = kGameServer, serverAddress_;
     int serverPort_ = 0;
     PacketLines serverLines_, clientLines_;
     std::string toClient_, toServer_;  ///< to be relayed when the packet has come to its end

@@ -89,6 +89,5 @@ void ProfileEdit::Apply(const Fields& fields) {
     profile_.closeClient = fields.closeClient ? 1 : 0;
     profile_.signatureFirst = fields.signatureFirst;
     if (IsUsablePort(fields.port)) profile_.port = RoundTo16(LeadingNumber(fields.port));
-    profile_.serverAddress = fields.serverAddress;
     if (profile_ != before) MarkChanged();
 }

@@ -44,7 +44,6 @@ class ProfileEdit {
         std::string clientPath, characterPath;
         bool connectClient = false, closeClient = false, signatureFirst = false;
         std::string port;  ///< as it stands in the box
-        std::string serverAddress;
     };
 
     /// Whether a text begins with a number from 1 to 32767, which is what a profile can hold as its port.

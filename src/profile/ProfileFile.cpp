@@ -183,7 +183,6 @@ void SaveProfile(Bot& bot, const std::string& path) {
 void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes) {
     Profile profile;
     profile.path = path;
-    profile.serverAddress = bot.profile.serverAddress;
     profile.dirty = true;
     bool inIgnores = false;
     for (const std::string& line : FileLines(bytes)) {

@@ -78,9 +78,7 @@ void Documents::Begin(const std::string& recent, const std::vector<std::string>&
 void Documents::NewProfile() {
     if (!AskToDropChanges()) return;
     host_.StopTrying();
-    const std::string address = bot().profile.serverAddress;
     ::NewProfile(bot());
-    bot().profile.serverAddress = address;
     editor_.NewScript();
     emit ProfileTakenUp();
 }
@@ -126,9 +124,7 @@ void Documents::OpenProfileFile(const std::string& path) {
     }
     opened_.start();
     host_.RunHandler([&] {
-        const std::string address = bot().profile.serverAddress;
         const ProfileLoad load = LoadProfile(bot(), absolute);
-        bot().profile.serverAddress = address;
         ShowLoaded(load, absolute);
     });
 }

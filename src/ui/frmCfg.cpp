@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedLayout>
+#include <utility>
 
 #include "bot/Files.h"
 #include "bot/ProfilePaths.h"
@@ -45,8 +46,9 @@ void ShowList(QComboBox* box, const std::vector<std::string>& entries) {
 
 }  // namespace
 
-frmCfg::frmCfg(Profile& profile, const QList<ServerChoice>& servers, Dialogs& dialogs, QWidget* parent)
-    : QDialog(parent), profile_(profile), edit_(profile), dialogs_(dialogs) {
+frmCfg::frmCfg(Profile& profile, std::string& server, const QList<ServerChoice>& servers, Dialogs& dialogs,
+               QWidget* parent)
+    : QDialog(parent), profile_(profile), server_(server), edit_(profile), dialogs_(dialogs) {
     setObjectName("frmCfg");
     setWindowTitle("Tandry Vorel Configuration");
     lstCfg_ = Named(new QListWidget, "lstCfg", tr("Pages"), tr("Chooses which page of the configuration is shown"));
@@ -192,7 +194,7 @@ void frmCfg::BuildIgnores() {
 void frmCfg::ShowProfile() {
     txtClient_->setText(Shown(profile_.clientPath));
     txtINI_->setText(Shown(profile_.characterPath));
-    cmbAddress_->setCurrentIndex(std::max(0, cmbAddress_->findData(ShownPath(profile_.serverAddress))));
+    cmbAddress_->setCurrentIndex(std::max(0, cmbAddress_->findData(ShownPath(server_))));
     cmbPort_->setCurrentText(QString::number(profile_.port));
     ShowList(cmbOwner_, edit_.Owners().entries);
     ShowList(cmbMaps_, edit_.Maps().entries);
@@ -307,6 +309,8 @@ void frmCfg::cmdOK_Click() {
     const auto character = client ? NameOrTell(*txtINI_, profile_.characterPath) : std::nullopt;
     if (!client || !character) return;
     edit_.Apply({*client, *character, chkClient_->isChecked(), chkClose_->isChecked(), optSignatureFirst_->isChecked(),
-                 Typed(cmbPort_->currentText()), TypedPath(cmbAddress_->currentData().toString())});
+                 Typed(cmbPort_->currentText())});
+    const std::string server = TypedPath(cmbAddress_->currentData().toString());
+    if (std::exchange(server_, server) != server) edit_.MarkChanged();
     accept();
 }

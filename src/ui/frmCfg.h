@@ -27,10 +27,13 @@ class frmCfg final : public QDialog {
     Q_OBJECT
 
   public:
-    frmCfg(Profile& profile, const QList<ServerChoice>& servers, Dialogs& dialogs, QWidget* parent = nullptr);
+    /// @param server  the chosen one of the servers, Windows-1252
+    frmCfg(Profile& profile, std::string& server, const QList<ServerChoice>& servers, Dialogs& dialogs,
+           QWidget* parent = nullptr);
 
   private:
     Profile& profile_;
+    std::string& server_;
     ProfileEdit edit_;
     Dialogs& dialogs_;
 

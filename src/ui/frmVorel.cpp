@@ -91,8 +91,8 @@ frmVorel::frmVorel(Dialogs& dialogs, const QString& folder, QWidget* parent)
     connect(&practice_, &PracticeDoor::TourRefused, console_, &ConsoleFrame::ShowWhenCleared);
     ::NewProfile(bot());
     mnuSession_->ShowProfile();
-    bot().profile.serverAddress =
-        TypedPath(options_.Get(option::kServerAddress).isEmpty() ? kGameServer : options_.Get(option::kServerAddress));
+    const QString server = options_.Get(option::kServerAddress);
+    if (!server.isEmpty()) host_.session().ChooseServer(TypedPath(server));
     drops_ = std::make_unique<DocumentDrops>(QList<QWidget*>{this, editor_.get()},
                                              [this](const QString& path) { documents_.Open(TypedPath(path)); });
     ShowTitle();
@@ -221,7 +221,7 @@ void frmVorel::ShowTitle() { setWindowTitle(ShownPath(WindowTitle(bot()))); }
 // --- profiles ----------------------------------------------------------------------------------------------------
 
 void frmVorel::Start(const std::vector<std::string>& documents, bool practice) {
-    if (practice) bot().profile.serverAddress = kPracticeAddress;
+    if (practice) host_.session().ChooseServer(kPracticeAddress);
     host_.RunHandler([&] { BeginWork(documents); });
     if (documents_.HasFaulted()) {
         QuitAfterFault();  // again, since a question that was open then has taken the first for itself
@@ -322,9 +322,11 @@ void frmVorel::cmdC_Click(Tool tool) {
 void frmVorel::cmdHelp_Click() { dialogs_.ShowMessage(this, HelpText(folder_), "Help", Dialogs::Icon::Information); }
 
 void frmVorel::ShowConfiguration() {
-    frmCfg configuration(bot().profile, Servers(), dialogs_, this);
+    std::string server = host_.session().ChosenServer();
+    frmCfg configuration(bot().profile, server, Servers(), dialogs_, this);
     configuration.exec();
-    options_.Set(option::kServerAddress, ShownPath(bot().profile.serverAddress));
+    host_.session().ChooseServer(server);
+    options_.Set(option::kServerAddress, ShownPath(server));
 }
 
 void frmVorel::ShowEditor() {

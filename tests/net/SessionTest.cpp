@@ -25,7 +25,7 @@ class ReadyBot : public RehearsalBot {
         bot.profile.characterPath = "BOT.ini";
         bot.profile.clientPath = "game/client.exe";
         bot.profile.owners = "Ann";
-        bot.profile.serverAddress = "elsewhere";
+        session.ChooseServer("elsewhere");
         SetScript({"(0:1) in,", "(5:2) {2 [vorel.name]}", "(0:2) out,", "(5:2) {3}", "(0:6) whispered,", "(5:2) {7}",
                    "(0:46) a command,", "(5:2) {47 [message]}"});
     }

@@ -53,7 +53,7 @@ TEST(ProfileEdit, AppliesUsablePortsAndNoEmptyEntries) {
     for (const auto& [typed, port] : {std::pair{"32767", 32767}, {"32768", 6000}, {"0", 6000}, {"", 6000}}) {
         Profile profile;
         profile.owners = "Ann, , Bob";
-        ProfileEdit(profile).Apply({"", "", false, false, false, typed, kGameServer});
+        ProfileEdit(profile).Apply({"", "", false, false, false, typed});
         EXPECT_EQ(profile.port, port) << typed;
         EXPECT_EQ(profile.owners, "Ann, Bob");
     }

@@ -105,7 +105,8 @@ TEST_P(Accessibility, OfEveryWindow) {
     ChooseInEditor("mnuFind");
     ExpectAccessible(Editor());
 
-    frmCfg form(bot().profile, {{"First", "a.example"}}, dialogs);
+    std::string server;
+    frmCfg form(bot().profile, server, {{"First", "a.example"}}, dialogs);
     auto& pages = Named<QListWidget>(form, "lstCfg");
     for (int page = 0; page < pages.count(); ++page) {
         pages.setCurrentRow(page);

@@ -45,7 +45,7 @@ TEST_F(Program, OpensAndSavesProfilesByTheMenu) {
     EXPECT_EQ(ConsoleText(), "ready\nready\n") << "once as it was loaded, once more for Run";
     Choose("mnuNew");
     EXPECT_EQ(window->windowTitle() + Editor().windowTitle(), title + "VorelSpeak Script Editor[*]");
-    EXPECT_EQ(bot().profile.serverAddress, kPracticeAddress) << "no part of the profile";
+    EXPECT_EQ(window->host().session().ChosenServer(), kPracticeAddress) << "no part of the profile";
     OpenRecent(0);
     EXPECT_EQ(bot().profile.ignores, std::vector<std::string>{"Mean One"}) << "that way they are read";
 
@@ -88,7 +88,8 @@ TEST_F(Program, NamesFilesFromTheProfileWhoseWholePathItCannotHold) {
     EXPECT_TRUE(Open(home + "my.vs").startsWith("critical [Save Script] " + refusal + "my.vs"));
     EXPECT_EQ(bot().profile.scriptPath, "");
     const auto choose = [&](const QString& file) {
-        frmCfg form(bot().profile, {}, dialogs);
+        std::string server;
+        frmCfg form(bot().profile, server, {}, dialogs);
         const QString told = dialogs.During({Path(file)}, [&] { dialogs.Choose(form, "cmdINI"); });
         dialogs.Choose(form, "cmdOK");
         return told.section('|', -1);

@@ -19,17 +19,17 @@ constexpr char kBefore[] =
 class Configuration : public Desk {
   protected:
     std::unique_ptr<frmCfg> form;
+    std::string server = "b.example";
 
     void SetUp() override {
         Write("configured.tvm", kBefore);
         Start();
         Desk::Open("configured.tvm");
-        bot().profile.serverAddress = "b.example";
         Open();
     }
     void Open() {
         const QList<ServerChoice> servers = {{"First", "a.example"}, {"Second", "b.example"}};
-        form = std::make_unique<frmCfg>(bot().profile, servers, dialogs);
+        form = std::make_unique<frmCfg>(bot().profile, server, servers, dialogs);
         form->show();
     }
     template <typename Control>
@@ -43,7 +43,7 @@ class Configuration : public Desk {
         return Entries(*The<QComboBox>("cmbOwner").model()) + "; " + Entries(*The<QComboBox>("cmbMaps").model()) +
                "; " + Entries(*The<QListWidget>("lstIgnores").model());
     }
-    std::string Written() const { return ProfileBytes(bot().profile) + bot().profile.serverAddress; }
+    std::string Written() const { return ProfileBytes(bot().profile) + server; }
 };
 
 TEST_F(Configuration, AsksRefusesAndEditsItsLists) {
@@ -122,7 +122,7 @@ TEST_F(Configuration, ShowsItsPagesAndOffersTheGameFirstThenThePracticeDream) {
     });
     Choose("cmdC_2");
     Start();
-    EXPECT_EQ(bot().profile.serverAddress, kGameServer) << "kept for the next start";
+    EXPECT_EQ(window->host().session().ChosenServer(), kGameServer) << "kept for the next start";
 }
 
 }  // namespace

@@ -164,7 +164,7 @@ int main(int argc, char** argv) {
     frmVorel window(dialogs, folder.path());
     window.Start();
     window.OpenDocument(TypedPath(arguments[4]));
-    window.host().bot().profile.serverAddress = kPracticeAddress;
+    window.host().session().ChooseServer(kPracticeAddress);
     window.show();
     window.host().RunHandler([&] { window.host().Connect(); });
     WaitForLines(window, arguments[6].toInt());
