@@ -18,7 +18,7 @@ constexpr char kSplitLineAdvice[] =
 TerminalBot::TerminalBot(std::string profilePath, const std::string& folder, ConsoleOutput& output, Owner owner)
     : profilePath_(std::move(profilePath)), output_(output), owner_(std::move(owner)), host_(*this, folder) {}
 
-TerminalBot::~TerminalBot() { host_.SetObserver(nullptr); }
+TerminalBot::~TerminalBot() { host_.session().SetObserver(nullptr); }
 
 bool TerminalBot::Load() {
     for (const std::string& folder : {host_.ProgramFolder(), FolderOf(profilePath_)}) ClearUnfinished(folder);
@@ -37,7 +37,7 @@ std::optional<std::string> TerminalBot::RecordTo(const std::string& path) {
     std::optional<std::string> opened = recordFile_.Open(path);
     if (!opened) return std::nullopt;
     recording_ = std::make_unique<Recording>(host_.bot(), [this](const std::string& lines) { Record(lines); });
-    host_.SetObserver(recording_.get());
+    host_.session().SetObserver(recording_.get());
     return opened;
 }
 

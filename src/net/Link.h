@@ -1,8 +1,23 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+
+/// What a socket says of its failure. Windows-1252.
+struct SocketError {
+    int number = 0;
+    std::string description;
+    int systemCode = 0;
+    std::string source;
+};
+
+/// Why a program that is there could not be started.
+struct StartRefusal {
+    bool mayBeRun = true;  ///< as far as its file's permissions go
+    std::string reason;    ///< the system's; Windows-1252
+};
 
 /// What a session needs of the world beyond what its bot needs: sockets, the local game client, and a place to show how
 /// it stands. What happens on the sockets comes back as calls of Session's On… operations. Paths are UTF-8.
@@ -10,8 +25,9 @@ class Link {
   public:
     virtual ~Link() = default;
 
-    /// Begins to connect to the game server; an empty address is the game server's own (kGameServer, or the numeric
-    /// address the program was built with).
+    /// Begins to connect to the game server.
+    /// @param address  Windows-1252
+    /// @param port     one that is none fails like any other error of the socket
     virtual void ConnectServer(const std::string& address, int port) = 0;
 
     /// Close without a word to the session.
@@ -39,11 +55,12 @@ class Link {
     virtual void TakeAwayProxyFile() = 0;
 
     /// Starts the client's program with the character file, its window shown as usual.
-    /// @return why that can't be done, in plain words; empty when it was started
-    virtual std::string StartClient(const std::string& program, const std::string& characterFile) = 0;
+    /// @return why that can't be done; nothing when it was started
+    virtual std::optional<StartRefusal> StartClient(const std::string& program, const std::string& characterFile) = 0;
 
-    /// The handle of the window of the client that was started last; 0 when it has none, or none yet.
-    virtual std::int64_t FindClientWindow() = 0;
+    /// The handle of the window of the client that was started last; 0 when it has none, or none yet, and nothing where
+    /// windows of other programs can't be found.
+    virtual std::optional<std::int64_t> FindClientWindow() = 0;
 
     /// Asks that window to close; nothing happens when it is gone.
     virtual void CloseClientWindow(std::int64_t window) = 0;

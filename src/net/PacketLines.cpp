@@ -2,6 +2,12 @@
 
 #include "text/Text.h"
 
+std::vector<std::string> WrittenLines(std::string_view bytes) {
+    std::vector<std::string> lines = Split(bytes, "\n");
+    if (lines.back().empty()) lines.pop_back();
+    return lines;
+}
+
 std::vector<std::string> PacketLines::Take(std::string_view packet, bool goesOn) {
     if (skips_) {
         const std::size_t end = packet.find('\n');

@@ -5,6 +5,10 @@
 #include <utility>
 #include <vector>
 
+/// The lines of what is written in one piece, without their line feeds; what follows the last one counts only when
+/// there is something.
+std::vector<std::string> WrittenLines(std::string_view bytes);
+
 /// Cuts what arrives on a socket into lines. The protocol reader takes a packet as a whole. Kept on purpose: what
 /// follows the last line feed of a packet is dropped, unless it is to be kept for the next one (`--keep-split-lines`).
 /// Carriage returns stay.

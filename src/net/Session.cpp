@@ -4,16 +4,18 @@
 #include <utility>
 #include <vector>
 
+#include "Version.h"
 #include "bot/Bot.h"
 #include "bot/Files.h"
 #include "bot/Host.h"
 #include "bot/Place.h"
 #include "bot/ProfilePaths.h"
 #include "engine/Dispatcher.h"
+#include "movement/modMovement.h"
 #include "net/CharacterFile.h"
 #include "net/ClientLines.h"
-#include "net/Link.h"
 #include "net/ServerLines.h"
+#include "net/SessionTexts.h"
 #include "send/modSend.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
@@ -27,13 +29,6 @@ constexpr int kPortDraws = 1000;  // then hardly a port can be free, and waiting
 
 /// How much of a packet is held back until the rest of it has come, before it is relayed.
 constexpr std::size_t kMostHeldBack = std::size_t{64} * 1024;
-
-/// What to tell the user when a file that connecting needs is not there; empty when all are.
-std::string_view MissingFiles(bool character, bool client) {
-    if (!character && !client) return "Select a valid Furcadia client and character before attempting to connect.";
-    if (!character) return "Select a valid Furcadia character before attempting to connect.";
-    return client ? "" : "Select a valid Furcadia client before attempting to connect.";
-}
 
 /// Listens on a random port from 1000 to 9999; a port that is taken is drawn again.
 /// @return the port; nothing when none could be had
@@ -66,11 +61,6 @@ void ResetState(BotState& state) {
     state.player = state.look = state.vorel = {};
     state.playerTag = "";
     state.password = "";
-}
-
-std::string ErrorLine(std::string_view socket, const SocketError& error) {
-    return std::string(socket) + " Socket Error " + std::to_string(error.number) + ": " + error.description + " (" +
-           std::to_string(error.systemCode) + ": " + error.source + ")";
 }
 
 }  // namespace
@@ -116,12 +106,12 @@ void Session::ConnectThroughClient() {
     link_.EnterFolder(folder);
     const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
     if (!port) {
-        GiveUpClient("No port on this computer is free for the Furcadia client to connect to.");
+        GiveUpClient(std::string(kNoFreePort));
         return;
     }
     link_.WriteProxyFile(JoinPath(folder, kProxyFile), "localhost " + std::to_string(*port) + "\r\n");
-    if (const std::string refusal = link_.StartClient(program, character); !refusal.empty()) {
-        GiveUpClient("The Furcadia client could not be started: " + refusal);
+    if (const auto refusal = link_.StartClient(program, character)) {
+        GiveUpClient(ClientRefusedLine(program, *refusal));
         return;
     }
     clientWindow_ = 0;
@@ -137,12 +127,16 @@ void Session::GiveUpClient(const std::string& why) {
     ShowIdle(SessionStatus::End::ByError);
 }
 
-void Session::ConnectServer(const std::string& address) {
+/// @param address  empty for the game's own server: by its name, or the numeric address the program was built with
+void Session::ConnectServer(std::string address) {
     LearnPassword();
     serverLines_.Clear();
     toClient_.clear();
-    link_.ConnectServer(serverAddress_.empty() ? address : serverAddress_,
-                        serverPort_ == 0 ? bot_.profile.port : serverPort_);
+    if (!serverAddress_.empty()) address = serverAddress_;
+    int port = serverPort_ == 0 ? bot_.profile.port : serverPort_;
+    if (resolver_) resolver_(address, port);
+    if (address.empty()) address = *kClientModeServer == '\0' ? kGameServer : kClientModeServer;
+    link_.ConnectServer(address, port);
 }
 
 void Session::Disconnect() {
@@ -169,7 +163,7 @@ void Session::StandAlone() {
 void Session::AwaitNextTry(int seconds) {
     status_.nextTry = seconds;
     status_.canDisconnect = true;
-    bot_.host.ShowConsoleLine("Trying again in " + std::to_string(seconds) + (seconds == 1 ? " second." : " seconds."));
+    bot_.host.ShowConsoleLine(NextTryLine(seconds));
     link_.StatusChanged();
 }
 
@@ -256,7 +250,7 @@ void Session::OnServerData(std::string_view packet, bool goesOn) {
 
 void Session::TellDropped(std::string_view whose, PacketLines& lines) {
     for (std::size_t dropped = lines.TakeDropped(); dropped > 0; --dropped) {
-        bot_.host.ShowConsoleLine("A line of " + std::string(whose) + " was left out: it was longer than 1 MiB.");
+        bot_.host.ShowConsoleLine(LeftOutLine(whose));
     }
 }
 
@@ -275,6 +269,19 @@ void Session::OnServerError(const SocketError& error) {
     status_.reason = error.description;
     ShowIdle(SessionStatus::End::ByError);
     bot_.host.ShowConsoleLine(ErrorLine("Server", error));
+}
+
+void Session::OnServerSilent(std::string_view address, int givenUpAfter) {
+    bot_.host.ShowConsoleLine(SilenceLine(address, givenUpAfter));
+}
+
+void Session::NoteSent(std::string_view bytes) {
+    if (!observer_) return;
+    for (const std::string& line : WrittenLines(bytes)) Note(Happening::Sent, line);
+}
+
+void Session::OnBraked(const SendBrake::Report& report) {
+    if (const std::string line = BrakeLine(report); !line.empty()) bot_.host.ShowConsoleLine(line);
 }
 
 /// The game sends the map of the dream to whoever is let in.
@@ -322,6 +329,16 @@ void Session::OnClientError(const SocketError& error) {
     ForgetClientWindow();
 }
 
+void Session::OnScriptTick() {
+    Note(Happening::ScriptTick);
+    ScriptTimerTick(bot_);
+}
+
+void Session::OnWalkTick() {
+    Note(Happening::WalkStep);
+    modMovement::Tick(bot_);
+}
+
 void Session::SetServer(std::string address, int port) {
     serverAddress_ = std::move(address);
     serverPort_ = port;
@@ -364,8 +381,13 @@ void Session::ShowIdle(SessionStatus::End end) {
 /// A program takes its time to open its window, so what was not there when the client was started is looked for again.
 void Session::LookForClientWindow() {
     if (!awaitsClientWindow_) return;
-    clientWindow_ = link_.FindClientWindow();
+    const std::optional<std::int64_t> window = link_.FindClientWindow();
+    clientWindow_ = window.value_or(0);
     awaitsClientWindow_ = clientWindow_ <= 0;
+    // Told once the server is connected, for that is when the console is cleared.
+    if (window || toldNoWindows_ || !bot_.host.IsServerConnected() || bot_.profile.closeClient != 1) return;
+    toldNoWindows_ = true;
+    bot_.host.ShowConsoleLine(kNoClientWindow);
 }
 
 void Session::CloseClientWindow() {

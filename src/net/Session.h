@@ -1,27 +1,20 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "bot/Bot.h"
+#include "net/Link.h"
 #include "net/PacketLines.h"
+#include "net/SendBrake.h"
 #include "net/SessionObserver.h"
 #include "net/SessionStatus.h"
 
-class Link;
-
 /// The game server's name.
 inline constexpr char kGameServer[] = "lightbringer.furcadia.com";
-
-/// What a socket says of its failure.
-struct SocketError {
-    int number = 0;
-    std::string description;
-    int systemCode = 0;
-    std::string source;
-};
 
 /// The connection of one bot: to the game server, and to a local client when one is linked. In stand-alone mode the
 /// bot logs in by itself; in client mode the client calls here, and every line passes through in both directions.
@@ -61,11 +54,23 @@ class Session {
     void OnServerClosed();
     void OnServerError(const SocketError& error);
 
+    /// @param givenUpAfter  the seconds after which a server that does not answer is given up
+    void OnServerSilent(std::string_view address, int givenUpAfter);
+
+    /// What was sent to the server, whole lines, and what the brake says of the script's.
+    void NoteSent(std::string_view bytes);
+    void OnBraked(const SendBrake::Report& report);
+
     void OnClientRequest();
     void OnClientConnected();
     void OnClientData(std::string_view packet, bool goesOn = false);
     void OnClientClosed();
     void OnClientError(const SocketError& error);
+
+    // The two timers.
+
+    void OnScriptTick();
+    void OnWalkTick();
 
     /// Connects elsewhere than was chosen, in both modes.
     /// @param address  empty: as chosen
@@ -77,7 +82,11 @@ class Session {
     void ChooseServer(std::string address) { chosenServer_ = std::move(address); }
     const std::string& ChosenServer() const { return chosenServer_; }
 
-    /// Tells an observer of everything that arrives; nullptr for none.
+    /// Lets an address that stands for something else be put right before it is connected to.
+    using AddressResolver = std::function<void(std::string& address, int& port)>;
+    void SetAddressResolver(AddressResolver resolver) { resolver_ = std::move(resolver); }
+
+    /// Tells an observer of everything that arrives, is sent, and ticks; nullptr for none.
     void SetObserver(SessionObserver* observer) { observer_ = observer; }
 
     /// Keeps the unended line at the end of a packet for the next packet, instead of dropping it.
@@ -89,8 +98,10 @@ class Session {
     SessionStatus status_;
     std::int64_t clientWindow_ = 0;
     bool awaitsClientWindow_ = false;  ///< the client was started, and its window had not opened yet
+    bool toldNoWindows_ = false;
     std::string chosenServer_ = kGameServer, serverAddress_;
     int serverPort_ = 0;
+    AddressResolver resolver_;
     PacketLines serverLines_, clientLines_;
     std::string toClient_, toServer_;  ///< to be relayed when the packet has come to its end
     SessionObserver* observer_ = nullptr;
@@ -99,7 +110,7 @@ class Session {
     void TellDropped(std::string_view whose, PacketLines& lines);
     void ConnectStandAlone();
     void ConnectThroughClient();
-    void ConnectServer(const std::string& address);
+    void ConnectServer(std::string address);
     void LearnPassword();
     void LogIn();
     bool WasLetIn() const;

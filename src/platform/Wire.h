@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "net/Session.h"
+#include "net/Link.h"
 #include "platform/LinuxTcp.h"
 
 /// One connection of a bot: to the game server, or from the local client. It keeps its bounds whatever the other side

@@ -2,21 +2,13 @@
 
 #include <ctime>
 #include <utility>
-#include <vector>
 
+#include "net/PacketLines.h"
 #include "net/Session.h"
-#include "text/Text.h"
 
 namespace {
 
 std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
-
-/// The lines of a write: what follows the last line feed counts only when there is something.
-std::vector<std::string> WrittenLines(std::string_view bytes) {
-    std::vector<std::string> lines = Split(bytes, "\n");
-    if (lines.back().empty()) lines.pop_back();
-    return lines;
-}
 
 }  // namespace
 

@@ -65,8 +65,8 @@ class RehearsalHost final : public Host, public Link {
     void EnterFolder(const std::string&) override {}
     void WriteProxyFile(const std::string&, std::string_view) override {}
     void TakeAwayProxyFile() override {}
-    std::string StartClient(const std::string&, const std::string&) override { return {}; }
-    std::int64_t FindClientWindow() override { return 0; }
+    std::optional<StartRefusal> StartClient(const std::string&, const std::string&) override { return {}; }
+    std::optional<std::int64_t> FindClientWindow() override { return 0; }
     void CloseClientWindow(std::int64_t) override {}
     void ClearConsole() override {}
     void ShowMessage(std::string_view title, std::string_view text) override;

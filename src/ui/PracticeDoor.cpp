@@ -5,7 +5,7 @@
 #include "practice/Tour.h"
 
 PracticeDoor::PracticeDoor(QtHost& host) : host_(host) {
-    host.SetAddressResolver([this](std::string& address, int& port) {
+    host.session().SetAddressResolver([this](std::string& address, int& port) {
         if (address != kPracticeAddress) return;
         port = Open();
         address = "127.0.0.1";

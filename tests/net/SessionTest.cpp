@@ -100,7 +100,7 @@ TEST(Session, ClientModeWaitsForTheClientAndGoesToTheGamesOwnServer) {
     EXPECT_EQ(bot.Menus(), "-DS");
     bot.session.OnClientRequest();
     bot.session.OnClientConnected();
-    EXPECT_EQ(bot.TakeTold(), Told{"link connect :80"});
+    EXPECT_EQ(bot.TakeTold(), Told{"link connect " + std::string(kGameServer) + ":80"});
     bot.AcceptServer();
     EXPECT_EQ(bot.told, Told{"console 2 "});  // the client logs in
     EXPECT_EQ(bot.Menus(), "-DS");

@@ -12,7 +12,6 @@ class RecordingLink final : public Link {
     explicit RecordingLink(RehearsalHost& host) : host_(host) {}
 
     int takenPorts = 0;  ///< so many draws of a port meet a taken one
-    std::string startRefusal;
     std::int64_t window = 0;
 
     void ConnectServer(const std::string& address, int port) override {
@@ -40,11 +39,11 @@ class RecordingLink final : public Link {
     void TakeAwayProxyFile() override {
         if (std::exchange(hasProxyFile_, false)) Tell("take away");
     }
-    std::string StartClient(const std::string& program, const std::string& characterFile) override {
+    std::optional<StartRefusal> StartClient(const std::string& program, const std::string& characterFile) override {
         Tell("start " + program + " " + characterFile);
-        return startRefusal;
+        return std::nullopt;
     }
-    std::int64_t FindClientWindow() override { return window; }
+    std::optional<std::int64_t> FindClientWindow() override { return window; }
     void CloseClientWindow(std::int64_t handle) override { Tell("close window " + std::to_string(handle)); }
 
     void ClearConsole() override {}

@@ -24,11 +24,11 @@ class InSession : public Desk, public SessionObserver {
     }
     void SetUp() override {
         StartWithBot();
-        window->host().SetObserver(this);
+        window->host().session().SetObserver(this);
         line = &The<QLineEdit>("txtSend");
         line->setFocus();
     }
-    void TearDown() override { window->host().SetObserver(nullptr); }
+    void TearDown() override { window->host().session().SetObserver(nullptr); }
 
     QString Panel(int number) { return The<QLabel>(QStringLiteral("sbVorel_%1").arg(number)).text(); }
     bool Connect() {
