@@ -1,6 +1,7 @@
 #include "cli/Report.h"
 
 #include <algorithm>
+#include <iostream>
 
 #include "net/FaultText.h"
 #include "text/Text.h"
@@ -15,6 +16,13 @@ std::string Harmless(std::string text) {
 }
 
 }  // namespace
+
+void TellOfRun(const std::string& what) { std::cerr << "vorel run: " << what << std::endl; }
+
+int RefuseRun(int status, const std::string& why) {
+    TellOfRun(why);
+    return status;
+}
 
 std::string FaultForTerminal(const RuntimeFault& fault, const Bot& bot) { return Harmless(DescribeFault(fault, bot)); }
 

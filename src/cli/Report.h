@@ -9,6 +9,13 @@
 
 struct Bot;
 
+/// Tells on standard error what `vorel run` has to say beside the console's lines. UTF-8.
+void TellOfRun(const std::string& what);
+
+/// Tells why a run, or a bot of it, can't begin.
+/// @return the status
+int RefuseRun(int status, const std::string& why);
+
 /// A fault in words for standard error (see DescribeFault): UTF-8, control characters put out of action.
 std::string FaultForTerminal(const RuntimeFault& fault, const Bot& bot);
 

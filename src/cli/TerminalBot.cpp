@@ -1,7 +1,6 @@
 #include "cli/TerminalBot.h"
 
 #include <QTimer>
-#include <iostream>
 
 #include "cli/Report.h"
 #include "net/FaultText.h"
@@ -28,8 +27,8 @@ bool TerminalBot::Load() {
         load = LoadProfile(host_.bot(), profilePath_);
         faulted = false;
     });
-    for (const std::string& remark : load.remarks) std::cerr << "vorel run: " << remark << std::endl;
-    if (!load.missingScript.empty()) std::cerr << "vorel run: " << MissingScript(profilePath_, load) << std::endl;
+    for (const std::string& remark : load.remarks) TellOfRun(remark);
+    if (!load.missingScript.empty()) TellOfRun(MissingScript(profilePath_, load));
     return load.found || faulted;
 }
 
@@ -42,7 +41,7 @@ std::optional<std::string> TerminalBot::RecordTo(const std::string& path) {
 }
 
 void TerminalBot::Record(const std::string& lines) {
-    if (!recordFile_.Write(lines)) std::cerr << "vorel run: the recording can't be written any more" << std::endl;
+    if (!recordFile_.Write(lines)) TellOfRun("the recording can't be written any more");
 }
 
 std::string TerminalBot::Label() const {
@@ -63,7 +62,7 @@ void TerminalBot::ShowConsoleLine(std::string_view line) {
 }
 
 void TerminalBot::ShowMessage(std::string_view title, std::string_view text) {
-    std::cerr << "vorel run: " << profilePath_ << ": " << Printable(title) << ": " << Printable(text) << std::endl;
+    TellOfRun(profilePath_ + ": " + Printable(title) + ": " + Printable(text));
 }
 
 void TerminalBot::StatusChanged() {
@@ -75,9 +74,7 @@ void TerminalBot::StatusChanged() {
     });
 }
 
-void TerminalBot::TellEnd() {
-    std::cerr << "vorel run: " << profilePath_ << ": " << Printable(ReasonOfEnd(status())) << std::endl;
-}
+void TerminalBot::TellEnd() { TellOfRun(profilePath_ + ": " + Printable(ReasonOfEnd(status()))); }
 
 void TerminalBot::EndWithFault(const RuntimeFault& fault) {
     std::string why = FaultForTerminal(fault, host_.bot());

@@ -4,16 +4,17 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <algorithm>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "cli/BotKeeper.h"
 #include "cli/ConsoleOutput.h"
 #include "cli/EndSignals.h"
 #include "cli/Printing.h"
-#include "cli/TerminalBot.h"
+#include "cli/Report.h"
+#include "cli/RunOptions.h"
 #include "cli/TourFile.h"
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
@@ -30,18 +31,6 @@ namespace {
 /// How long after the last step of a tour the bots still have for their answers.
 constexpr int kLastAnswersMs = 2000;
 
-struct RunOptions {
-    std::vector<std::string> profiles;
-    bool practice = false, quiet = false, keepSplitLines = false, stay = false;
-    std::string server, log, record, tour, folder = ".";
-    int port = 0, brake = SendBrake::kUsualRate;
-};
-
-int Refuse(int status, const std::string& why) {
-    std::cerr << "vorel run: " << why << std::endl;
-    return status;
-}
-
 /// The tour that lies beside a profile; empty when there is none.
 std::string TourBeside(const std::string& profile) {
     return DiskFiles().Find(JoinPath(FolderOf(profile), "tour.txt")).value_or("");
@@ -50,22 +39,21 @@ std::string TourBeside(const std::string& profile) {
 /// The bots of one process, from loading to the exit status.
 class TerminalRun {
   public:
-    explicit TerminalRun(const RunOptions& options) : options_(options), output_(options.quiet) {}
+    explicit TerminalRun(RunOptions options) : options_(std::move(options)), output_(options_.quiet) {}
 
     int Run() {
         if (const int refusal = Prepare()) return refusal;
         for (const auto& bot : bots_) bot->Connect();
-        if (exit_) return *exit_;
-        if (AllAreIdle()) return kConfigExit;
+        if (AllAreIdle()) return AnyHasFaulted() ? kFaultExit : kConfigExit;
 
         const EndSignals endSignals([this] { End(0); });
         const TypedInput input([this](const std::string& line) { Type(line); });
         return QCoreApplication::exec();
     }
 
-    /// A fault has ended a bot, or what the bots run in; UTF-8.
+    /// A fault has ended what the bots run in; UTF-8.
     void OnFault(const std::string& why) {
-        std::cerr << "vorel run: " << why << std::endl;
+        TellOfRun(why);
         output_.Log(why);
         End(kFaultExit);
         // A fault on the way out counts too.
@@ -74,65 +62,43 @@ class TerminalRun {
     }
 
   private:
-    const RunOptions& options_;
+    RunOptions options_;
     ConsoleOutput output_;
     std::unique_ptr<PracticeServer> practice_;
-    std::vector<std::unique_ptr<TerminalBot>> bots_;
+    std::vector<std::unique_ptr<BotKeeper>> bots_;
     std::optional<int> exit_;
 
     /// @return 0, or the exit status when the run can't begin
     int Prepare() {
         if (options_.profiles.size() > 1 && !options_.record.empty()) {
-            return Refuse(kUsageExit, "--record records one bot, not " + std::to_string(options_.profiles.size()));
+            return RefuseRun(kUsageExit, "--record records one bot, not " + std::to_string(options_.profiles.size()));
         }
         const std::string noLog = options_.log.empty() ? "" : output_.LogTo(options_.log);
-        if (!noLog.empty()) return Refuse(kCantCreateExit, noLog);
+        if (!noLog.empty()) return RefuseRun(kCantCreateExit, noLog);
         if (options_.practice) {
             if (const int refusal = OpenPractice()) return refusal;
         }
         for (const std::string& profile : options_.profiles) {
-            if (const int refusal = AddBot(profile)) return refusal;
+            const auto onIdle = [this] { OnIdle(); };
+            const auto& bot = bots_.emplace_back(std::make_unique<BotKeeper>(options_, profile, output_, onIdle));
+            if (const int refusal = bot->Begin()) return refusal;
         }
         return 0;
     }
 
-    int AddBot(const std::string& profile) {
-        const TerminalBot::Owner owner{[this] { OnIdle(); }, [this](const std::string& why) { OnFault(why); }};
-        auto& bot = *bots_.emplace_back(std::make_unique<TerminalBot>(profile, options_.folder, output_, owner));
-        Session& session = bot.host().session();
-        session.SetServer(options_.server, options_.port);
-        if (practice_) session.SetServer("127.0.0.1", practicePort_);
-        bot.KeepSplitLines(options_.keepSplitLines);
-        bot.host().StayConnected(options_.stay);
-        bot.host().SetBrake(options_.brake);
-        if (options_.profiles.size() > 1) bot.ShowLabel();
-        if (!bot.Load()) return Refuse(kNoInputExit, "there is no profile " + profile);
-        if (exit_) return *exit_;
-        return options_.record.empty() ? 0 : Record(bot);
-    }
-
-    int Record(TerminalBot& bot) {
-        const std::optional<std::string> path = bot.RecordTo(options_.record);
-        if (!path) return Refuse(kCantCreateExit, "the recording " + options_.record + " can't be written");
-        if (*path != options_.record)
-            std::cerr << "vorel run: " << options_.record << " holds something; recording to " << *path << std::endl;
-        return 0;
-    }
-
-    int practicePort_ = 0;
-
     int OpenPractice() {
         TourReading reading =
             ReadTourFile(options_.tour.empty() ? TourBeside(options_.profiles.front()) : options_.tour);
-        if (!reading.fault.empty()) return Refuse(kUsageExit, reading.fault);
+        if (!reading.fault.empty()) return RefuseRun(kUsageExit, reading.fault);
         PracticeSettings settings;
         settings.tour = std::move(reading.tour);
         const bool noTour = settings.tour.steps.empty();
         practice_ = std::make_unique<PracticeServer>(std::move(settings));
         const auto listening = practice_->Listen(0);
         if (listening.port == 0)
-            return Refuse(kUnavailableExit, "the practice dream: " + listening.fault.toStdString());
-        practicePort_ = listening.port;
+            return RefuseRun(kUnavailableExit, "the practice dream: " + listening.fault.toStdString());
+        options_.server = "127.0.0.1";
+        options_.port = listening.port;
         if (isatty(STDIN_FILENO) == 0) {
             const auto endSoon = [this] { QTimer::singleShot(kLastAnswersMs, practice_.get(), [this] { End(0); }); };
             QObject::connect(practice_.get(), &PracticeServer::TourEnded, practice_.get(), endSoon);
@@ -143,7 +109,7 @@ class TerminalRun {
 
     /// With several bots, "@name text" goes to the bot of that name, anything else to the first one.
     void Type(const std::string& line) {
-        TerminalBot* chosen = bots_.front().get();
+        BotKeeper* chosen = bots_.front().get();
         std::string text = line;
         if (bots_.size() > 1 && line.starts_with('@')) {
             const std::string name = line.substr(1, line.find(' ') - 1);
@@ -158,7 +124,11 @@ class TerminalRun {
     }
 
     bool AllAreIdle() const {
-        return std::all_of(bots_.begin(), bots_.end(), [](const auto& bot) { return bot->status().IsIdle(); });
+        return std::all_of(bots_.begin(), bots_.end(), [](const auto& bot) { return bot->IsIdle(); });
+    }
+
+    bool AnyHasFaulted() const {
+        return std::any_of(bots_.begin(), bots_.end(), [](const auto& bot) { return bot->HasFaulted(); });
     }
 
     /// Without a window nobody could connect an idle bot again: when the last one has gone idle, the run is over.
@@ -166,8 +136,10 @@ class TerminalRun {
         if (AllAreIdle()) End(StatusOfIdleBots());
     }
 
-    /// What ends a run for good comes first: its supervisor is not to start it again.
+    /// A fault comes first, for its bot may be begun again; then what ends a run for good, which a supervisor is not to
+    /// start again.
     int StatusOfIdleBots() const {
+        if (AnyHasFaulted()) return kFaultExit;
         const auto any = [this](bool (*holds)(const SessionStatus&)) {
             return std::any_of(bots_.begin(), bots_.end(), [&](const auto& bot) { return holds(bot->status()); });
         };
@@ -182,6 +154,7 @@ class TerminalRun {
         if (exit_) return;
         exit_ = status;
         for (const auto& bot : bots_) bot->Leave();
+        if (AnyHasFaulted()) exit_ = kFaultExit;
         QCoreApplication::exit(*exit_);
     }
 };

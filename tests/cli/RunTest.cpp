@@ -151,6 +151,28 @@ TEST_F(RunTest, SeveralBotsShareTheTerminal) {
     EXPECT_EQ(vorel->Ends(), 69);
 }
 
+TEST_F(RunTest, AFaultEndsItsBotAloneWhichBeginsAgainWhenItIsToStay) {
+    files.WriteBot("First");
+    files.WriteBot("Second");
+    const QByteArray fault = "[First] Invalid procedure call: the game's line \"]f\" is shorter than";
+    for (const bool stays : {false, true}) {
+        QStringList arguments{"First.tvm", "Second.tvm"};
+        const auto vorel = Run(stays ? arguments << "--stay" : arguments);
+        ASSERT_TRUE(server.Hears("desc ", number + 1));
+        const std::size_t first = number + (server.heard[number].contains("connect First ") ? 0 : 1);
+        const std::size_t second = 2 * number + 1 - first;
+        server.Say("]f\n", first);
+        EXPECT_TRUE(server.Hears("<end>", first));
+        server.Say("(for second\n", second);
+        EXPECT_TRUE(vorel->Shows("[Second] for second\n"));
+        EXPECT_TRUE(!stays || server.Hears("connect First ", number + 2));
+        stays ? vorel->Signal(SIGTERM) : server.Close(second);
+        EXPECT_EQ(vorel->Ends(), stays ? 0 : 70);
+        EXPECT_TRUE(vorel->err.startsWith("vorel run: " + fault)) << vorel->err.toStdString();
+        EXPECT_EQ(vorel->err.contains("vorel run: First.tvm: beginning again in 1 second\n"), stays);
+    }
+}
+
 TEST_F(RunTest, WalksThePracticeDreamAndRehearsesTheRecording) {
     const QString greeter = QStringLiteral(TVOREL_SOURCE_DIR "/examples/greeter/greeter.tvm");
     files.Write("tour.txt",

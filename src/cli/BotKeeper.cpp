@@ -1,0 +1,82 @@
+#include "cli/BotKeeper.h"
+
+#include <QRandomGenerator>
+#include <QTimer>
+#include <utility>
+
+#include "cli/Report.h"
+#include "cli/Verbs.h"
+
+BotKeeper::BotKeeper(const RunOptions& options, std::string profile, ConsoleOutput& output,
+                     std::function<void()> onIdle)
+    : options_(options),
+      profile_(std::move(profile)),
+      output_(output),
+      onIdle_(std::move(onIdle)),
+      restart_([] { return QRandomGenerator::global()->generateDouble(); }, [this] { BeginAgain(); }, nullptr) {}
+
+int BotKeeper::Begin() {
+    const TerminalBot::Owner owner{onIdle_, [this](const std::string& why) { OnFault(why); }};
+    faulted_ = false;
+    lived_.start();
+    bot_ = std::make_unique<TerminalBot>(profile_, options_.folder, output_, owner);
+    QtHost& host = bot_->host();
+    host.session().SetServer(options_.server, options_.port);
+    host.StayConnected(options_.stay);
+    host.SetBrake(options_.brake);
+    bot_->KeepSplitLines(options_.keepSplitLines);
+    if (options_.profiles.size() > 1) bot_->ShowLabel();
+    if (!bot_->Load()) return RefuseRun(kNoInputExit, "there is no profile " + profile_);
+    return faulted_ || options_.record.empty() ? 0 : Record();
+}
+
+int BotKeeper::Record() {
+    const std::optional<std::string> path = bot_->RecordTo(options_.record);
+    if (!path) return RefuseRun(kCantCreateExit, "the recording " + options_.record + " can't be written");
+    if (*path != options_.record) TellOfRun(options_.record + " holds something; recording to " + *path);
+    return 0;
+}
+
+void BotKeeper::Connect() {
+    if (bot_) bot_->Connect();
+}
+
+void BotKeeper::TypeLine(const std::string& line) {
+    if (bot_) bot_->TypeLine(line);
+}
+
+void BotKeeper::Leave() {
+    leaving_ = true;
+    restart_.Forget();
+    if (bot_) bot_->Leave();
+}
+
+bool BotKeeper::IsIdle() const {
+    if (faulted_) return !options_.stay || leaving_;
+    return !bot_ || bot_->status().IsIdle();
+}
+
+/// The bot is in the middle of the handler that has failed, so it goes later.
+void BotKeeper::OnFault(const std::string& why) {
+    faulted_ = true;
+    TellOfRun(why);
+    output_.Log(why);
+    QTimer::singleShot(0, &restart_, [this] {
+        bot_.reset();
+        IsIdle() ? onIdle_() : BeginAgainLater();
+    });
+}
+
+void BotKeeper::BeginAgainLater() {
+    constexpr int kSecondMs = 1000;
+    restart_.SessionEnded(std::chrono::milliseconds(lived_.elapsed()));
+    const int seconds = (restart_.Schedule(Reconnector::First::AfterAPause) + kSecondMs / 2) / kSecondMs;
+    TellOfRun(profile_ + ": beginning again in " + std::to_string(seconds) + (seconds == 1 ? " second" : " seconds"));
+}
+
+void BotKeeper::BeginAgain() {
+    if (Begin() == 0) return Connect();
+    faulted_ = true;
+    bot_.reset();
+    BeginAgainLater();
+}
