@@ -22,6 +22,7 @@
 #include "net/FaultText.h"
 #include "platform/DiskFiles.h"
 #include "platform/Guarded.h"
+#include "platform/OpenFiles.h"
 #include "practice/PracticeServer.h"
 #include "text/Fault.h"
 #include "text/Text.h"
@@ -30,6 +31,22 @@ namespace {
 
 /// How long after the last step of a tour the bots still have for their answers.
 constexpr int kLastAnswersMs = 2000;
+
+/// What a run has open: for itself, for each bot (a connection, and what watches its end), and for each visitor of the
+/// practice dream.
+constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 2, kFilesOfAVisitor = 1;
+
+/// Why so many bots can't run in one process; empty when they can.
+std::string TooManyBots(std::size_t bots, bool practice) {
+    const std::size_t each = kFilesOfABot + (practice ? kFilesOfAVisitor : 0), needed = kOwnFiles + bots * each;
+    const std::size_t allowed = AllowOpenFiles(needed);
+    if (needed <= allowed) return "";
+    const std::string need = std::to_string(needed);
+    return std::to_string(bots) + " bots take " + need + " open files and connections, " + std::to_string(each) +
+           " each and some for the program, but a program may have " + std::to_string(allowed) +
+           " here. Raise that limit (\"ulimit -n " + need + "\" in the shell, LimitNOFILE=" + need +
+           " in a unit of systemd), or run fewer bots at a time.";
+}
 
 /// The tour that lies beside a profile; empty when there is none.
 std::string TourBeside(const std::string& profile) {
@@ -73,6 +90,8 @@ class TerminalRun {
         if (options_.profiles.size() > 1 && !options_.record.empty()) {
             return RefuseRun(kUsageExit, "--record records one bot, not " + std::to_string(options_.profiles.size()));
         }
+        const std::string tooMany = TooManyBots(options_.profiles.size(), options_.practice);
+        if (!tooMany.empty()) return RefuseRun(kUsageExit, tooMany);
         const std::string noLog = options_.log.empty() ? "" : output_.LogTo(options_.log);
         if (!noLog.empty()) return RefuseRun(kCantCreateExit, noLog);
         if (options_.practice) {

@@ -173,6 +173,23 @@ TEST_F(RunTest, AFaultEndsItsBotAloneWhichBeginsAgainWhenItIsToStay) {
     }
 }
 
+TEST_F(RunTest, RefusesMoreBotsThanItMayHaveConnections) {
+    const QString refusal =
+        "vorel run: 5 bots take 42 open files and connections, 2 each and some for the program, but a program may have "
+        "41 here. Raise that limit (\"ulimit -n 42\" in the shell, LimitNOFILE=42 in a unit of systemd), or run fewer "
+        "bots at a time.\n";
+    for (const auto& [limit, status, said] :
+         {std::tuple{"-n 41", 64, refusal}, {"-Sn 41", 66, "vorel run: there is no profile nobody.tvm\n"}}) {
+        QProcess shell;
+        shell.setWorkingDirectory(files.Path());
+        shell.start("sh", {"-c", QString("ulimit %1; exec \"$0\" run%2").arg(limit, QString(" nobody.tvm").repeated(5)),
+                           VOREL_PROGRAM});
+        EXPECT_TRUE(shell.waitForFinished());
+        EXPECT_EQ(shell.exitCode(), status);
+        EXPECT_EQ(shell.readAllStandardError(), said);
+    }
+}
+
 TEST_F(RunTest, WalksThePracticeDreamAndRehearsesTheRecording) {
     const QString greeter = QStringLiteral(TVOREL_SOURCE_DIR "/examples/greeter/greeter.tvm");
     files.Write("tour.txt",
