@@ -11,7 +11,6 @@
 
 #include "cli/Report.h"
 #include "cli/Verbs.h"
-#include "net/Passwords.h"
 #include "platform/DiskFiles.h"
 #include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
@@ -51,19 +50,14 @@ int Unreadable(const std::string& what) {
     return kUnreadable;
 }
 
-/// Each line as 8-bit text, like the session's own; somebody reading along at a terminal gets the terminal's
-/// encoding instead, and no password.
-void PrintLine(const std::string& line) {
+/// Whether somebody reads along at a terminal.
+bool IsRead() {
     static const bool terminal = isatty(STDOUT_FILENO) != 0;
-    constexpr std::string_view kSent = "sent ";
-    if (!terminal) {
-        std::cout << line << "\n";
-    } else if (line.starts_with(kSent)) {
-        std::cout << kSent << ToUtf8(WithoutPassword(line.substr(kSent.size()))) << "\n";
-    } else {
-        std::cout << ToUtf8(line) << "\n";
-    }
+    return terminal;
 }
+
+/// Each line as 8-bit text, like the session's own; a terminal gets its own encoding instead.
+void PrintLine(const std::string& line) { std::cout << (IsRead() ? ToUtf8(line) : line) << "\n"; }
 
 int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& session) {
     try {
@@ -100,6 +94,7 @@ int Try(const TryOptions& options) {
 
     for (const std::string& folder : {options.folder, FolderOf(options.profile)}) ClearUnfinished(folder);
     Rehearsal rehearsal(disk, options.folder, PrintLine);
+    if (IsRead()) rehearsal.host.HidePasswords();
     if (!options.now.empty()) {
         const std::optional<LocalTime> now = ReadTime(options.now);
         if (!now) return Unreadable("--now wants \"YYYY-MM-DD HH:MM:SS\", not \"" + options.now + "\"");

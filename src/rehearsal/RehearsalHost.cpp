@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "net/PacketLines.h"
+#include "net/Passwords.h"
 #include "net/Session.h"
 
 namespace {
@@ -25,7 +26,7 @@ std::optional<std::string> RehearsalHost::OldestUnclaimed() const {
 
 void RehearsalHost::WriteToServer(std::string_view bytes) {
     for (std::string& line : WrittenLines(bytes)) {
-        Tell("sent", line);
+        Tell("sent", hidesPasswords_ ? WithoutPassword(line) : line);
         unclaimed_.push_back(std::move(line));
     }
 }

@@ -33,6 +33,9 @@ class RehearsalHost final : public Host, public Link {
     void FreezeClock(const LocalTime& now) { frozenNow_ = now; }
     void SeedRandom(std::uint32_t seed) { random_.seed(seed); }
 
+    /// Tells a login with stars in place of its password.
+    void HidePasswords() { hidesPasswords_ = true; }
+
     void Tell(std::string_view what, std::string_view text);
 
     /// Takes the oldest command sent to the server that was not taken yet; nothing when there is none.
@@ -78,6 +81,7 @@ class RehearsalHost final : public Host, public Link {
     std::function<void(const std::string&)> tell_;
     Session* session_ = nullptr;
     bool serverConnected_ = false, clientConnected_ = false, movementTimer_ = false;
+    bool hidesPasswords_ = false;
     std::optional<LocalTime> frozenNow_;
     std::mt19937 random_{std::random_device{}()};
     std::deque<std::string> unclaimed_;
