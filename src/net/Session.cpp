@@ -17,7 +17,7 @@
 #include "net/ServerLines.h"
 #include "net/SessionTexts.h"
 #include "send/modSend.h"
-#include "text/Numbers.h"
+#include "text/Fault.h"
 #include "text/Text.h"
 
 using Happening = SessionObserver::Happening;
@@ -25,21 +25,9 @@ using Happening = SessionObserver::Happening;
 namespace {
 
 constexpr std::string_view kInvalidSelection = "Invalid Selection";
-constexpr int kPortDraws = 1000;  // then hardly a port can be free, and waiting would only hide it
 
 /// How much of a packet is held back until the rest of it has come, before it is relayed.
 constexpr std::size_t kMostHeldBack = std::size_t{64} * 1024;
-
-/// Listens on a random port from 1000 to 9999; a port that is taken is drawn again.
-/// @return the port; nothing when none could be had
-std::optional<std::int16_t> ListenOnRandomPort(Bot& bot, Link& link) {
-    constexpr int kFirstPort = 1000, kLastPort = 9999;
-    for (int draw = 0; draw < kPortDraws; ++draw) {
-        const std::int16_t port = RoundTo16(bot.host.Random() * (kLastPort - kFirstPort) + kFirstPort);
-        if (link.ListenForClient(port)) return port;
-    }
-    return std::nullopt;
-}
 
 /// Empties what the last session left behind. Kept on purpose: the positions, the dream's square, the last roll's
 /// numbers, the visitors' count and an accepted request stay.
@@ -98,30 +86,11 @@ void Session::ConnectThroughClient() {
     LearnPassword();
     link_.CloseServer();
     link_.CloseClient();
-    // Looked up now: a path of the profile may start from the folder that is about to be left.
-    const Files& disk = bot_.host.Disk();
-    const std::string program = disk.Absolute(*FindProfileFile(bot_, bot_.profile.clientPath));
-    const std::string character = disk.Absolute(*FindProfileFile(bot_, bot_.profile.characterPath));
-    const std::string folder = FolderOf(program);
-    link_.EnterFolder(folder);
-    const std::optional<std::int16_t> port = ListenOnRandomPort(bot_, link_);
-    if (!port) {
-        GiveUpClient(std::string(kNoFreePort));
-        return;
-    }
-    link_.WriteProxyFile(JoinPath(folder, kProxyFile), "localhost " + std::to_string(*port) + "\r\n");
-    if (const auto refusal = link_.StartClient(program, character)) {
-        GiveUpClient(ClientRefusedLine(program, *refusal));
-        return;
-    }
-    clientWindow_ = 0;
-    awaitsClientWindow_ = true;
-    LookForClientWindow();
+    if (const std::string why = client_.Start(); !why.empty()) GiveUpClient(why);
 }
 
 void Session::GiveUpClient(const std::string& why) {
     link_.CloseClient();
-    awaitsClientWindow_ = false;
     bot_.host.ShowConsoleLine(why);
     status_.reason = why;
     ShowIdle(SessionStatus::End::ByError);
@@ -150,7 +119,7 @@ void Session::Disconnect() {
     } else {
         link_.CloseServer();
     }
-    ForgetClientWindow();
+    client_.ForgetWindow();
 }
 
 void Session::StandAlone() {
@@ -211,7 +180,7 @@ void Session::OnServerConnected() {
     ShowMenus(true, bot_.host.IsClientConnected());
     link_.ClearConsole();
     if (!bot_.profile.IsClientMode()) LogIn();
-    LookForClientWindow();
+    client_.LookForWindow();
     RunScript(bot_, EventConnected);
 }
 
@@ -258,7 +227,7 @@ void Session::OnServerClosed() {
     Note(Happening::Closed);
     status_.refusals = WasLetIn() ? 0 : status_.refusals + 1;
     ShowIdle(SessionStatus::End::ByServer);
-    CloseClientWindow();
+    client_.CloseWindow();
     RunScript(bot_, EventDisconnected);
 }
 
@@ -321,12 +290,12 @@ void Session::OnClientData(std::string_view packet, bool goesOn) {
 void Session::OnClientClosed() {
     Note(Happening::Unlinked);
     ShowMenus(status_.canDisconnect, false);
-    ForgetClientWindow();
+    client_.ForgetWindow();
 }
 
 void Session::OnClientError(const SocketError& error) {
     bot_.host.ShowConsoleLine(ErrorLine("Client", error));
-    ForgetClientWindow();
+    client_.ForgetWindow();
 }
 
 void Session::OnScriptTick() {
@@ -376,29 +345,4 @@ void Session::ShowIdle(SessionStatus::End end) {
     status_.end = end;
     status_.connection = "Disconnected";
     ShowMenus(false, false);
-}
-
-/// A program takes its time to open its window, so what was not there when the client was started is looked for again.
-void Session::LookForClientWindow() {
-    if (!awaitsClientWindow_) return;
-    const std::optional<std::int64_t> window = link_.FindClientWindow();
-    clientWindow_ = window.value_or(0);
-    awaitsClientWindow_ = clientWindow_ <= 0;
-    // Told once the server is connected, for that is when the console is cleared.
-    if (window || toldNoWindows_ || !bot_.host.IsServerConnected() || bot_.profile.closeClient != 1) return;
-    toldNoWindows_ = true;
-    bot_.host.ShowConsoleLine(kNoClientWindow);
-}
-
-void Session::CloseClientWindow() {
-    if (bot_.profile.closeClient != 1) return;
-    LookForClientWindow();
-    if (clientWindow_ > 0) link_.CloseClientWindow(clientWindow_);
-}
-
-void Session::ForgetClientWindow() {
-    if (bot_.profile.closeClient != 1) return;
-    CloseClientWindow();
-    clientWindow_ = 0;
-    awaitsClientWindow_ = false;
 }

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "bot/Bot.h"
+#include "net/ClientProgram.h"
 #include "net/Link.h"
 #include "net/PacketLines.h"
 #include "net/SendBrake.h"
@@ -96,9 +97,7 @@ class Session {
     Bot& bot_;
     Link& link_;
     SessionStatus status_;
-    std::int64_t clientWindow_ = 0;
-    bool awaitsClientWindow_ = false;  ///< the client was started, and its window had not opened yet
-    bool toldNoWindows_ = false;
+    ClientProgram client_{bot_, link_};
     std::string chosenServer_ = kGameServer, serverAddress_;
     int serverPort_ = 0;
     AddressResolver resolver_;
@@ -119,7 +118,4 @@ class Session {
     void ShowMenus(bool inSession, bool canStandAlone);
     void ShowIdle(SessionStatus::End end);
     void GiveUpClient(const std::string& why);
-    void LookForClientWindow();
-    void CloseClientWindow();
-    void ForgetClientWindow();
 };
