@@ -34,20 +34,18 @@ std::optional<std::string_view> NumberText(std::string_view line) {
 
 std::string_view CategoryText(std::string_view line) { return line.substr(std::min(kCategoryAt, line.size()), 1); }
 
-LineReading Read(std::int16_t category, std::int16_t number) {
-    return {LineReading::Kind::Command, category, number, FaultKind::TypeMismatch};
+/// What category and number make of a line. A fault, the category's first, is kept for the walk that gets there.
+LineReading Reading(const Outcome<std::int16_t>& category, const Outcome<std::int16_t>& number) {
+    for (const auto* const part : {&category, &number}) {
+        if (!*part) return {LineReading::Kind::Fault, -1, -1, part->Fault().Kind()};
+    }
+    return {LineReading::Kind::Command, *category, *number, FaultKind::TypeMismatch};
 }
 
-/// Reads category and number strictly; a fault is kept for the walk that gets to the line.
 LineReading ReadStrictly(std::string_view line) {
-    try {
-        const std::int16_t category = NumberOrFault(CategoryText(line));
-        const auto number = NumberText(line);
-        if (!number) throw RuntimeFault(FaultKind::TypeMismatch);
-        return Read(category, NumberOrFault(*number));
-    } catch (const RuntimeFault& fault) {
-        return {LineReading::Kind::Fault, -1, -1, fault.Kind()};
-    }
+    const auto number = NumberText(line);
+    return Reading(ReadNumber(CategoryText(line)),
+                   number ? ReadNumber(*number) : RuntimeFault(FaultKind::TypeMismatch));
 }
 
 LineReading ReadAsCause(std::string_view line) {
@@ -65,14 +63,10 @@ LineReading ReadAsCondition(std::string_view line) {
 /// the effects like a cause.
 LineReading ReadAsEffect(std::string_view line) {
     if (!line.starts_with('(')) return {};
-    try {
-        const std::int16_t category =
-            line.size() < kShortestEffect ? std::int16_t{-1} : LeadingNumberOrZero(CategoryText(line));
-        const auto number = NumberText(line);
-        return Read(category, number ? LeadingNumberOrZero(*number) : std::int16_t{-1});
-    } catch (const RuntimeFault& fault) {
-        return {LineReading::Kind::Fault, -1, -1, fault.Kind()};
-    }
+    constexpr std::int16_t kNone = -1;
+    const auto number = NumberText(line);
+    return Reading(line.size() < kShortestEffect ? kNone : ReadLeadingNumber(CategoryText(line)),
+                   number ? ReadLeadingNumber(*number) : kNone);
 }
 
 std::size_t FirstAtOrAfter(const std::vector<std::size_t>& lines, std::size_t from) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// The kinds of run-time fault. A fault ends the program after it has been shown; see RuntimeFault.
+/// The kinds of run-time fault. One that is raised ends the program after it has been shown; see RuntimeFault.
 enum class FaultKind {
     Overflow,              ///< a number left the 16-bit range, or the range of a double
     TypeMismatch,          ///< a text that must be a number is none
@@ -17,8 +17,8 @@ enum class FaultKind {
     Internal,              ///< what only a mistake of the program can bring about
 };
 
-/// The only exception the core throws. It is caught in one place of each program, which names it to the user, puts
-/// unsaved work aside and leaves.
+/// The only exception the core throws. It is caught where a program's loop begins, which names it to the user, puts
+/// unsaved work aside and leaves. What a program can go on from is no exception but an Outcome that holds one of these.
 class RuntimeFault : public std::exception {
   public:
     /// @param detail  what it happened to, such as a file's path (UTF-8); never a secret. May be empty.

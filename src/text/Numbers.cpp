@@ -22,29 +22,38 @@ std::size_t NumberLength(std::string_view text) {
     return length;
 }
 
-}  // namespace
+Outcome<std::int16_t> Narrowed(int number) {
+    if (!Fits16(number)) return RuntimeFault(FaultKind::Overflow);
+    return static_cast<std::int16_t>(number);
+}
 
-std::int16_t RoundTo16(double number) {
+Outcome<std::int16_t> Rounded(double number) {
     // Everything past this cannot round into the range, and would not fit the int below.
-    if (!(std::fabs(number) < 40000.0)) throw RuntimeFault(FaultKind::Overflow);
+    if (!(std::fabs(number) < 40000.0)) return RuntimeFault(FaultKind::Overflow);
     const double floor = std::floor(number);
     const double rest = number - floor;
     const int whole = static_cast<int>(floor);
     const bool up = rest > 0.5 || (rest == 0.5 && whole % 2 != 0);
-    return To16(up ? whole + 1 : whole);
+    return Narrowed(up ? whole + 1 : whole);
 }
 
-std::int16_t NumberOrFault(std::string_view text) {
+}  // namespace
+
+std::int16_t RoundTo16(double number) { return ValueOrFault(Rounded(number)); }
+
+Outcome<std::int16_t> ReadNumber(std::string_view text) {
     const bool negative = !text.empty() && text[0] == '-';
     const std::string_view digits = negative ? text.substr(1) : text;
     if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos) {
-        throw RuntimeFault(FaultKind::TypeMismatch);
+        return RuntimeFault(FaultKind::TypeMismatch);
     }
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{}) throw RuntimeFault(FaultKind::Overflow);
-    return To16(number);
+    if (error != std::errc{}) return RuntimeFault(FaultKind::Overflow);
+    return Narrowed(number);
 }
+
+std::int16_t NumberOrFault(std::string_view text) { return ValueOrFault(ReadNumber(text)); }
 
 double LeadingNumber(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
@@ -61,7 +70,9 @@ double LeadingNumber(std::string_view text) {
     return number == 0 ? 0 : number;  // no "-0"
 }
 
-std::int16_t LeadingNumberOrZero(std::string_view text) { return RoundTo16(LeadingNumber(text)); }
+Outcome<std::int16_t> ReadLeadingNumber(std::string_view text) { return Rounded(LeadingNumber(text)); }
+
+std::int16_t LeadingNumberOrZero(std::string_view text) { return ValueOrFault(ReadLeadingNumber(text)); }
 
 std::string FormatNumber(double number) {
     std::array<char, 40> scientific{};  // "d.dddddddddddddde-ddd", whatever the user's locale has for a point
