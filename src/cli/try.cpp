@@ -60,15 +60,14 @@ bool IsRead() {
 void PrintLine(const std::string& line) { std::cout << (IsRead() ? ToUtf8(line) : line) << "\n"; }
 
 int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& session) {
-    try {
+    const auto played = rehearsal.Play(session, [&] {
         const ProfileLoad load = LoadProfile(rehearsal.bot, options.profile);
         for (const std::string& remark : load.remarks) std::cerr << "vorel try: " << remark << "\n";
         if (!load.missingScript.empty()) std::cerr << MissingScript(options.profile, load) << "\n";
-        rehearsal.Play(session);
-    } catch (const std::exception& exception) {
-        const RuntimeFault fault = AsFault(exception);
-        PrintLine("fault " + std::string(fault.Name()));
-        std::cerr << "vorel try: " << FaultForTerminal(fault, rehearsal.bot);
+    });
+    if (!played) {
+        PrintLine("fault " + std::string(played.Fault().Name()));
+        std::cerr << "vorel try: " << FaultForTerminal(played.Fault(), rehearsal.bot);
         if (rehearsal.Line() > 0) std::cerr << " It came with line " << rehearsal.Line() << " of the session.";
         std::cerr << "\n";
         return kFault;

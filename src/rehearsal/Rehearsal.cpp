@@ -12,8 +12,14 @@ Rehearsal::Rehearsal(Files& disk, std::string folder, std::function<void(const s
     host.SetSession(session);
 }
 
-void Rehearsal::Play(const WrittenSession& written) {
-    for (const SessionStep& step : written.steps) Play(step);
+Outcome<Done> Rehearsal::Play(const WrittenSession& written, const std::function<void()>& begin) {
+    try {
+        begin();
+        for (const SessionStep& step : written.steps) Play(step);
+        return Done{};
+    } catch (const std::exception& exception) {
+        return AsFault(exception);
+    }
 }
 
 void Rehearsal::Play(const SessionStep& step) {

@@ -8,6 +8,7 @@
 #include "net/Session.h"
 #include "rehearsal/RehearsalHost.h"
 #include "rehearsal/WrittenSession.h"
+#include "text/Outcome.h"
 
 /// A bot in the stand-in world, to which written sessions are played.
 class Rehearsal {
@@ -17,8 +18,11 @@ class Rehearsal {
     /// Carries out one instruction. Faults of the bot are left to the caller.
     void Play(const SessionStep& step);
 
-    /// Carries out a whole session.
-    void Play(const WrittenSession& session);
+    /// Carries out a whole session, as far as a fault lets it.
+    /// @param begin  what comes before its first line, such as loading the bot's profile
+    /// @return the fault that has ended the bot
+    Outcome<Done> Play(
+        const WrittenSession& session, const std::function<void()>& begin = [] {});
 
     std::size_t FailedExpectations() const { return failed_; }
 

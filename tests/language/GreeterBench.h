@@ -26,7 +26,7 @@ class GreeterBench : public RehearsalBot {
     void Play(const std::string& instructions) {
         const WrittenSession written = ParseSession(instructions);
         EXPECT_EQ(written.error.value_or(""), "");
-        rehearsal.Play(written);
+        ValueOrFault(rehearsal.Play(written));
     }
 
     /// Plays instructions.

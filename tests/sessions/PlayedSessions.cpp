@@ -8,7 +8,6 @@
 #include "profile/ProfileFile.h"
 #include "rehearsal/Rehearsal.h"
 #include "support/Written.h"
-#include "text/Fault.h"
 
 // Plays every session NAME.txt beside this file to the bot NAME.tvm, in a program folder of its own with copies of what
 // lies in NAME/, the clock and the random draw fixed. Everything the bot did, and the fault that ended it, must be
@@ -42,12 +41,9 @@ class PlayedSession : public testing::TestWithParam<std::string> {
     void Play(const WrittenSession& session) {
         rehearsal.host.FreezeClock({2003, 2, 1, 13, 5, 9});
         rehearsal.host.SeedRandom(1);
-        try {
-            EXPECT_TRUE(LoadProfile(rehearsal.bot, PathOf(".tvm")).missingScript.empty());
-            rehearsal.Play(session);
-        } catch (const RuntimeFault& fault) {
-            told.push_back("fault " + std::string(fault.Name()));
-        }
+        const auto played = rehearsal.Play(
+            session, [this] { EXPECT_TRUE(LoadProfile(rehearsal.bot, PathOf(".tvm")).missingScript.empty()); });
+        if (!played) told.push_back("fault " + std::string(played.Fault().Name()));
     }
 
     void TellFiles() {

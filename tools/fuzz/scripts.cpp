@@ -30,7 +30,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     // An input without the header would be passed over in silence.
     bot.bot.script = std::make_shared<Script>(
         ScriptTextFromFile(std::string(kScriptHeader) + "\r\n" + InputText(data, size)), "fuzzed.vs");
-    for (const WrittenSession& session : sessions) Try([&] { bot.rehearsal.Play(session); });
+    for (const WrittenSession& session : sessions) {
+        Try([&] {
+            for (const SessionStep& step : session.steps) bot.rehearsal.Play(step);
+        });
+    }
     for (GameEvent event = 0; event < 52; ++event) Try([&] { RunScript(bot.bot, event); });
     return 0;
 }
