@@ -7,21 +7,24 @@
 #include "bot/Files.h"
 #include "bot/Host.h"
 #include "engine/Script.h"
-#include "text/Fault.h"
 
 /// No files at all.
 class NoFiles final : public Files {
   public:
-    std::string Read(const std::string& path) const override { throw RuntimeFault(FaultKind::FileNotFound, path); }
-    void Write(const std::string& path, std::string_view) override {
-        throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    Outcome<std::string> Read(const std::string& path) const override {
+        return RuntimeFault(FaultKind::FileNotFound, path);
+    }
+    Outcome<Done> Write(const std::string& path, std::string_view) override {
+        return RuntimeFault(FaultKind::PathOrFileAccess, path);
     }
     std::optional<std::string> Find(const std::string&) const override { return std::nullopt; }
     std::string Absolute(const std::string& path) const override { return path; }
     std::string DataPath(const std::string&, const std::string& name) const override { return name; }
-    std::optional<std::string> ReadData(const std::string&) const override { return std::nullopt; }
+    Outcome<std::optional<std::string>> ReadData(const std::string&) const override {
+        return std::optional<std::string>();
+    }
     bool LeadToSameFile(const std::string&, const std::string&) const override { return false; }
-    std::unique_ptr<Lock> LockFolder(const std::string&) override { return nullptr; }
+    Outcome<std::unique_ptr<Lock>> LockFolder(const std::string&) override { return std::unique_ptr<Lock>(); }
 };
 
 /// A world that costs nothing: connected, and counts what the bot sends instead of sending it.

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/Outcome.h"
+
 /// How large a data file of a script may be, in bytes: 16 MiB is far more than a script can go through at one event.
 inline constexpr std::size_t kDataFileLimit = std::size_t{16} * 1024 * 1024;
 
@@ -13,18 +15,17 @@ inline constexpr std::size_t kDataFileLimit = std::size_t{16} * 1024 * 1024;
 inline constexpr char kProxyFile[] = "proxy.ini";
 
 /// The file system, as far as a bot may touch it. Paths are UTF-8; contents are bytes as they stand in the file.
-/// A relative path starts from the current folder.
+/// A relative path starts from the current folder. What can't be done is an outcome, with path and reason.
 class Files {
   public:
     virtual ~Files() = default;
 
-    /// The whole file.
-    /// @throws RuntimeFault FileNotFound, or PathOrFileAccess when it can't be read
-    virtual std::string Read(const std::string& path) const = 0;
+    /// @return the whole file; FileNotFound, or PathOrFileAccess when it can't be read
+    virtual Outcome<std::string> Read(const std::string& path) const = 0;
 
     /// Writes the file whole or not at all: after a crash or on a full disk the old or the new one is there.
-    /// @throws RuntimeFault PathOrFileAccess
-    virtual void Write(const std::string& path, std::string_view bytes) = 0;
+    /// @return PathOrFileAccess, when it can't be written
+    virtual Outcome<Done> Write(const std::string& path, std::string_view bytes) = 0;
 
     /// The path of the existing file with the name that path ends in, letter case apart; the same case wins.
     /// Folders don't count as files.
@@ -39,10 +40,10 @@ class Files {
     /// the path that a new file would have. NUL and other control characters of the name become "_".
     virtual std::string DataPath(const std::string& folder, const std::string& name) const = 0;
 
-    /// The whole file; nothing when there is none. Never waits, whatever lies there.
-    /// @throws RuntimeFault PathOrFileAccess, with path and reason, for what is no ordinary file, what a link leads to
-    ///         out of the folder, what is larger than kDataFileLimit, and what can't be read
-    virtual std::optional<std::string> ReadData(const std::string& path) const = 0;
+    /// Never waits, whatever lies there.
+    /// @return the whole file; nothing when there is none; PathOrFileAccess for what is no ordinary file, what a link
+    ///         leads to out of the folder, what is larger than kDataFileLimit, and what can't be read
+    virtual Outcome<std::optional<std::string>> ReadData(const std::string& path) const = 0;
 
     /// True when both paths lead to one file, by links too; and where there is none, when it would be the same.
     virtual bool LeadToSameFile(const std::string& a, const std::string& b) const = 0;
@@ -54,8 +55,8 @@ class Files {
 
     /// Keeps every other program that asks for the same lock waiting until the returned one is gone, so that a file
     /// of the folder can be read and written with nobody in between. A program that crashes holds none any more.
-    /// @throws RuntimeFault PathOrFileAccess, when another one has it for too long
-    virtual std::unique_ptr<Lock> LockFolder(const std::string& folder) = 0;
+    /// @return the lock; PathOrFileAccess, when another one has it for too long
+    virtual Outcome<std::unique_ptr<Lock>> LockFolder(const std::string& folder) = 0;
 };
 
 /// Joins a folder and what lies in it; a path that is absolute already stays itself, an empty folder adds nothing.

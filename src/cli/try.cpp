@@ -40,9 +40,9 @@ std::optional<LocalTime> ReadTime(const std::string& text) {
     return read == 6 && exists ? std::optional(time) : std::nullopt;
 }
 
-std::string ReadSession(const DiskFiles& disk, const std::string& path) {
+Outcome<std::string> ReadSession(const DiskFiles& disk, const std::string& path) {
     if (path != "-") return disk.Read(path);
-    return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
+    return std::string(std::istreambuf_iterator<char>(std::cin), {});
 }
 
 int Unreadable(const std::string& what) {
@@ -77,18 +77,12 @@ int Play(Rehearsal& rehearsal, const TryOptions& options, const WrittenSession& 
 
 int Try(const TryOptions& options) {
     DiskFiles disk;
-    if (!disk.Find(options.profile)) return Unreadable("there is no profile " + options.profile);
-    try {
-        disk.Read(*disk.Find(options.profile));
-    } catch (const RuntimeFault&) {
-        return Unreadable("the profile " + options.profile + " can't be read");
-    }
-    WrittenSession session;
-    try {
-        session = ParseSession(ReadSession(disk, options.session));
-    } catch (const RuntimeFault&) {
-        return Unreadable("the session " + options.session + " can't be read");
-    }
+    const auto profile = disk.Find(options.profile);
+    if (!profile) return Unreadable("there is no profile " + options.profile);
+    if (!disk.Read(*profile)) return Unreadable("the profile " + options.profile + " can't be read");
+    const auto written = ReadSession(disk, options.session);
+    if (!written) return Unreadable("the session " + options.session + " can't be read");
+    const WrittenSession session = ParseSession(*written);
     if (session.error) return Unreadable(options.session + ", " + *session.error);
 
     for (const std::string& folder : {options.folder, FolderOf(options.profile)}) ClearUnfinished(folder);

@@ -111,7 +111,7 @@ Opened Open(const Bot& bot, std::string_view name) {
     const Files& disk = bot.host.Disk();
     Opened opened{disk.DataPath(bot.host.ProgramFolder(), ToUtf8(SafeFileName(name) + ".ini")), std::nullopt};
     std::string_view why = WhyWithheld(bot, opened.path);
-    if (why.empty()) opened.bytes = disk.ReadData(opened.path);
+    if (why.empty()) opened.bytes = ValueOrFault(disk.ReadData(opened.path));
     if (opened.bytes && HoldsPassword(*opened.bytes)) why = "it holds a password";
     opened.withheld = !why.empty();
     if (opened.withheld) TellWithheld(bot, opened.path, why);
@@ -220,7 +220,7 @@ std::optional<std::string> ReadDataFile(const Bot& bot, std::string_view name) {
 }
 
 void ChangeDataFile(Bot& bot, std::string_view name, const std::function<bool(DataFile&)>& change) {
-    const auto lock = bot.host.Disk().LockFolder(bot.host.ProgramFolder());
+    const auto lock = ValueOrFault(bot.host.Disk().LockFolder(bot.host.ProgramFolder()));
     const Opened opened = Open(bot, name);
     if (opened.withheld) return;
     DataFile file = DataFile::Parse(opened.bytes.value_or(""));
@@ -229,7 +229,7 @@ void ChangeDataFile(Bot& bot, std::string_view name, const std::function<bool(Da
     if (bytes.size() > kDataFileLimit) {
         throw RuntimeFault(FaultKind::PathOrFileAccess, opened.path + ": it would be larger than 16 MiB");
     }
-    bot.host.Disk().Write(opened.path, bytes);
+    ValueOrFault(bot.host.Disk().Write(opened.path, bytes));
 }
 
 bool DataFileHolds(std::string_view bytes, std::string_view section, std::string_view entry) {

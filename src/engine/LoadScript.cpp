@@ -8,7 +8,7 @@
 #include "engine/Script.h"
 
 std::optional<std::string> LoadScript(Bot& bot, const std::string& path) {
-    const std::string bytes = bot.host.Disk().Read(path);
+    const std::string bytes = ValueOrFault(bot.host.Disk().Read(path));
     bot.script = std::make_shared<Script>(ScriptTextFromFile(bytes), path);
     RunScript(bot, EventScriptLoaded);
     return FileRemark(FileKind::Script, path, bytes);

@@ -164,11 +164,8 @@ void Session::TypeLine(std::string_view text) {
 void Session::LearnPassword() {
     const std::optional<std::string> path = FindProfileFile(bot_, bot_.profile.characterPath);
     if (!path) return;
-    try {
-        bot_.characterPassword = PasswordIn(bot_.host.Disk().Read(*path));
-    } catch (const RuntimeFault&) {
-        bot_.characterPassword.clear();  // a login that needs the file raises it again
-    }
+    const auto bytes = bot_.host.Disk().Read(*path);
+    bot_.characterPassword = bytes ? PasswordIn(*bytes) : std::string();  // a login that needs the file will say so
 }
 
 void Session::OnServerConnected() {
@@ -188,7 +185,7 @@ void Session::LogIn() {
     const std::optional<std::string> path = FindProfileFile(bot_, bot_.profile.characterPath);
     if (!path) throw RuntimeFault(FaultKind::FileNotFound, ToUtf8(bot_.profile.characterPath));
     PlaceMark place(bot_, *path);
-    const Character character = ReadCharacter(bot_.host.Disk().Read(*path), place);
+    const Character character = ReadCharacter(ValueOrFault(bot_.host.Disk().Read(*path)), place);
     bot_.state.password = character.password;
     bot_.state.vorel.desc = character.desc;
     bot_.state.vorel.looks = character.looks;

@@ -5,25 +5,24 @@
 #include <QFileInfo>
 
 #include "platform/WholeFile.h"
-#include "text/Fault.h"
 
 namespace {
 QString FromPath(const std::string& path) { return QString::fromStdString(path); }
 }  // namespace
 
-std::string DiskFiles::Read(const std::string& path) const {
+Outcome<std::string> DiskFiles::Read(const std::string& path) const {
     QFile file(FromPath(path));
-    if (!file.exists()) throw RuntimeFault(FaultKind::FileNotFound, path);
-    if (!file.open(QIODevice::ReadOnly)) throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    if (!file.exists()) return RuntimeFault(FaultKind::FileNotFound, path);
+    if (!file.open(QIODevice::ReadOnly)) return RuntimeFault(FaultKind::PathOrFileAccess, path);
     const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    if (file.error() != QFileDevice::NoError) return RuntimeFault(FaultKind::PathOrFileAccess, path);
     return bytes.toStdString();
 }
 
-void DiskFiles::Write(const std::string& path, std::string_view bytes) {
+Outcome<Done> DiskFiles::Write(const std::string& path, std::string_view bytes) {
     WholeFile file(path);
     file.Append(bytes);
-    file.Commit();
+    return file.Commit();
 }
 
 std::optional<std::string> DiskFiles::Find(const std::string& path) const {

@@ -4,21 +4,23 @@
 #include "platform/PosixDataFolder.h"
 
 /// The computer's own file system. Files are written by WholeFile, which tells what becomes of links, modes and what
-/// may not be written; a fault of writing names the file and the reason.
+/// may not be written.
 class DiskFiles final : public Files {
   public:
-    std::string Read(const std::string& path) const override;
-    void Write(const std::string& path, std::string_view bytes) override;
+    Outcome<std::string> Read(const std::string& path) const override;
+    Outcome<Done> Write(const std::string& path, std::string_view bytes) override;
     std::optional<std::string> Find(const std::string& path) const override;
     std::string Absolute(const std::string& path) const override;
     std::string DataPath(const std::string& folder, const std::string& name) const override {
         return dataFolder::PathOf(folder, name);
     }
-    std::optional<std::string> ReadData(const std::string& path) const override { return dataFolder::Read(path); }
+    Outcome<std::optional<std::string>> ReadData(const std::string& path) const override {
+        return dataFolder::Read(path);
+    }
     bool LeadToSameFile(const std::string& a, const std::string& b) const override {
         return dataFolder::LeadToSameFile(a, b);
     }
-    std::unique_ptr<Lock> LockFolder(const std::string& folder) override {
+    Outcome<std::unique_ptr<Lock>> LockFolder(const std::string& folder) override {
         return dataFolder::LockFolder(folder, dataFolder::kPatience);
     }
 };

@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
-#include "text/Fault.h"
 
 namespace {
 
@@ -30,12 +29,14 @@ class FolderLock final : public Files::Lock {
     Descriptor folder_;
 };
 
-[[noreturn]] void CantBeOpened(const std::string& path, const std::string& why) {
-    throw RuntimeFault(FaultKind::PathOrFileAccess, path + ": " + why);
+using Contents = std::optional<std::string>;
+
+RuntimeFault CantBeOpened(const std::string& path, const std::string& why) {
+    return RuntimeFault(FaultKind::PathOrFileAccess, path + ": " + why);
 }
 
-[[noreturn]] void CantBeRead(const std::string& path, int error) {
-    CantBeOpened(path, "it can't be read: " + std::generic_category().message(error));
+RuntimeFault CantBeRead(const std::string& path, int error) {
+    return CantBeOpened(path, "it can't be read: " + std::generic_category().message(error));
 }
 
 /// The path without links; nothing when it leads nowhere, and the reason in errno.
@@ -66,18 +67,18 @@ std::string WhyNoDataFile(const struct stat& what) {
 }
 
 /// What the file holds; it may have grown since it was looked at.
-std::string ReadAll(const Descriptor& file, const std::string& path, std::size_t size) {
+Outcome<Contents> ReadAll(const Descriptor& file, const std::string& path, std::size_t size) {
     std::string bytes(size, '\0');
     std::size_t filled = 0;
     while (filled < bytes.size()) {
         const ssize_t count = ::read(file.Number(), bytes.data() + filled, bytes.size() - filled);
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) CantBeRead(path, errno);
+        if (count < 0) return CantBeRead(path, errno);
         if (count == 0) break;
         filled += static_cast<std::size_t>(count);
     }
     bytes.resize(filled);
-    return bytes;
+    return Contents(std::move(bytes));
 }
 
 }  // namespace
@@ -97,19 +98,19 @@ std::string dataFolder::PathOf(const std::string& folder, const std::string& nam
     return path;
 }
 
-std::optional<std::string> dataFolder::Read(const std::string& path) {
+Outcome<std::optional<std::string>> dataFolder::Read(const std::string& path) {
     const std::optional<std::string> real = Canonical(path);
-    if (!real && !Exists(path)) return std::nullopt;
-    if (!real) CantBeOpened(path, "it is a link that leads nowhere");
+    if (!real && !Exists(path)) return Contents();
+    if (!real) return CantBeOpened(path, "it is a link that leads nowhere");
     const std::optional<std::string> folder = CanonicalFolderOf(path);
     if (!folder || !real->starts_with(*folder + (*folder == "/" ? "" : "/")))
-        CantBeOpened(path, "it is a link that leads out of its folder");
+        return CantBeOpened(path, "it is a link that leads out of its folder");
     // A pipe would wait for somebody to write; a terminal would become the program's own.
     const Descriptor file(::open(real->c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!file.IsOpen()) CantBeRead(path, errno);
+    if (!file.IsOpen()) return CantBeRead(path, errno);
     struct stat what {};
-    if (::fstat(file.Number(), &what) != 0) CantBeRead(path, errno);
-    if (const std::string why = WhyNoDataFile(what); !why.empty()) CantBeOpened(path, why);
+    if (::fstat(file.Number(), &what) != 0) return CantBeRead(path, errno);
+    if (const std::string why = WhyNoDataFile(what); !why.empty()) return CantBeOpened(path, why);
     return ReadAll(file, path, static_cast<std::size_t>(what.st_size));
 }
 
@@ -122,9 +123,10 @@ bool dataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
     return folder && folder == CanonicalFolderOf(b) && SameName(FileNameOf(a), FileNameOf(b));
 }
 
-std::unique_ptr<Files::Lock> dataFolder::LockFolder(const std::string& folder, std::chrono::milliseconds patience) {
+Outcome<std::unique_ptr<Files::Lock>> dataFolder::LockFolder(const std::string& folder,
+                                                             std::chrono::milliseconds patience) {
     auto lock = TryLockFolder(folder, patience);
-    if (!lock) CantBeOpened(folder.empty() ? "." : folder, "another program keeps its data files locked");
+    if (!lock) return CantBeOpened(folder.empty() ? "." : folder, "another program keeps its data files locked");
     return lock;
 }
 

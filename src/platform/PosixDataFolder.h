@@ -14,12 +14,12 @@ namespace dataFolder {
 inline constexpr std::chrono::milliseconds kPatience{5000};
 
 std::string PathOf(const std::string& folder, const std::string& name);
-std::optional<std::string> Read(const std::string& path);
+Outcome<std::optional<std::string>> Read(const std::string& path);
 bool LeadToSameFile(const std::string& a, const std::string& b);
 
 /// The lock lies on the folder itself, so that no file is left behind and no data file can be in its way. On a file
 /// system that knows no such lock, and in a folder that is not there, nothing is locked.
-std::unique_ptr<Files::Lock> LockFolder(const std::string& folder, std::chrono::milliseconds patience);
+Outcome<std::unique_ptr<Files::Lock>> LockFolder(const std::string& folder, std::chrono::milliseconds patience);
 
 /// The same, giving nothing when another program has it for too long.
 std::unique_ptr<Files::Lock> TryLockFolder(const std::string& folder, std::chrono::milliseconds patience);

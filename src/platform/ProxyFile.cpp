@@ -61,9 +61,9 @@ void ProxyFile::Write(const std::string& path, std::string_view text) {
     path_ = path;
     text_ = text;
     const bool isBots = Exists(Marker()) && Holds(path, BytesOf(Marker()));  // here still, or left by a crash
-    disk_.Write(Marker(), text);  // first: where this fails, on a full disk, nothing has been moved yet
+    ValueOrFault(disk_.Write(Marker(), text));  // first: where this fails, on a full disk, nothing has been moved yet
     isBots ? Remove(path) : KeepUsersFile();
-    disk_.Write(path, text);
+    ValueOrFault(disk_.Write(path, text));
 }
 
 void ProxyFile::KeepUsersFile() {

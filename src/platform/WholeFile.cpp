@@ -17,7 +17,6 @@
 #include <utility>
 
 #include "bot/Files.h"
-#include "text/Fault.h"
 
 namespace {
 
@@ -85,88 +84,96 @@ bool LockedInTime(int file) {
 
 }  // namespace
 
-WholeFile::WholeFile(std::string path) : path_(std::move(path)) {
-    // The system would take the name to end there, and write another file.
-    if (path_.find('\0') != path_.npos) Fail(ReasonOf(EINVAL));
-    const std::string target = WhereLinksLead(path_);
-    name_ = FileNameOf(target);
-    OpenFolder(FolderOf(target));
-    mode_ = ModeInPlace();
-    MakeTemporary();
-}
+WholeFile::WholeFile(std::string path) : path_(std::move(path)) { Begin(); }
 
 WholeFile::~WholeFile() {
     if (!temporary_.empty()) ::unlinkat(folder_.Number(), temporary_.c_str(), 0);
 }
 
+bool WholeFile::Begin() {
+    // The system would take the name to end there, and write another file.
+    if (path_.find('\0') != path_.npos) return Fail(ReasonOf(EINVAL));
+    const std::string target = WhereLinksLead(path_);
+    name_ = FileNameOf(target);
+    return OpenFolder(FolderOf(target)) && ReadModeInPlace() && MakeTemporary();
+}
+
 /// Opened before anything is written: a folder that can't be synced in the end is known before the old file is gone.
-void WholeFile::OpenFolder(const std::string& folder) {
+bool WholeFile::OpenFolder(const std::string& folder) {
     const char* const path = folder.empty() ? "." : folder.c_str();
     folder_ = Descriptor(Uninterrupted([&] { return ::open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    Must(folder_.Number());
+    if (!Check(folder_.Number())) return false;
     if (IsFirstVisit(folder)) ClearUnfinished(folder);
+    return true;
 }
 
-std::optional<mode_t> WholeFile::ModeInPlace() const {
-    if (name_.empty()) Fail(ReasonOf(EISDIR));
+bool WholeFile::ReadModeInPlace() {
+    if (name_.empty()) return Fail(ReasonOf(EISDIR));
     struct stat status {};
-    if (::fstatat(folder_.Number(), name_.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
-        if (errno != ENOENT) Fail(ReasonOf(errno));
-        return std::nullopt;
-    }
-    if (S_ISLNK(status.st_mode)) Fail(ReasonOf(ELOOP));
-    if (S_ISDIR(status.st_mode)) Fail(ReasonOf(EISDIR));
-    if (!S_ISREG(status.st_mode)) Fail("It is no ordinary file");
-    Must(::faccessat(folder_.Number(), name_.c_str(), W_OK, AT_EACCESS));
-    return status.st_mode & kAllModes;
+    if (::fstatat(folder_.Number(), name_.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT || Fail(ReasonOf(errno));
+    if (S_ISLNK(status.st_mode)) return Fail(ReasonOf(ELOOP));
+    if (S_ISDIR(status.st_mode)) return Fail(ReasonOf(EISDIR));
+    if (!S_ISREG(status.st_mode)) return Fail("It is no ordinary file");
+    mode_ = status.st_mode & kAllModes;
+    return Check(::faccessat(folder_.Number(), name_.c_str(), W_OK, AT_EACCESS));
 }
 
-void WholeFile::MakeTemporary() {
+bool WholeFile::MakeTemporary() {
     constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     for (int draw = 0; draw < kNameDraws; ++draw) {
         const std::string name = DrawName();
         file_ = Descriptor(Uninterrupted([&] { return ::openat(folder_.Number(), name.c_str(), kFlags, kOwnerOnly); }));
         if (file_.IsOpen() && LockedInTime(file_.Number())) {
             temporary_ = name;
-            return;
+            return true;
         }
-        if (!file_.IsOpen() && errno != EEXIST) Fail(ReasonOf(errno));
+        if (!file_.IsOpen() && errno != EEXIST) return Fail(ReasonOf(errno));
     }
-    Fail(ReasonOf(EEXIST));
+    return Fail(ReasonOf(EEXIST));
 }
 
 void WholeFile::Append(std::string_view bytes) {
-    while (!bytes.empty()) {
+    while (!trouble_ && !bytes.empty()) {
         const auto written = Uninterrupted([&] { return ::write(file_.Number(), bytes.data(), bytes.size()); });
-        if (written < 0) Fail(ReasonOf(errno));
-        bytes.remove_prefix(static_cast<std::size_t>(written));
+        if (written < 0) {
+            Fail(ReasonOf(errno));
+        } else {
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
     }
 }
 
 /// Asks only for what is not so already: some file systems have one mode for all files, and refuse any change.
-void WholeFile::KeepMode() const {
+bool WholeFile::KeepMode() {
     struct stat status {};
-    Must(::fstat(file_.Number(), &status));
-    if (mode_ && (status.st_mode & kAllModes) != *mode_) Must(::fchmod(file_.Number(), *mode_));
+    if (!Check(::fstat(file_.Number(), &status))) return false;
+    return !mode_ || (status.st_mode & kAllModes) == *mode_ || Check(::fchmod(file_.Number(), *mode_));
 }
 
-void WholeFile::Commit() {
-    KeepMode();
-    Must(Uninterrupted([&] { return ::fsync(file_.Number()); }));
-    Must(::renameat(folder_.Number(), temporary_.c_str(), folder_.Number(), name_.c_str()));
+Outcome<Done> WholeFile::Commit() {
+    if (trouble_ || !Finish()) return *trouble_;
+    return Done{};
+}
+
+bool WholeFile::Finish() {
+    return KeepMode() && Check(Uninterrupted([&] { return ::fsync(file_.Number()); })) && PutIntoPlace() &&
+           Check(::close(file_.Release()));
+}
+
+bool WholeFile::PutIntoPlace() {
+    if (!Check(::renameat(folder_.Number(), temporary_.c_str(), folder_.Number(), name_.c_str()))) return false;
     temporary_.clear();
     const int synced = Uninterrupted([&] { return ::fsync(folder_.Number()); });
     // Some file systems have nothing to sync in a folder.
-    if (errno != EINVAL) Must(synced);
-    Must(::close(file_.Release()));
+    return errno == EINVAL || Check(synced);
 }
 
-void WholeFile::Must(int result) const {
-    if (result < 0) Fail(ReasonOf(errno));
-}
+bool WholeFile::Check(int result) { return result >= 0 || Fail(ReasonOf(errno)); }
 
-void WholeFile::Fail(const std::string& reason) const {
-    throw RuntimeFault(FaultKind::PathOrFileAccess, path_ + ": " + reason);
+bool WholeFile::Fail(const std::string& reason) {
+    trouble_ = RuntimeFault(FaultKind::PathOrFileAccess, path_ + ": " + reason);
+    return false;
 }
 
 void ClearUnfinished(const std::string& folder) {

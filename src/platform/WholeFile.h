@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/Descriptor.h"
+#include "text/Outcome.h"
 
 /// A file that is written whole or not at all. It grows under a temporary name beside its place, is synced to the disk
 /// and renamed over what was there, and then the folder is synced: whenever a call fails, the program is killed or the
@@ -24,11 +25,12 @@
 ///
 /// The temporary is called ".tvorel-unfinished-" and 16 hexadecimal digits, a name that no file of a bot can have, and
 /// is locked while it is written. A process that was killed leaves it behind, unlocked: ClearUnfinished takes it away.
+///
+/// After something has gone wrong nothing more is done; Commit says what it was.
 class WholeFile {
   public:
     /// Begins the file; the first one in a folder takes away what killed processes have left there.
     /// @param path  UTF-8
-    /// @throws RuntimeFault PathOrFileAccess, like the other operations, with the path and the reason
     explicit WholeFile(std::string path);
 
     /// Takes the temporary away when the file was not committed.
@@ -38,9 +40,14 @@ class WholeFile {
 
     void Append(std::string_view bytes);
 
-    /// Puts what was appended into its place. A fault that comes only when the folder is synced or the file closed
-    /// finds the new file in its place, but nobody can promise that it stays there when the power goes.
-    void Commit();
+    /// What has gone wrong so far, for those who don't want to wait for Commit.
+    const std::optional<RuntimeFault>& Trouble() const { return trouble_; }
+
+    /// Puts what was appended into its place.
+    /// @return PathOrFileAccess with the path and the reason, when anything has gone wrong. What comes only when the
+    ///         folder is synced or the file closed finds the new file in its place, but nobody can promise that it
+    ///         stays there when the power goes.
+    Outcome<Done> Commit();
 
   private:
     std::string path_;       ///< as it was asked for, for faults
@@ -48,13 +55,18 @@ class WholeFile {
     std::string temporary_;  ///< its name until then; empty when there is none
     Descriptor folder_, file_;
     std::optional<mode_t> mode_;  ///< of the file in its place; nothing when there is none
+    std::optional<RuntimeFault> trouble_;
 
-    void OpenFolder(const std::string& folder);
-    std::optional<mode_t> ModeInPlace() const;
-    void KeepMode() const;
-    void MakeTemporary();
-    void Must(int result) const;
-    [[noreturn]] void Fail(const std::string& reason) const;
+    // Each step says whether all is well; if not, trouble_ tells why.
+    bool Begin();
+    bool OpenFolder(const std::string& folder);
+    bool ReadModeInPlace();
+    bool MakeTemporary();
+    bool Finish();
+    bool KeepMode();
+    bool PutIntoPlace();
+    bool Check(int result);
+    bool Fail(const std::string& reason);
 };
 
 /// Takes away the temporaries that killed processes have left in a folder. Those of running programs stay, and so does

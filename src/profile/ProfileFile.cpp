@@ -28,20 +28,23 @@ Entry ReadEntry(const std::string& line) {
     return {LowerCase(line.substr(0, keyEnd)), line.substr(keyEnd)};
 }
 
-void SetConnectClient(Profile& profile, const std::string& value) {
-    profile.connectClient = LeadingNumberOrZero(value);
+template <std::int16_t Profile::*Field>
+Outcome<Done> SetNumber(Profile& profile, const std::string& value) {
+    const Outcome<std::int16_t> number = ReadLeadingNumber(value);
+    if (!number) return number.Fault();
+    profile.*Field = *number;
+    return Done{};
 }
-void SetCloseClient(Profile& profile, const std::string& value) { profile.closeClient = LeadingNumberOrZero(value); }
-void SetPort(Profile& profile, const std::string& value) { profile.port = LeadingNumberOrZero(value); }
 
 template <std::string Profile::*Field>
-void SetText(Profile& profile, const std::string& value) {
+Outcome<Done> SetText(Profile& profile, const std::string& value) {
     profile.*Field = value;
+    return Done{};
 }
 
 struct Key {
     std::string_view name;
-    void (*set)(Profile&, const std::string& value);
+    Outcome<Done> (*set)(Profile&, const std::string& value);
 };
 
 /// The keys that both readers take alike; "logo=" and "script=" are read by each in its own way.
@@ -50,12 +53,13 @@ constexpr Key kKeys[] = {
     {"furcadiacharacter=", SetText<&Profile::characterPath>},
     {"owners=", SetText<&Profile::owners>},
     {"maps=", SetText<&Profile::maps>},
-    {"connectclient=", SetConnectClient},
-    {"closeclient=", SetCloseClient},
-    {"port=", SetPort},
+    {"connectclient=", SetNumber<&Profile::connectClient>},
+    {"closeclient=", SetNumber<&Profile::closeClient>},
+    {"port=", SetNumber<&Profile::port>},
 };
 
-void TakeValue(Profile& profile, const Entry& entry, bool signatureFirst) {
+/// @return Overflow, for a number beyond 16 bits
+Outcome<Done> TakeValue(Profile& profile, const Entry& entry, bool signatureFirst) {
     if (entry.key == "logo=") {
         profile.signatureFirst = signatureFirst;
     } else if (entry.key == "script=") {
@@ -63,27 +67,25 @@ void TakeValue(Profile& profile, const Entry& entry, bool signatureFirst) {
     } else {
         const auto* const key =
             std::find_if(std::begin(kKeys), std::end(kKeys), [&](const Key& row) { return row.name == entry.key; });
-        if (key != std::end(kKeys)) key->set(profile, entry.value);
+        if (key != std::end(kKeys)) return key->set(profile, entry.value);
     }
+    return Done{};
 }
 
 void AddRemark(ProfileLoad& load, const std::optional<std::string>& remark) {
     if (remark) load.remarks.push_back(*remark);
 }
 
-/// The character file is read only when the bot logs in; what is the matter with it is told before.
+/// The character file is read only when the bot logs in; what is the matter with it is told before. One that can't be
+/// read the login will name.
 void RemarkOnCharacter(const Bot& bot, ProfileLoad& load) {
     const auto path = FindProfileFile(bot, bot.profile.characterPath);
     if (!path) return;
-    try {
-        AddRemark(load, FileRemark(FileKind::Character, *path, bot.host.Disk().Read(*path)));
-    } catch (const RuntimeFault&) {
-        // The login will name it.
-    }
+    if (const auto bytes = bot.host.Disk().Read(*path)) AddRemark(load, FileRemark(FileKind::Character, *path, *bytes));
 }
 
 void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& load) {
-    TakeValue(bot.profile, entry, signatureFirst);
+    ValueOrFault(TakeValue(bot.profile, entry, signatureFirst));
     if (entry.key != "script=") return;
     if (const auto path = FindProfileFile(bot, entry.value)) {
         AddRemark(load, LoadScript(bot, *path));
@@ -94,7 +96,7 @@ void TakeEntry(Bot& bot, const Entry& entry, bool signatureFirst, ProfileLoad& l
 
 /// The lines of a profile's file. Which character files they name is known before a script among them is loaded.
 std::vector<std::string> ReadProfileLines(Bot& bot, const std::string& path, ProfileLoad& load) {
-    const std::string bytes = bot.host.Disk().Read(path);
+    const std::string bytes = ValueOrFault(bot.host.Disk().Read(path));
     AddRemark(load, FileRemark(FileKind::Profile, path, bytes));
     std::vector<std::string> lines = FileLines(bytes);
     bot.characterPaths.clear();
@@ -173,14 +175,16 @@ std::string ProfileBytes(const Profile& profile) {
     return JoinFileLines(lines);
 }
 
-void SaveProfile(Bot& bot, const std::string& path) {
+Outcome<Done> SaveProfile(Bot& bot, const std::string& path) {
     const std::string file = WithExtension(path, kProfileExtension);
-    bot.host.Disk().Write(file, ProfileBytes(bot.profile));
+    const Outcome<Done> written = bot.host.Disk().Write(file, ProfileBytes(bot.profile));
+    if (!written) return written;
     bot.profile.path = bot.host.Disk().Absolute(file);
     bot.profile.dirty = false;
+    return written;
 }
 
-void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes) {
+Outcome<Done> RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes) {
     Profile profile;
     profile.path = path;
     profile.dirty = true;
@@ -189,9 +193,11 @@ void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes) {
         const Entry entry = ReadEntry(line);
         if (inIgnores) profile.ignores.push_back(line);
         inIgnores = inIgnores || (IsSectionLine(line) && SectionName(line) == "ignores");
-        if (!inIgnores) TakeValue(profile, entry, SaysTrue(entry));
+        if (inIgnores) continue;
+        if (const auto taken = TakeValue(profile, entry, SaysTrue(entry)); !taken) return taken;
     }
     bot.profile = profile;
+    return Done{};
 }
 
 void NewProfile(Bot& bot) {

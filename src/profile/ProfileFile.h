@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "text/Outcome.h"
+
 struct Bot;
 struct Profile;
 
@@ -30,16 +32,16 @@ ProfileLoad OpenProfile(Bot& bot, const std::string& path);
 
 /// Writes the current profile to a path, over an existing file, and keeps that path as its own; ".tvm" is added to a
 /// name without it. Clears the dirty flag.
-/// @throws RuntimeFault PathOrFileAccess
-void SaveProfile(Bot& bot, const std::string& path);
+/// @return PathOrFileAccess, when it can't be written; then nothing else is done either
+Outcome<Done> SaveProfile(Bot& bot, const std::string& path);
 
 /// What SaveProfile writes.
 std::string ProfileBytes(const Profile& profile);
 
 /// Takes back an unsaved profile from its bytes, without loading its script; the profile is dirty then.
 /// @param path  of the file that it is an unsaved change of, UTF-8; may be empty
-/// @throws RuntimeFault Overflow, for a number beyond 16 bits
-void RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes);
+/// @return Overflow, for a number beyond 16 bits; the bot keeps its profile then
+Outcome<Done> RestoreProfile(Bot& bot, const std::string& path, std::string_view bytes);
 
 /// Empties the profile and the user variables, and puts the new-script template in place of the script.
 void NewProfile(Bot& bot);

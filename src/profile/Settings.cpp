@@ -8,7 +8,7 @@ Settings LoadSettings(const Files& disk, const std::string& folder) {
     Settings settings;
     const auto path = disk.Find(JoinPath(folder, kSettingsFile));
     if (!path) return settings;
-    for (const std::string& line : FileLines(disk.Read(*path))) {
+    for (const std::string& line : FileLines(ValueOrFault(disk.Read(*path)))) {
         const std::size_t keyEnd = line.find('=', 1) + 1;  // 0 when there is no "="
         const std::string key = LowerCase(line.substr(0, keyEnd)), value = line.substr(keyEnd);
         if (key == "recent=") {
@@ -24,12 +24,12 @@ Settings LoadSettings(const Files& disk, const std::string& folder) {
     return settings;
 }
 
-void SaveSettings(Files& disk, const std::string& folder, const Settings& settings) {
+Outcome<Done> SaveSettings(Files& disk, const std::string& folder, const Settings& settings) {
     const std::string recent = FitsCodePage(settings.recent) ? FromUtf8(settings.recent) : std::string();
-    disk.Write(JoinPath(folder, kSettingsFile), JoinFileLines({
-                                                    "[General]",
-                                                    "Recent=" + recent,
-                                                    "Top=" + FormatNumber(settings.top),
-                                                    "Left=" + FormatNumber(settings.left),
-                                                }));
+    return disk.Write(JoinPath(folder, kSettingsFile), JoinFileLines({
+                                                           "[General]",
+                                                           "Recent=" + recent,
+                                                           "Top=" + FormatNumber(settings.top),
+                                                           "Left=" + FormatNumber(settings.left),
+                                                       }));
 }

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "text/Outcome.h"
+
 class Files;
 
 inline constexpr char kSettingsFile[] = "tvorel.cfg";
@@ -15,8 +17,9 @@ struct Settings {
 
 /// Reads the settings; a missing file leaves the defaults, other lines in it are passed over.
 /// @param folder  the program's, UTF-8
+/// @throws RuntimeFault PathOrFileAccess, when they can't be read
 Settings LoadSettings(const Files& disk, const std::string& folder);
 
 /// Writes the settings over the old ones.
-/// @throws RuntimeFault PathOrFileAccess
-void SaveSettings(Files& disk, const std::string& folder, const Settings& settings);
+/// @return PathOrFileAccess, when they can't be written
+Outcome<Done> SaveSettings(Files& disk, const std::string& folder, const Settings& settings);

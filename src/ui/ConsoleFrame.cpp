@@ -139,7 +139,7 @@ void ConsoleFrame::Save() {
     const auto path = dialogs_.AskSaveFile(this, tr("Save the console"), tr("Text (*.txt) | *.txt"), {});
     if (!path) return;
     try {
-        DiskFiles().Write(TypedPath(*path), lstView_->Lines().AllText().toStdString());
+        ValueOrFault(DiskFiles().Write(TypedPath(*path), lstView_->Lines().AllText().toStdString()));
     } catch (const RuntimeFault& fault) {
         dialogs_.ShowMessage(this, ShownFault(fault), tr("Save the console"), Dialogs::Icon::Critical);
     }

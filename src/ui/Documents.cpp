@@ -118,7 +118,7 @@ void Documents::OpenProfileFile(const std::string& path) {
         emit Told(tr("%1 has ended the program the last time, so its script is not loaded. Opened once more, it is.")
                       .arg(ShownPath(path)));
         return host_.RunHandler([&] {
-            TakeUpProfile(absolute, host_.Disk().Read(absolute));
+            TakeUpProfile(absolute, ValueOrFault(host_.Disk().Read(absolute)));
             bot().profile.dirty = false;
         });
     }
@@ -132,7 +132,7 @@ void Documents::OpenProfileFile(const std::string& path) {
 /// Takes up a profile that may have ended the program, without what has done it: its script only stands in the editor.
 void Documents::TakeUpProfile(const std::string& path, const std::string& bytes) {
     try {
-        RestoreProfile(bot(), path, bytes);
+        ValueOrFault(RestoreProfile(bot(), path, bytes));
         bot().script.reset();
         scriptLeftOut_ = true;
         host_.StopTrying();
@@ -180,7 +180,7 @@ bool Documents::WriteProfile(const std::string& path) {
     editor_.NameScriptFrom(absolute);
     if (const auto unnamed = NameFilesFrom(bot(), absolute)) return refuse(WhyNotNamed(*unnamed));
     try {
-        ::SaveProfile(bot(), path);
+        ValueOrFault(::SaveProfile(bot(), path));
     } catch (const RuntimeFault& fault) {
         // The profile is still here, and can be saved elsewhere.
         return refuse(tr("%1.\nThe profile counts as not saved; choose another place for it.").arg(ShownFault(fault)));

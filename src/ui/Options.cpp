@@ -14,7 +14,8 @@ QVariantMap ReadOptions(const std::string& file) {
     const DiskFiles disk;
     if (!disk.Find(file)) return {};
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(disk.Read(file)), &error);
+    const QJsonDocument document =
+        QJsonDocument::fromJson(QByteArray::fromStdString(ValueOrFault(disk.Read(file))), &error);
     if (!document.isObject()) {
         const std::string why =
             error.error == QJsonParseError::NoError ? "no object" : error.errorString().toStdString();
@@ -46,7 +47,8 @@ void Options::Keep() {
         // Another program that runs from the same folder may have changed something else.
         QVariantMap wanted = ReadOptions(file_);
         wanted.insert(unkept_);
-        DiskFiles().Write(file_, QJsonDocument(QJsonObject::fromVariantMap(wanted)).toJson().toStdString());
+        const std::string json = QJsonDocument(QJsonObject::fromVariantMap(wanted)).toJson().toStdString();
+        ValueOrFault(DiskFiles().Write(file_, json));
         values_ = wanted;
         unkept_.clear();
     });

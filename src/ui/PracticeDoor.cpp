@@ -19,7 +19,7 @@ int PracticeDoor::Open() {
     PracticeSettings settings;
     const std::string tourFile = JoinPath(FolderOf(host_.bot().profile.path), "tour.txt");
     if (const auto tour = host_.Disk().Find(tourFile)) {
-        TourReading reading = ReadTour(host_.Disk().Read(*tour), *tour);
+        TourReading reading = ReadTour(ValueOrFault(host_.Disk().Read(*tour)), *tour);
         if (!reading.fault.empty()) emit TourRefused(QString::fromStdString(reading.fault));
         settings.tour = std::move(reading.tour);
     }

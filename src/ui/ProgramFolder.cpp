@@ -17,7 +17,8 @@ constexpr char kOwnFolder[] = "tvorel.own";
 std::string InstalledCommandList(const Files& disk) {
     const QDir beside(QCoreApplication::applicationDirPath());
     for (const QString& place : {beside.filePath("../share/tvorel"), beside.filePath("../../share")}) {
-        if (const auto list = disk.Find(QDir(place).filePath(kCommandList).toStdString())) return disk.Read(*list);
+        if (const auto list = disk.Find(QDir(place).filePath(kCommandList).toStdString()))
+            return ValueOrFault(disk.Read(*list));
     }
     return CommandListFile();
 }
@@ -44,7 +45,7 @@ std::string ProvideCommandList(const QString& programFolder) {
     DiskFiles disk;
     const std::string list = QDir(programFolder).filePath(kCommandList).toStdString();
     try {
-        if (!disk.Find(list)) disk.Write(list, InstalledCommandList(disk));
+        if (!disk.Find(list)) ValueOrFault(disk.Write(list, InstalledCommandList(disk)));
     } catch (const RuntimeFault& fault) {
         return fault.Detail();
     }

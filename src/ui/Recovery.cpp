@@ -39,7 +39,7 @@ std::string Recovery::Keep(Slot& slot, const std::optional<Copy>& unsaved) {
     const std::string packed = unsaved ? Packed(*unsaved) : std::string();
     try {
         const bool nothingThere = packed.empty() && !disk_.Find(slot.file);
-        if (slot.written != packed && !nothingThere) disk_.Write(slot.file, packed);
+        if (slot.written != packed && !nothingThere) ValueOrFault(disk_.Write(slot.file, packed));
         slot.written = packed;
     } catch (const std::exception& exception) {
         const RuntimeFault fault =
@@ -52,7 +52,7 @@ std::string Recovery::Keep(Slot& slot, const std::optional<Copy>& unsaved) {
 std::optional<Recovery::Copy> Recovery::Found(const Slot& slot) const {
     try {
         if (!disk_.Find(slot.file)) return std::nullopt;
-        const std::string packed = disk_.Read(slot.file);
+        const std::string packed = ValueOrFault(disk_.Read(slot.file));
         const std::size_t first = packed.find('\n'), second = packed.find('\n', first + 1);
         if (first == packed.npos || second == packed.npos) return std::nullopt;
         return Copy{packed.substr(0, first), packed.substr(first + 1, second - first - 1), packed.substr(second + 1)};

@@ -21,7 +21,7 @@ void ScriptFile::TakeBotScript() {
 }
 
 std::string ScriptFile::Read(const std::string& path) {
-    std::string script = ScriptTextFromFile(host_.Disk().Read(path));
+    std::string script = ScriptTextFromFile(ValueOrFault(host_.Disk().Read(path)));
     path_ = host_.Disk().Absolute(path);
     ClearUnfinished(FolderOf(path_));
     return script;
@@ -29,7 +29,7 @@ std::string ScriptFile::Read(const std::string& path) {
 
 void ScriptFile::Write(const std::string& path, const std::string& script) {
     const std::string file = WithExtension(path, kScriptExtension);
-    host_.Disk().Write(file, ScriptTextToFile(script));
+    ValueOrFault(host_.Disk().Write(file, ScriptTextToFile(script)));
     path_ = file;
 }
 

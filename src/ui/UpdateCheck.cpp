@@ -7,7 +7,6 @@
 
 #include "Version.h"
 #include "platform/WholeFile.h"
-#include "text/Fault.h"
 #include "ui/ShownText.h"
 
 namespace {
@@ -26,15 +25,19 @@ QString Shortened(const QString& text) {
 class ArchiveFile {
   public:
     ArchiveFile(const QString& path, qint64 mostBytes) : room_(mostBytes) {
-        Trying([&] { file_.emplace(TypedPath(path)); });
+        file_.emplace(TypedPath(path));
+        LookForTrouble();
     }
     void Append(const QByteArray& piece) {
         room_ -= piece.size();
         if (room_ < 0 && why_.isEmpty()) why_ = UpdateCheck::tr("It is too large.");
-        Trying([&] { file_->Append({piece.data(), static_cast<std::size_t>(piece.size())}); });
+        if (!why_.isEmpty()) return;
+        file_->Append({piece.data(), static_cast<std::size_t>(piece.size())});
+        LookForTrouble();
     }
     void Commit() {
-        Trying([&] { file_->Commit(); });
+        if (!why_.isEmpty()) return;
+        if (const auto done = file_->Commit(); !done) GiveUp(done.Fault());
     }
     const QString& Why() const { return why_; }
 
@@ -43,14 +46,12 @@ class ArchiveFile {
     qint64 room_;
     QString why_;
 
-    void Trying(const std::function<void()>& work) {
-        if (!why_.isEmpty()) return;
-        try {
-            work();
-        } catch (const RuntimeFault& fault) {
-            why_ = ShownPath(fault.Detail());
-            file_.reset();
-        }
+    void LookForTrouble() {
+        if (const auto trouble = file_->Trouble()) GiveUp(*trouble);
+    }
+    void GiveUp(const RuntimeFault& fault) {
+        why_ = ShownPath(fault.Detail());
+        file_.reset();
     }
 };
 

@@ -289,7 +289,7 @@ void frmGS::closeEvent(QCloseEvent* event) {
 
 void frmGS::LoadCommands(const std::string& path) {
     const std::optional<std::string> found = host_.Disk().Find(path);
-    commands_->ShowCommands(found ? FileLines(host_.Disk().Read(*found)) : std::vector<std::string>());
+    commands_->ShowCommands(found ? FileLines(ValueOrFault(host_.Disk().Read(*found))) : std::vector<std::string>());
 }
 
 void frmGS::InsertCommand(const QString& command) {

@@ -274,7 +274,7 @@ void frmVorel::SaveAllSettings() {
         settings.left = x();
     }
     try {
-        SaveSettings(host_.Disk(), TypedPath(folder_), settings);
+        ValueOrFault(SaveSettings(host_.Disk(), TypedPath(folder_), settings));
     } catch (const RuntimeFault& fault) {
         // The console goes with the window.
         dialogs_.ShowMessage(

@@ -83,17 +83,17 @@ TEST(SaveProfile, WritesTheWholeLayout) {
     RehearsalBot bot;
     Profile& profile = bot.bot.profile;
     profile = {"", "c.exe", "b\xe9.ini", "Ann, Bob", "Vale", 1, -1, false, 80, "s.vs", {"Mean|One", "Zed"}, true};
-    SaveProfile(bot.bot, "bots/mybot");
+    EXPECT_TRUE(SaveProfile(bot.bot, "bots/mybot"));
     EXPECT_EQ(bot.files.contents["bots/mybot.tvm"],
               "[General]\r\nFurcadiaClient=c.exe\r\nFurcadiaCharacter=b\xe9.ini\r\nOwners=Ann, Bob\r\nMaps=Vale\r\n"
               "ConnectClient=1\r\nCloseClient=-1\r\nLogo=False\r\nPort=80\r\nScript=s.vs\r\n\r\n[Ignores]\r\n"
               "Mean|One\r\nZed\r\n");
     EXPECT_FALSE(profile.dirty);
-    SaveProfile(bot.bot, profile.path);
+    EXPECT_TRUE(SaveProfile(bot.bot, profile.path));
     EXPECT_EQ(profile.path, "bots/mybot.tvm");
     bot.files.unwritable = "full.tvm";
     profile.dirty = true;
-    EXPECT_EQ(FaultOf([&] { SaveProfile(bot.bot, "full"); }), FaultKind::PathOrFileAccess);
+    EXPECT_EQ(SaveProfile(bot.bot, "full").Fault().Kind(), FaultKind::PathOrFileAccess);
     EXPECT_TRUE(profile.dirty);
 }
 
@@ -184,7 +184,7 @@ TEST(Profile, IgnoredNamesMatchWithBarsAndCaseApart) {
 TEST(Settings, AreWrittenAndReadBack) {
     MemoryFiles files;
     EXPECT_FALSE(LoadSettings(files, "home").hasPlace);
-    SaveSettings(files, "home", {"bots/b\xc3\xa9.tvm", 12.5, -3, true});
+    EXPECT_TRUE(SaveSettings(files, "home", {"bots/b\xc3\xa9.tvm", 12.5, -3, true}));
     EXPECT_EQ(files.contents["home/tvorel.cfg"], "[General]\r\nRecent=bots/b\xe9.tvm\r\nTop=12.5\r\nLeft=-3\r\n");
     EXPECT_EQ(LoadSettings(files, "home").recent, "bots/b\xc3\xa9.tvm");
     files.contents = {{"home/TVOREL.CFG", "=\nTop =1\nRECENT=a=b\nLeft=2.5 px\nOther=1\n"}};

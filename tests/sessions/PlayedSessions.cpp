@@ -49,17 +49,17 @@ class PlayedSession : public testing::TestWithParam<std::string> {
     void TellFiles() {
         const std::set<fs::path> files(fs::directory_iterator(folder.path), fs::directory_iterator());
         for (const fs::path& file : files) {
-            told.push_back("file " + file.filename().string() + ": " + ReplaceAll(disk.Read(file), "\r\n", "/"));
+            told.push_back("file " + file.filename().string() + ": " + ReplaceAll(*disk.Read(file), "\r\n", "/"));
         }
     }
 };
 
 TEST_P(PlayedSession, DoesWhatIsWritten) {
-    const WrittenSession session = ParseSession(disk.Read(PathOf(".txt")));
+    const WrittenSession session = ParseSession(*disk.Read(PathOf(".txt")));
     ASSERT_EQ(session.error, std::nullopt);
     Play(session);
     TellFiles();
-    EXPECT_EQ(Join(told, "\n") + "\n", disk.Read(PathOf(".out")));
+    EXPECT_EQ(Join(told, "\n") + "\n", *disk.Read(PathOf(".out")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sessions, PlayedSession, testing::ValuesIn(NamesIn("tests/sessions", ".txt")),

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "bot/Files.h"
-#include "text/Fault.h"
 #include "text/Text.h"
 
 /// Files that live in memory. A path marked unwritable can't be written; the current folder counts for
@@ -15,14 +14,15 @@ class MemoryFiles final : public Files {
     std::string unwritable;
     std::string currentFolder;
 
-    std::string Read(const std::string& path) const override {
+    Outcome<std::string> Read(const std::string& path) const override {
         const auto file = contents.find(path);
-        if (file == contents.end()) throw RuntimeFault(FaultKind::FileNotFound, path);
+        if (file == contents.end()) return RuntimeFault(FaultKind::FileNotFound, path);
         return file->second;
     }
-    void Write(const std::string& path, std::string_view bytes) override {
-        if (path == unwritable) throw RuntimeFault(FaultKind::PathOrFileAccess, path);
+    Outcome<Done> Write(const std::string& path, std::string_view bytes) override {
+        if (path == unwritable) return RuntimeFault(FaultKind::PathOrFileAccess, path);
         contents[path] = bytes;
+        return Done{};
     }
     std::optional<std::string> Find(const std::string& path) const override {
         if (contents.contains(path)) return path;
@@ -37,11 +37,11 @@ class MemoryFiles final : public Files {
         const std::string path = JoinPath(folder, name);
         return Find(path).value_or(path);
     }
-    std::optional<std::string> ReadData(const std::string& path) const override {
-        return contents.contains(path) ? std::optional(Read(path)) : std::nullopt;
+    Outcome<std::optional<std::string>> ReadData(const std::string& path) const override {
+        return contents.contains(path) ? std::optional(contents.at(path)) : std::nullopt;
     }
     bool LeadToSameFile(const std::string& a, const std::string& b) const override {
         return LowerCase(Absolute(a)) == LowerCase(Absolute(b));
     }
-    std::unique_ptr<Lock> LockFolder(const std::string&) override { return nullptr; }
+    Outcome<std::unique_ptr<Lock>> LockFolder(const std::string&) override { return std::unique_ptr<Lock>(); }
 };

@@ -19,15 +19,15 @@ void ReadProfile(const std::string& bytes) {
     bot.files.contents["bot.tvm"] = bytes;
     bot.files.contents["bot.vs"] = "VSPK 01.00 Vorel\r\n(0:0) loaded,\r\n (5:2) note {[vorel.owners]}.\r\n";
     bot.Handle([&] { LoadProfile(bot.bot, "bot.tvm"); });
-    bot.Handle([&] { SaveProfile(bot.bot, "saved.tvm"); });
+    bot.Handle([&] { ValueOrFault(SaveProfile(bot.bot, "saved.tvm")); });
     bot.Handle([&] { OpenProfile(bot.bot, "bot.tvm"); });
-    bot.Handle([&] { RestoreProfile(bot.bot, "bot.tvm", bytes); });
+    bot.Handle([&] { ValueOrFault(RestoreProfile(bot.bot, "bot.tvm", bytes)); });
 }
 
 void ReadSettings(const std::string& bytes) {
     FuzzBot bot;
     bot.files.contents["folder/" + std::string(kSettingsFile)] = bytes;
-    bot.Handle([&] { SaveSettings(bot.files, "folder", LoadSettings(bot.files, "folder")); });
+    bot.Handle([&] { ValueOrFault(SaveSettings(bot.files, "folder", LoadSettings(bot.files, "folder"))); });
 }
 
 void ReadCharacterFile(const std::string& bytes) {
