@@ -138,11 +138,8 @@ void ConsoleFrame::Find(bool ask) {
 void ConsoleFrame::Save() {
     const auto path = dialogs_.AskSaveFile(this, tr("Save the console"), tr("Text (*.txt) | *.txt"), {});
     if (!path) return;
-    try {
-        ValueOrFault(DiskFiles().Write(TypedPath(*path), lstView_->Lines().AllText().toStdString()));
-    } catch (const RuntimeFault& fault) {
-        dialogs_.ShowMessage(this, ShownFault(fault), tr("Save the console"), Dialogs::Icon::Critical);
-    }
+    const auto saved = DiskFiles().Write(TypedPath(*path), lstView_->Lines().AllText().toStdString());
+    if (!saved) dialogs_.ShowMessage(this, ShownFault(saved.Fault()), tr("Save the console"), Dialogs::Icon::Critical);
 }
 
 void ConsoleFrame::ChooseLog(bool on) {

@@ -131,19 +131,20 @@ void Documents::OpenProfileFile(const std::string& path) {
 
 /// Takes up a profile that may have ended the program, without what has done it: its script only stands in the editor.
 void Documents::TakeUpProfile(const std::string& path, const std::string& bytes) {
-    try {
-        ValueOrFault(RestoreProfile(bot(), path, bytes));
-        bot().script.reset();
-        scriptLeftOut_ = true;
-        host_.StopTrying();
-        emit ProfileTakenUp();
-        const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
-        if (!script) return editor_.NewScript();
-        editor_.ShowFile(*script);
-        emit Told(tr("%1 stands in the editor (Script, Edit); saving it there loads it.").arg(ShownPath(*script)));
-    } catch (const RuntimeFault& fault) {
+    const auto tellUnreadable = [&](const RuntimeFault& fault) {
         emit Told(tr("%1 can't be read: %2.").arg(ShownPath(path), QString::fromStdString(std::string(fault.Name()))));
-    }
+    };
+    const auto restored = RestoreProfile(bot(), path, bytes);
+    if (!restored) return tellUnreadable(restored.Fault());
+    bot().script.reset();
+    scriptLeftOut_ = true;
+    host_.StopTrying();
+    emit ProfileTakenUp();
+    const auto script = FindProfileFile(bot(), bot().profile.scriptPath);
+    if (!script) return editor_.NewScript();
+    const auto shown = editor_.ShowFile(*script);
+    if (!shown) return tellUnreadable(shown.Fault());
+    emit Told(tr("%1 stands in the editor (Script, Edit); saving it there loads it.").arg(ShownPath(*script)));
 }
 
 void Documents::ShowLoaded(const ProfileLoad& load, const std::string& path) {
@@ -179,11 +180,10 @@ bool Documents::WriteProfile(const std::string& path) {
     const std::string absolute = host_.Disk().Absolute(path);
     editor_.NameScriptFrom(absolute);
     if (const auto unnamed = NameFilesFrom(bot(), absolute)) return refuse(WhyNotNamed(*unnamed));
-    try {
-        ValueOrFault(::SaveProfile(bot(), path));
-    } catch (const RuntimeFault& fault) {
+    if (const auto saved = ::SaveProfile(bot(), path); !saved) {
         // The profile is still here, and can be saved elsewhere.
-        return refuse(tr("%1.\nThe profile counts as not saved; choose another place for it.").arg(ShownFault(fault)));
+        const QString why = ShownFault(saved.Fault());
+        return refuse(tr("%1.\nThe profile counts as not saved; choose another place for it.").arg(why));
     }
     emit ProfileSaved();
     options_.AddRecentProfile(ShownPath(bot().profile.path));

@@ -4,22 +4,23 @@
 #include <QJsonObject>
 
 #include "platform/DiskFiles.h"
-#include "text/Fault.h"
 #include "ui/ShownText.h"
 
 namespace {
 
-/// @throws RuntimeFault for what is there and can't be read, or is no JSON: it is not to be written over either
-QVariantMap ReadOptions(const std::string& file) {
+/// @return none, when there is no file; a fault for what can't be read, or is no JSON: it is not to be written over
+///         either
+Outcome<QVariantMap> ReadOptions(const std::string& file) {
     const DiskFiles disk;
-    if (!disk.Find(file)) return {};
+    if (!disk.Find(file)) return QVariantMap();
+    const auto bytes = disk.Read(file);
+    if (!bytes) return bytes.Fault();
     QJsonParseError error;
-    const QJsonDocument document =
-        QJsonDocument::fromJson(QByteArray::fromStdString(ValueOrFault(disk.Read(file))), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(*bytes), &error);
     if (!document.isObject()) {
         const std::string why =
             error.error == QJsonParseError::NoError ? "no object" : error.errorString().toStdString();
-        throw RuntimeFault(FaultKind::PathOrFileAccess, file + ": " + why);
+        return RuntimeFault(FaultKind::PathOrFileAccess, file + ": " + why);
     }
     return document.object().toVariantMap();
 }
@@ -27,7 +28,9 @@ QVariantMap ReadOptions(const std::string& file) {
 }  // namespace
 
 Options::Options(const QString& file) : file_(TypedPath(file)) {
-    Trying([this] { values_ = ReadOptions(file_); });
+    const auto read = ReadOptions(file_);
+    if (read) values_ = *read;
+    TellTrouble(read);
 }
 
 void Options::SetTeller(std::function<void(const QString& why)> tell) {
@@ -43,25 +46,29 @@ void Options::Change(const char* key, const QVariant& value) {
 
 void Options::Keep() {
     if (unkept_.isEmpty()) return;
-    Trying([this] {
-        // Another program that runs from the same folder may have changed something else.
-        QVariantMap wanted = ReadOptions(file_);
-        wanted.insert(unkept_);
-        const std::string json = QJsonDocument(QJsonObject::fromVariantMap(wanted)).toJson().toStdString();
-        ValueOrFault(DiskFiles().Write(file_, json));
-        values_ = wanted;
+    const auto kept = WriteUnkept();
+    if (kept) {
+        values_ = *kept;
         unkept_.clear();
-    });
+    }
+    TellTrouble(kept);
 }
 
-/// Reads or writes, and tells of the first time that it fails.
-void Options::Trying(const std::function<void()>& work) {
-    QString trouble;
-    try {
-        work();
-    } catch (const RuntimeFault& fault) {
-        trouble = ShownPath(fault.Detail());
-    }
+/// @return what the file holds now
+Outcome<QVariantMap> Options::WriteUnkept() const {
+    // Another program that runs from the same folder may have changed something else.
+    const auto options = ReadOptions(file_);
+    if (!options) return options;
+    QVariantMap wanted = *options;
+    wanted.insert(unkept_);
+    const std::string json = QJsonDocument(QJsonObject::fromVariantMap(wanted)).toJson().toStdString();
+    const auto written = DiskFiles().Write(file_, json);
+    return written ? wanted : Outcome<QVariantMap>(written.Fault());
+}
+
+/// Tells of the first time that reading or writing fails.
+void Options::TellTrouble(const Outcome<QVariantMap>& outcome) {
+    const QString trouble = outcome ? QString() : ShownPath(outcome.Fault().Detail());
     const bool isNew = trouble_.isEmpty() && !trouble.isEmpty();
     trouble_ = trouble;
     if (isNew && tell_) tell_(trouble_);

@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "net/SendBrake.h"
+#include "text/Outcome.h"
 #include "ui/ConsoleModel.h"
 
 /// One option: its name in the file, and what holds until the user chooses; where nothing is said off, 0 or empty.
@@ -79,5 +80,6 @@ class Options {
     std::function<void(const QString& why)> tell_;
 
     void Change(const char* key, const QVariant& value);
-    void Trying(const std::function<void()>& work);
+    Outcome<QVariantMap> WriteUnkept() const;
+    void TellTrouble(const Outcome<QVariantMap>& outcome);
 };

@@ -7,18 +7,16 @@
 
 #include "language/Commands.h"
 #include "platform/DiskFiles.h"
-#include "text/Fault.h"
 #include "ui/CommandList.h"
 
 namespace {
 
 constexpr char kOwnFolder[] = "tvorel.own";
 
-std::string InstalledCommandList(const Files& disk) {
+Outcome<std::string> InstalledCommandList(const Files& disk) {
     const QDir beside(QCoreApplication::applicationDirPath());
     for (const QString& place : {beside.filePath("../share/tvorel"), beside.filePath("../../share")}) {
-        if (const auto list = disk.Find(QDir(place).filePath(kCommandList).toStdString()))
-            return ValueOrFault(disk.Read(*list));
+        if (const auto list = disk.Find(QDir(place).filePath(kCommandList).toStdString())) return disk.Read(*list);
     }
     return CommandListFile();
 }
@@ -44,10 +42,8 @@ QString OptionsFile(const QString& programFolder) { return QDir(OwnFolder(progra
 std::string ProvideCommandList(const QString& programFolder) {
     DiskFiles disk;
     const std::string list = QDir(programFolder).filePath(kCommandList).toStdString();
-    try {
-        if (!disk.Find(list)) ValueOrFault(disk.Write(list, InstalledCommandList(disk)));
-    } catch (const RuntimeFault& fault) {
-        return fault.Detail();
-    }
-    return {};
+    if (disk.Find(list)) return {};
+    const auto installed = InstalledCommandList(disk);
+    const auto written = installed ? disk.Write(list, *installed) : installed.Fault();
+    return written ? std::string() : written.Fault().Detail();
 }

@@ -2,7 +2,7 @@
 
 #include <QLockFile>
 #include <QString>
-#include <exception>
+#include <new>
 
 #include "text/Fault.h"
 
@@ -12,6 +12,13 @@ constexpr int kMostPrograms = 16;
 
 // A copy is two lines, the paths of the file it belongs to and of the profile, and the bytes. An empty file is no copy.
 std::string Packed(const Recovery::Copy& copy) { return copy.path + "\n" + copy.profile + "\n" + copy.bytes; }
+
+std::optional<Recovery::Copy> Unpacked(const std::string& packed) {
+    const std::size_t first = packed.find('\n'), second = packed.find('\n', first + 1);
+    if (first == packed.npos || second == packed.npos) return std::nullopt;
+    return Recovery::Copy{packed.substr(0, first), packed.substr(first + 1, second - first - 1),
+                          packed.substr(second + 1)};
+}
 
 }  // namespace
 
@@ -39,24 +46,22 @@ std::string Recovery::Keep(Slot& slot, const std::optional<Copy>& unsaved) {
     const std::string packed = unsaved ? Packed(*unsaved) : std::string();
     try {
         const bool nothingThere = packed.empty() && !disk_.Find(slot.file);
-        if (slot.written != packed && !nothingThere) ValueOrFault(disk_.Write(slot.file, packed));
+        if (slot.written != packed && !nothingThere) {
+            // The work itself is still in the window; the next try may do better.
+            if (const auto written = disk_.Write(slot.file, packed); !written) return written.Fault().Detail();
+        }
         slot.written = packed;
-    } catch (const std::exception& exception) {
-        const RuntimeFault fault =
-            AsFault(exception);  // the work itself is still in the window; the next try may do better
-        return fault.Detail().empty() ? std::string(fault.Name()) : fault.Detail();
+    } catch (const std::bad_alloc& refused) {  // the program may be ending for want of memory
+        return std::string(AsFault(refused).Name());
     }
     return {};
 }
 
 std::optional<Recovery::Copy> Recovery::Found(const Slot& slot) const {
     try {
-        if (!disk_.Find(slot.file)) return std::nullopt;
-        const std::string packed = ValueOrFault(disk_.Read(slot.file));
-        const std::size_t first = packed.find('\n'), second = packed.find('\n', first + 1);
-        if (first == packed.npos || second == packed.npos) return std::nullopt;
-        return Copy{packed.substr(0, first), packed.substr(first + 1, second - first - 1), packed.substr(second + 1)};
-    } catch (const std::exception&) {
-        return std::nullopt;  // a copy that can't be read helps nobody
+        const auto packed = disk_.Find(slot.file) ? disk_.Read(slot.file) : std::string();
+        return packed ? Unpacked(*packed) : std::nullopt;  // a copy that can't be read helps nobody
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
     }
 }

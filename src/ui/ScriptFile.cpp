@@ -20,17 +20,19 @@ void ScriptFile::TakeBotScript() {
     if (!path_.empty()) ClearUnfinished(FolderOf(path_));
 }
 
-std::string ScriptFile::Read(const std::string& path) {
-    std::string script = ScriptTextFromFile(ValueOrFault(host_.Disk().Read(path)));
+Outcome<std::string> ScriptFile::Read(const std::string& path) {
+    const auto bytes = host_.Disk().Read(path);
+    if (!bytes) return bytes.Fault();
     path_ = host_.Disk().Absolute(path);
     ClearUnfinished(FolderOf(path_));
-    return script;
+    return ScriptTextFromFile(*bytes);
 }
 
-void ScriptFile::Write(const std::string& path, const std::string& script) {
+Outcome<Done> ScriptFile::Write(const std::string& path, const std::string& script) {
     const std::string file = WithExtension(path, kScriptExtension);
-    ValueOrFault(host_.Disk().Write(file, ScriptTextToFile(script)));
-    path_ = file;
+    auto written = host_.Disk().Write(file, ScriptTextToFile(script));
+    if (written) path_ = file;
+    return written;
 }
 
 ScriptFile::Naming ScriptFile::NameInProfile() {

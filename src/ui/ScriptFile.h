@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "text/Outcome.h"
+
 class QtHost;
 
 /// The script file that is open in the editor: reads and writes it, and has the bot's profile name it.
@@ -22,13 +24,13 @@ class ScriptFile {
     /// The file that an unsaved script is a change of, even if it is gone.
     void TakePath(const std::string& path) { path_ = path; }
 
-    /// @return the script in a file, which is the one that is open from now on
-    /// @throws RuntimeFault when it can't be read
-    std::string Read(const std::string& path);
+    /// @return the script in a file, which is the one that is open from now on; a fault, and nothing else happens, when
+    ///         it can't be read
+    Outcome<std::string> Read(const std::string& path);
 
     /// Writes a script; ".vs" is added to a name without it.
-    /// @throws RuntimeFault PathOrFileAccess; then the old file stays the one that is open
-    void Write(const std::string& path, const std::string& script);
+    /// @return a fault when it can't be written; then the old file stays the one that is open
+    Outcome<Done> Write(const std::string& path, const std::string& script);
 
     enum class Naming { AsBefore, Anew, Impossible };
 

@@ -170,9 +170,9 @@ void frmGS::ShowBotScript() {
     SetText(script->Text());
 }
 
-std::string frmGS::ShowFile(const std::string& path) {
-    std::string text = file_.Read(path);
-    SetText(text);
+Outcome<std::string> frmGS::ShowFile(const std::string& path) {
+    auto text = file_.Read(path);
+    if (text) SetText(*text);
     return text;
 }
 
@@ -183,11 +183,8 @@ void frmGS::NewScript() {
 
 void frmGS::RestoreText(const std::string& path, const std::string& text) {
     NewScript();
-    try {
-        if (const auto file = host_.Disk().Find(path)) ShowFile(*file);
-    } catch (const RuntimeFault&) {
-        // Undoing the change leads to the new script then.
-    }
+    // Where it can't be shown, undoing the change leads to the new script.
+    if (const auto file = host_.Disk().Find(path)) static_cast<void>(ShowFile(*file));
     file_.TakePath(path);
     // Replaced by hand, as it were: only that counts as a change, and it can be undone.
     txtScript_->selectAll();
@@ -216,7 +213,7 @@ void frmGS::ReadFrom(const std::string& path) {
     const std::optional<std::string> found = host_.Disk().Find(path);
     if (!found) return;
     host_.RunHandler([&] {
-        const std::string text = ShowFile(*found);
+        const std::string text = ValueOrFault(ShowFile(*found));
         NameInProfile();
         RunText(text);
     });
@@ -264,13 +261,11 @@ bool frmGS::AskAboutLosses() {
 bool frmGS::WriteTo(const std::string& path) {
     if (!AskAboutLosses()) return false;
     const std::string text = ScriptText();
-    try {
-        file_.Write(path, text);
-    } catch (const RuntimeFault& fault) {
+    if (const auto written = file_.Write(path, text); !written) {
         // The text is still here, and can be saved elsewhere.
-        dialogs_.ShowMessage(
-            this, tr("%1.\nThe script counts as not saved; choose another place for it.").arg(ShownFault(fault)),
-            kSaveTitle, Dialogs::Icon::Critical);
+        const QString why = ShownFault(written.Fault());
+        dialogs_.ShowMessage(this, tr("%1.\nThe script counts as not saved; choose another place for it.").arg(why),
+                             kSaveTitle, Dialogs::Icon::Critical);
         return false;
     }
     txtScript_->setModified(false);

@@ -25,9 +25,8 @@ class frmGS final : public QMainWindow {
 
     /// Shows a script file that the bot does not run until it is saved here.
     /// @param path  of an existing file, UTF-8
-    /// @return its text
-    /// @throws RuntimeFault when it can't be read
-    std::string ShowFile(const std::string& path);
+    /// @return its text; a fault, and nothing else happens, when it can't be read
+    Outcome<std::string> ShowFile(const std::string& path);
 
     /// An empty script with the template.
     void NewScript();

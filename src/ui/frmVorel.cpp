@@ -273,13 +273,12 @@ void frmVorel::SaveAllSettings() {
         settings.top = y();
         settings.left = x();
     }
-    try {
-        ValueOrFault(SaveSettings(host_.Disk(), TypedPath(folder_), settings));
-    } catch (const RuntimeFault& fault) {
+    if (const auto saved = SaveSettings(host_.Disk(), TypedPath(folder_), settings); !saved) {
         // The console goes with the window.
-        dialogs_.ShowMessage(
-            this, tr("%1.\nThe next start will not know this profile and the window's place.").arg(ShownFault(fault)),
-            kProductName, Dialogs::Icon::Critical);
+        const QString why = ShownFault(saved.Fault());
+        dialogs_.ShowMessage(this,
+                             tr("%1.\nThe next start will not know this profile and the window's place.").arg(why),
+                             kProductName, Dialogs::Icon::Critical);
     }
     options_.Keep();
 }
