@@ -288,70 +288,24 @@ class NumberedNames {
     }
 };
 
-void ReplacePlayerName(Expansion& text, std::string_view name) {
-    text.ReplaceText("[player]", name);
-    text.ReplaceText("[player.name]", name);
-}
-
-void ReplacePlayer(Expansion& text, const Furre& furre) {
-    ReplacePlayerName(text, furre.name);
-    text.ReplaceText("[player.colors]", furre.looks.colors);
-    text.ReplaceText("[player.gender]", furre.looks.gender);
-    text.ReplaceText("[player.species]", furre.looks.species);
-    text.ReplaceText("[player.markings]", furre.looks.markings);
-    text.ReplaceText("[player.desc]", furre.desc);
-}
-
-/// Which of the names the bot keeps stands for "[player]" depends on the current event.
+/// Which of the names the bot keeps stands for "[player]" depends on the current event. Of a furre looked at it is the
+/// name alone, the rest of it has variables of its own.
 void ReplaceEventPlayer(Expansion& text) {
     const BotState& state = text.bot().state;
-    switch (text.bot().currentEvent) {
-        case EventSpeech:
-        case EventShout:
-        case EventEmote:
-        case EventWhisper:
-        case EventSelfWhisper:
-            return ReplacePlayer(text, state.player);
-        // Kept on purpose: in these events the subject is the bot itself.
-        case EventSelfSpeech:
-        case EventSelfShout:
-        case EventSelfEmote:
-            return ReplacePlayer(text, state.vorel);
-        case EventLookResult:
-        case EventLookDescription:
-            return ReplacePlayerName(text, state.look.name);
-        case EventVisitorArrived:
-            return ReplacePlayerName(text, state.arrived);
-        case EventVisitorPresent:
-            return ReplacePlayerName(text, state.present);
-        case EventVisitorLeft:
-            return ReplacePlayerName(text, state.departed);
-        case EventJoinRequest:
-        case EventJoinInvite:
-        case EventJoined:
-        case EventSummoned:
-        case EventYouNotice:
-        case EventYourNotice:
-        case EventSummonedAfterAccept:
-        case EventJoinedAfterAccept:
-        case EventPlayerNotice:
-        case EventDiceTotal:
-        case EventDiceRoll:
-            return ReplacePlayerName(text, state.requester);
-        case EventPlayerOnline:
-        case EventPlayerOffline:
-            return ReplacePlayerName(text, state.onlineName);
-        case EventCookieSeen:
-        case EventCookieReceived:
-            ReplacePlayerName(text, state.cookieGiver);
-            return text.ReplaceText("[cookiename]", state.cookieName);
-        // Kept on purpose: the bot gave this cookie, so the furre of the event is the one who got it.
-        case EventCookieGiven:
-            ReplacePlayerName(text, state.cookieName);
-            return text.ReplaceText("[cookiename]", state.cookieGiver);
-        default:
-            return;
+    const EventFacts& event = FactsOf(text.bot().currentEvent);
+    const std::string* const name = event.FurreNameIn(state);
+    if (!name) return;
+    text.ReplaceText("[player]", *name);
+    text.ReplaceText("[player.name]", *name);
+    if (event.furre && event.furre != &BotState::look) {
+        const Furre& furre = state.*event.furre;
+        text.ReplaceText("[player.colors]", furre.looks.colors);
+        text.ReplaceText("[player.gender]", furre.looks.gender);
+        text.ReplaceText("[player.species]", furre.looks.species);
+        text.ReplaceText("[player.markings]", furre.looks.markings);
+        text.ReplaceText("[player.desc]", furre.desc);
     }
+    if (event.otherName) text.ReplaceText("[cookiename]", state.*event.otherName);
 }
 
 /// The words from one on, joined with blanks. Kept on purpose: empty words vanish while nothing is joined yet.

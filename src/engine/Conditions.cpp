@@ -40,40 +40,16 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
 
 // --- the furre of the event ------------------------------------------------------------------------------------
 
-bool IsSpeechEvent(GameEvent event) {
-    return event == EventSpeech || event == EventShout || event == EventWhisper || event == EventSelfWhisper;
-}
+bool IsSpeechEvent(const EventFacts& event) { return event.comparable && event.furre == &BotState::player; }
 
 const Appearance* DescribedLooks(const Bot& bot) {
-    if (IsSpeechEvent(bot.currentEvent)) return &bot.state.player.looks;
-    return bot.currentEvent == EventLookResult ? &bot.state.look.looks : nullptr;
+    const EventFacts& event = FactsOf(bot.currentEvent);
+    return event.comparable && event.furre ? &(bot.state.*event.furre).looks : nullptr;
 }
 
-/// Kept on purpose: fewer events have a name here than have one for "[player]".
 const std::string* EventFurreName(const Bot& bot) {
-    if (IsSpeechEvent(bot.currentEvent)) return &bot.state.player.name;
-    switch (bot.currentEvent) {
-        case EventLookResult:
-            return &bot.state.look.name;
-        case EventVisitorArrived:
-            return &bot.state.arrived;
-        case EventVisitorPresent:
-            return &bot.state.present;
-        case EventVisitorLeft:
-            return &bot.state.departed;
-        case EventJoinRequest:
-        case EventJoinInvite:
-        case EventJoined:
-        case EventSummoned:
-        case EventSummonedAfterAccept:
-        case EventJoinedAfterAccept:
-            return &bot.state.requester;
-        case EventPlayerOnline:
-        case EventPlayerOffline:
-            return &bot.state.onlineName;
-        default:
-            return nullptr;
-    }
+    const EventFacts& event = FactsOf(bot.currentEvent);
+    return event.comparable ? event.FurreNameIn(bot.state) : nullptr;
 }
 
 std::optional<bool> FurreNameEquals(const Bot& bot, const Arguments& arguments) {
@@ -107,7 +83,7 @@ std::optional<bool> ColorsOrMoverColorsEqual(const Bot& bot, const Arguments& ar
 
 /// The badge belongs to the furre that speaks, or to the one looked at, which of two events ever tells.
 const std::string* Badge(const Bot& bot, GameEvent lookEvent) {
-    if (IsSpeechEvent(bot.currentEvent)) return &bot.state.playerTag;
+    if (IsSpeechEvent(FactsOf(bot.currentEvent))) return &bot.state.playerTag;
     return bot.currentEvent == lookEvent ? &bot.state.look.badge : nullptr;
 }
 

@@ -4,24 +4,30 @@ namespace {
 
 // --- where conditions are of use ---------------------------------------------------------------------------------
 
-constexpr EventSet kTalk = {EventSpeech, EventShout, EventWhisper, EventSelfWhisper};
+constexpr Scope InThoseFilling(Field field) { return In(EventSet::Filling(field)); }
 
-constexpr Scope kNamed =
-    OnlyIn(kTalk | EventSet{EventLookResult, EventVisitorArrived, EventVisitorPresent, EventVisitorLeft,
-                            EventJoinRequest, EventJoinInvite, EventJoined, EventSummoned, EventSummonedAfterAccept,
-                            EventJoinedAfterAccept, EventPlayerOnline, EventPlayerOffline});
-constexpr Scope kMessages = In(EventSet::Range(EventSpeech, EventHashNotice) | EventSet{EventClientCommand});
-constexpr Scope kDescriptions = In({EventLookDescription});
-constexpr Scope kLooks = OnlyIn(kTalk | EventSet{EventLookResult});
-constexpr Scope kLooksAndMoves = OnlyIn(kTalk | EventSet{EventLookResult, EventFurreMoved});
-constexpr Scope kBadgeGroups = OnlyIn(kTalk | EventSet{EventLookDescription});
-constexpr Scope kMoves = In({EventFurreMoved});
-constexpr Scope kTriggers = OnlyIn({EventDsBotTrigger, EventDsTrigger});
-constexpr Scope kTime = In({EventTimeOfDay});
-constexpr Scope kDice = In({EventDiceTotal, EventDiceRoll});
-constexpr Scope kSingleDice = In({EventDiceRoll});
-constexpr Scope kDreamNames = In({EventDreamListS});
-constexpr Scope kDreams = In({EventDreamListS, EventDreamListT});
+/// The events of whose furre conditions know what a test of it wants.
+template <typename Fact>
+constexpr EventSet Comparable(Fact holds) {
+    return EventSet::Where([holds](const EventFacts& event) { return event.comparable && holds(event); });
+}
+
+constexpr EventSet kTalk = Comparable([](const EventFacts& event) { return event.furre == &BotState::player; });
+constexpr EventSet kDescribed = Comparable([](const EventFacts& event) { return event.furre != nullptr; });
+
+constexpr Scope kNamed = OnlyIn(Comparable([](const EventFacts&) { return true; }));
+constexpr Scope kMessages = InThoseFilling(Field::Message);
+constexpr Scope kDescriptions = InThoseFilling(Field::LookDescription);
+constexpr Scope kLooks = OnlyIn(kDescribed);
+constexpr Scope kLooksAndMoves = OnlyIn(kDescribed | EventSet::Filling(Field::Move));
+constexpr Scope kBadgeGroups = OnlyIn(kTalk | EventSet::Filling(Field::LookDescription));
+constexpr Scope kMoves = InThoseFilling(Field::Move);
+constexpr Scope kTriggers = OnlyIn(EventSet::Filling(Field::DsBot) | EventSet::Filling(Field::Ds));
+constexpr Scope kTime = InThoseFilling(Field::StandardTime);
+constexpr Scope kDice = InThoseFilling(Field::Dice);
+constexpr Scope kSingleDice = InThoseFilling(Field::SingleDice);
+constexpr Scope kDreamNames = InThoseFilling(Field::DreamName);
+constexpr Scope kDreams = InThoseFilling(Field::Dream);
 
 // --- what many rows read -----------------------------------------------------------------------------------------
 

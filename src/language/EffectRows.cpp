@@ -3,10 +3,7 @@
 namespace {
 
 /// The events in which "[player]" stands for a furre.
-constexpr Scope kWithPlayer =
-    In(EventSet::Range(EventSpeech, EventSelfWhisper) | EventSet{EventLookResult, EventLookDescription} |
-       EventSet::Range(EventVisitorArrived, EventVisitorLeft) | EventSet::Range(EventJoinRequest, EventPlayerOffline) |
-       EventSet::Range(EventCookieSeen, EventCookieReceived) | EventSet{EventDiceTotal, EventDiceRoll});
+constexpr Scope kWithPlayer = In(EventSet::Where([](const EventFacts& event) { return event.IsSomeones(); }));
 
 constexpr bool kSpeaks = true;
 constexpr char kPlayer[] = "[player]";

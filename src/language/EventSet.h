@@ -5,9 +5,6 @@
 
 #include "bot/Events.h"
 
-inline constexpr GameEvent kFirstEvent = EventScriptLoaded;
-inline constexpr GameEvent kLastEvent = EventDreamListT;
-
 /// Some of the game's events.
 class EventSet {
   public:
@@ -16,13 +13,22 @@ class EventSet {
         for (const GameEvent event : events) bits_ |= Bit(event);
     }
 
-    /// All events from one code to another, both counted in.
-    static constexpr EventSet Range(GameEvent first, GameEvent last) {
+    static constexpr EventSet All() {
+        return Where([](const EventFacts&) { return true; });
+    }
+
+    /// The events of which a fact holds.
+    template <typename Fact>
+    static constexpr EventSet Where(Fact holds) {
         EventSet set;
-        for (int event = first; event <= last; ++event) set.bits_ |= Bit(event);
+        for (const EventFacts& event : kEvents) {
+            if (holds(event)) set.bits_ |= Bit(event.code);
+        }
         return set;
     }
-    static constexpr EventSet All() { return Range(kFirstEvent, kLastEvent); }
+    static constexpr EventSet Filling(Field field) {
+        return Where([field](const EventFacts& event) { return event.Fills(field); });
+    }
 
     constexpr bool Holds(GameEvent event) const { return event >= 0 && event < 64 && (bits_ & Bit(event)) != 0; }
     constexpr bool IsEmpty() const { return bits_ == 0; }

@@ -99,7 +99,7 @@ std::string Examples(const Command& command) {
 std::string CauseEntry(const EventDescription& event) {
     const Command& cause = *FindCommand(kCauseLine, CauseOf(event.code));
     std::string text = Heading(cause);
-    text += Item("Event", std::to_string(event.code) + ", " + std::string(event.name));
+    text += Item("Event", std::to_string(event.code) + ", " + std::string(FactsOf(event.code).name));
     text += Item("Arguments", Arguments(cause));
     text += Item("Raised by", event.raisedBy);
     text += Item("Fills", VariablesFilledBy(event.code));

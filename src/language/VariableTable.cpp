@@ -4,18 +4,13 @@
 
 namespace {
 
-constexpr EventSet kMessages = EventSet::Range(EventSpeech, EventHashNotice) | EventSet{EventClientCommand};
-constexpr EventSet kOwn = {EventSelfSpeech, EventSelfShout, EventSelfEmote};
-constexpr EventSet kSpeakers = EventSet{EventSpeech, EventShout, EventEmote, EventWhisper, EventSelfWhisper} | kOwn;
-constexpr EventSet kCookies = EventSet::Range(EventCookieSeen, EventCookieReceived);
-constexpr EventSet kPlayers = kSpeakers | EventSet{EventLookResult, EventLookDescription} |
-                              EventSet::Range(EventVisitorArrived, EventVisitorLeft) |
-                              EventSet::Range(EventJoinRequest, EventPlayerOffline) | kCookies |
-                              EventSet{EventDiceTotal, EventDiceRoll};
-constexpr EventSet kLooks = {EventLookResult, EventLookDescription};
-constexpr EventSet kMaps = EventSet::Range(EventEnterAcropolis, EventEnterDream);
-constexpr EventSet kDice = {EventDiceTotal, EventDiceRoll};
-constexpr EventSet kDreams = {EventDreamListS, EventDreamListT};
+constexpr EventSet kPlayers = EventSet::Where([](const EventFacts& event) { return event.IsSomeones(); });
+constexpr EventSet kOwn = EventSet::Where([](const EventFacts& event) { return event.furre == &BotState::vorel; });
+constexpr EventSet kSpeakers =
+    kOwn | EventSet::Where([](const EventFacts& event) { return event.furre == &BotState::player; });
+constexpr EventSet kCookies = EventSet::Where([](const EventFacts& event) { return event.otherName != nullptr; });
+
+constexpr EventSet By(Field field) { return EventSet::Filling(field); }
 
 constexpr char kLogin[] = "the login";
 constexpr char kNever[] = "the game never tells it";
@@ -34,24 +29,24 @@ constexpr VariableDescription kVariables[] = {
     {"[player.markings]", "its markings code", kSpeakers},
     {"[player.desc]", "the bot's own description in the events of the bot's own speech, otherwise empty", kOwn},
     {"[cookiename]", "the other furre of a cookie", kCookies},
-    {"[message]", "what was said, shouted, emoted, whispered or typed", kMessages},
-    {"[wordN]", "a word of the message, counted from 1: [word1], [word2] and so on", kMessages},
-    {"[startingwordN]", "the message from a word on: [startingword2] is all but the first word", kMessages},
+    {"[message]", "what was said, shouted, emoted, whispered or typed", By(Field::Message)},
+    {"[wordN]", "a word of the message, counted from 1: [word1], [word2] and so on", By(Field::Message)},
+    {"[startingwordN]", "the message from a word on: [startingword2] is all but the first word", By(Field::Message)},
 
-    {"[vorel.name]", "the bot's name", {EventConnected}, kLogin},
-    {"[vorel.desc]", "the bot's description", {EventConnected}, kLogin},
+    {"[vorel.name]", "the bot's name", By(Field::Login), kLogin},
+    {"[vorel.desc]", "the bot's description", By(Field::Login), kLogin},
     {"[vorel.badge]", "the bot's badge", {}, kNever},
-    {"[vorel.colors]", "the bot's colour code", {EventConnected}, kLogin},
-    {"[vorel.gender]", "the bot's gender code", {EventConnected}, kLogin},
-    {"[vorel.markings]", "the bot's markings code", {EventConnected}, kLogin},
-    {"[vorel.species]", "the bot's species code", {EventConnected}, kLogin},
+    {"[vorel.colors]", "the bot's colour code", By(Field::Login), kLogin},
+    {"[vorel.gender]", "the bot's gender code", By(Field::Login), kLogin},
+    {"[vorel.markings]", "the bot's markings code", By(Field::Login), kLogin},
+    {"[vorel.species]", "the bot's species code", By(Field::Login), kLogin},
     {"[vorel.owners]", "the bot's owners, with a comma and a blank between them", {}, "the profile"},
-    {"[vorel.into]", "where the bot is, as (x,y)", {EventFurreMoved}, kOwnMove},
-    {"[vorel.from]", "where the bot was before, as (x,y)", {EventFurreMoved}, kOwnMove},
-    {"[vorel.into.x]", "the column where the bot is", {EventFurreMoved}, kOwnMove},
-    {"[vorel.into.y]", "the row where the bot is", {EventFurreMoved}, kOwnMove},
-    {"[vorel.from.x]", "the column where the bot was", {EventFurreMoved}, kOwnMove},
-    {"[vorel.from.y]", "the row where the bot was", {EventFurreMoved}, kOwnMove},
+    {"[vorel.into]", "where the bot is, as (x,y)", By(Field::Move), kOwnMove},
+    {"[vorel.from]", "where the bot was before, as (x,y)", By(Field::Move), kOwnMove},
+    {"[vorel.into.x]", "the column where the bot is", By(Field::Move), kOwnMove},
+    {"[vorel.into.y]", "the row where the bot is", By(Field::Move), kOwnMove},
+    {"[vorel.from.x]", "the column where the bot was", By(Field::Move), kOwnMove},
+    {"[vorel.from.y]", "the row where the bot was", By(Field::Move), kOwnMove},
 
     {"[date]", "today's date, as this computer writes it", {}, kClock},
     {"[time]", "the time, as this computer writes it", {}, kClock},
@@ -61,66 +56,66 @@ constexpr VariableDescription kVariables[] = {
     {"[median]", "the last two characters of [time], which are AM or PM where the computer writes the time so", {},
      kClock},
 
-    {"[fst]", "the game's own time, such as 7:5:9 PM", {EventTimeOfDay}},
-    {"[fst.time]", "the same", {EventTimeOfDay}},
-    {"[fst.hour]", "its hour", {EventTimeOfDay}},
-    {"[fst.minute]", "its minute", {EventTimeOfDay}},
-    {"[fst.second]", "its second", {EventTimeOfDay}},
-    {"[fst.median]", "its AM or PM", {EventTimeOfDay}},
+    {"[fst]", "the game's own time, such as 7:5:9 PM", By(Field::StandardTime)},
+    {"[fst.time]", "the same", By(Field::StandardTime)},
+    {"[fst.hour]", "its hour", By(Field::StandardTime)},
+    {"[fst.minute]", "its minute", By(Field::StandardTime)},
+    {"[fst.second]", "its second", By(Field::StandardTime)},
+    {"[fst.median]", "its AM or PM", By(Field::StandardTime)},
 
-    {"[move.colors]", "the colour code of the furre that moved", {EventFurreMoved}},
-    {"[move.from.x]", "the column it came from; 0 when it has just come into sight", {EventFurreMoved}},
-    {"[move.from.y]", "the row it came from; 0 when it has just come into sight", {EventFurreMoved}},
-    {"[move.frame]", "the number of its picture", {EventFurreMoved}},
-    {"[move.into.x]", "the column it went to", {EventFurreMoved}},
-    {"[move.into.y]", "the row it went to", {EventFurreMoved}},
-    {"[move.into]", "where it went, as (x,y)", {EventFurreMoved}},
-    {"[move.from]", "where it came from, as (x,y)", {EventFurreMoved}},
+    {"[move.colors]", "the colour code of the furre that moved", By(Field::Move)},
+    {"[move.from.x]", "the column it came from; 0 when it has just come into sight", By(Field::Move)},
+    {"[move.from.y]", "the row it came from; 0 when it has just come into sight", By(Field::Move)},
+    {"[move.frame]", "the number of its picture", By(Field::Move)},
+    {"[move.into.x]", "the column it went to", By(Field::Move)},
+    {"[move.into.y]", "the row it went to", By(Field::Move)},
+    {"[move.into]", "where it went, as (x,y)", By(Field::Move)},
+    {"[move.from]", "where it came from, as (x,y)", By(Field::Move)},
 
-    {"[look.name]", "the name of the furre last looked at", kLooks},
-    {"[look.colors]", "its colour code", kLooks},
-    {"[look.gender]", "its gender code", kLooks},
-    {"[look.species]", "its species code", kLooks},
-    {"[look.markings]", "its markings code", kLooks},
-    {"[look.badge]", "its badge; empty when it has none", {EventLookDescription}},
-    {"[look.desc]", "its description", {EventLookDescription}},
+    {"[look.name]", "the name of the furre last looked at", By(Field::Look)},
+    {"[look.colors]", "its colour code", By(Field::Look)},
+    {"[look.gender]", "its gender code", By(Field::Look)},
+    {"[look.species]", "its species code", By(Field::Look)},
+    {"[look.markings]", "its markings code", By(Field::Look)},
+    {"[look.badge]", "its badge; empty when it has none", By(Field::LookDescription)},
+    {"[look.desc]", "its description", By(Field::LookDescription)},
 
-    {"[dsbot.from.x]", "a trigger of the first kind: the column its furre came from", {EventDsBotTrigger}},
-    {"[dsbot.from.y]", "the row it came from", {EventDsBotTrigger}},
-    {"[dsbot.into.x]", "the column it went to", {EventDsBotTrigger}},
-    {"[dsbot.into.y]", "the row it went to", {EventDsBotTrigger}},
-    {"[dsbot.trigger]", "the trigger's number", {EventDsBotTrigger}},
-    {"[dsbot.trigger.x]", "the trigger's column", {EventDsBotTrigger}},
-    {"[dsbot.trigger.y]", "the trigger's row", {EventDsBotTrigger}},
-    {"[ds.from.x]", "a trigger of the second kind: the column its furre came from", {EventDsTrigger}},
-    {"[ds.from.y]", "the row it came from", {EventDsTrigger}},
-    {"[ds.into.x]", "the column it went to", {EventDsTrigger}},
-    {"[ds.into.y]", "the row it went to", {EventDsTrigger}},
-    {"[ds.trigger]", "the trigger's number", {EventDsTrigger}},
-    {"[ds.trigger.x]", "the trigger's column", {EventDsTrigger}},
-    {"[ds.trigger.y]", "the trigger's row", {EventDsTrigger}},
+    {"[dsbot.from.x]", "a trigger of the first kind: the column its furre came from", By(Field::DsBot)},
+    {"[dsbot.from.y]", "the row it came from", By(Field::DsBot)},
+    {"[dsbot.into.x]", "the column it went to", By(Field::DsBot)},
+    {"[dsbot.into.y]", "the row it went to", By(Field::DsBot)},
+    {"[dsbot.trigger]", "the trigger's number", By(Field::DsBot)},
+    {"[dsbot.trigger.x]", "the trigger's column", By(Field::DsBot)},
+    {"[dsbot.trigger.y]", "the trigger's row", By(Field::DsBot)},
+    {"[ds.from.x]", "a trigger of the second kind: the column its furre came from", By(Field::Ds)},
+    {"[ds.from.y]", "the row it came from", By(Field::Ds)},
+    {"[ds.into.x]", "the column it went to", By(Field::Ds)},
+    {"[ds.into.y]", "the row it went to", By(Field::Ds)},
+    {"[ds.trigger]", "the trigger's number", By(Field::Ds)},
+    {"[ds.trigger.x]", "the trigger's column", By(Field::Ds)},
+    {"[ds.trigger.y]", "the trigger's row", By(Field::Ds)},
 
-    {"[breath.x]", "the column of the last breath", {EventBreath}},
-    {"[breath.y]", "the row of the last breath", {EventBreath}},
-    {"[flame.x]", "the column of the last flame", {EventFlame}},
-    {"[flame.y]", "the row of the last flame", {EventFlame}},
-    {"[dream.name]", "the name of the dream that appeared last", {EventDreamListS}},
-    {"[dream.x]", "the column of the dream that appeared or vanished last", kDreams},
-    {"[dream.y]", "the row of that dream", kDreams},
+    {"[breath.x]", "the column of the last breath", By(Field::Breath)},
+    {"[breath.y]", "the row of the last breath", By(Field::Breath)},
+    {"[flame.x]", "the column of the last flame", By(Field::Flame)},
+    {"[flame.y]", "the row of the last flame", By(Field::Flame)},
+    {"[dream.name]", "the name of the dream that appeared last", By(Field::DreamName)},
+    {"[dream.x]", "the column of the dream that appeared or vanished last", By(Field::Dream)},
+    {"[dream.y]", "the row of that dream", By(Field::Dream)},
     {"[visitors]",
      "the last list of visitors, with a comma and a blank between the names; while the changes are told, the list "
-     "before it", EventSet::Range(EventVisitorArrived, EventVisitorsUpdated)},
+     "before it", By(Field::Visitors)},
     {"[visitorcount]", "how many furres are in the dream", {},
      "the game's notice how many players are in the dream, which raises no event"},
-    {"[map]", "the map or dream where the bot is, \"Unknown\" for a map without a name; empty after the login", kMaps,
-     "also the notice how many players are in the dream"},
-    {"[previousmap]", "the map or dream where the bot was before", kMaps,
+    {"[map]", "the map or dream where the bot is, \"Unknown\" for a map without a name; empty after the login",
+     By(Field::Map), "also the notice how many players are in the dream"},
+    {"[previousmap]", "the map or dream where the bot was before", By(Field::Map),
      "also the notice how many players are in the dream"},
 
-    {"[dieN]", "one of the dice rolled last, counted from 1: [die1], [die2] and so on", kDice},
-    {"[dice.total]", "the sum of the dice", kDice},
-    {"[dice.amount]", "how many dice were rolled", kDice},
-    {"[dice.sides]", "how many sides they have", kDice},
+    {"[dieN]", "one of the dice rolled last, counted from 1: [die1], [die2] and so on", By(Field::Dice)},
+    {"[dice.total]", "the sum of the dice", By(Field::Dice)},
+    {"[dice.amount]", "how many dice were rolled", By(Field::Dice)},
+    {"[dice.sides]", "how many sides they have", By(Field::Dice)},
 };
 // clang-format on
 

@@ -27,6 +27,15 @@ TEST_P(EventOfTheLanguage, IsRaisedByItsExampleAndAnsweredByItsCause) {
     EXPECT_THAT(greeter.PlayAndListen(std::string(event.session)),
                 Contains("console cause " + std::to_string(CauseOf(event.code))));
     EXPECT_EQ(FindCommand(kCauseLine, CauseOf(event.code))->scope.events, EventSet{event.code});
+
+    const std::string raiser(event.session.substr(event.session.rfind('\n') + 1));
+    const bool isLine = raiser.starts_with("server ") || raiser.starts_with("type ");
+    const auto& starts = FactsOf(event.code).lines;
+    EXPECT_EQ(isLine, std::any_of(starts.begin(), starts.end(),
+                                  [&](std::string_view line) {
+                                      return !line.empty() && raiser.substr(raiser.find(' ') + 1).starts_with(line);
+                                  }))
+        << raiser;
 }
 
 /// Exactly the variables that the table says are there when the event is over, and were not before.
