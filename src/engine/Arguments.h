@@ -1,31 +1,40 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
-#include <vector>
 
-/// Arguments stand on a script line in braces and are found by position, not by parsing; positions count from 1.
-/// Each of these gives nothing when a brace is missing.
-
-inline constexpr std::size_t kArgumentsFrom = 7;  ///< behind "(5:n) ", where most commands begin to look
-
-/// Strictly between the first "{" at or after a position and the last "}" of the line.
-std::optional<std::string_view> WholeArgument(std::string_view line, std::size_t from = kArgumentsFrom);
-
-/// From behind the first "{" through the next "}". Kept on purpose: the brace belongs to the argument. Numbers don't
-/// mind, for they are read from their beginning; conditions compare texts with it.
-std::optional<std::string_view> FirstArgument(std::string_view line);
-
-/// From behind the last "{" through the last "}", which is kept.
-std::optional<std::string_view> LastArgument(std::string_view line);
-
-/// The texts of count braced groups, one after the other, the first "{" at or after a position.
-std::optional<std::vector<std::string_view>> ArgumentsInTurn(std::string_view line, std::size_t count,
-                                                             std::size_t from = kArgumentsFrom);
-
-/// Two arguments joined by a phrase such as "} to {": the text from behind the first "{" up to the phrase, and the
-/// text from behind the phrase's own "{" up to the last "}" of the line.
-struct JoinedArguments {
-    std::string_view first, second;
+/// How the arguments of a command are found on its line: in braces, by position and not by parsing. Positions count
+/// from 1. The first "{" is looked for from position 7 on, which is behind "(5:n) ", or from where the name says.
+///
+/// Kept on purpose: where the search begins differs without need, and shows on lines only that have a brace in front of
+/// their ")". The dispatcher takes those for commands, too.
+///
+/// Kept on purpose: in some forms the closing brace belongs to the argument. Numbers don't mind, for they are read from
+/// their beginning; conditions compare texts with it.
+enum class Form {
+    NoArguments,
+    WholeText,  ///< one: from the first "{" to the last "}"
+    WholeTextFrom6,
+    WholeTextOrFault,   ///< the same; a last "}" that stands before the first "{" is a fault, not a missing brace
+    FirstKept,          ///< one: the first braced group, which keeps its "}"
+    FirstAndLastKept,   ///< two: the first braced group and the last one, which keep their "}"; one may serve for both
+    FirstAndLast,       ///< two: the same without the "}"
+    FirstAndLastApart,  ///< two: the same, but no group serves for both
+    ToPhrase,           ///< two, joined by "} to {", the last one up to the last "}"
+    ToPhraseKept,       ///< two: the same, the first one keeping the "}" of the phrase
+    StorePhrase,        ///< two, joined by "} and store {", likewise
+    TwoInTurnFrom1,     ///< braced groups, one after the other
+    ThreeInTurnFrom1,
+    ThreeInTurnFrom6,
+    ThreeInTurnFrom7,
+    FourInTurnFrom6,
 };
-std::optional<JoinedArguments> ArgumentsJoinedBy(std::string_view line, std::string_view phrase);
+
+/// The arguments from left to right, as many as the form has; the others are empty.
+using Arguments = std::array<std::string_view, 4>;
+
+/// @return nothing when a brace or a phrase is missing
+/// @throws RuntimeFault InvalidProcedureCall, for Form::WholeTextOrFault
+std::optional<Arguments> FindArguments(std::string_view line, Form form);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <optional>
 #include <string_view>
 
@@ -10,19 +9,13 @@
 #include "bot/Events.h"
 #include "bot/Variables.h"
 #include "engine/Arguments.h"
+#include "engine/CommandNumbers.h"
 #include "engine/DataFile.h"
 #include "game/Compare.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
 namespace {
-
-/// How a condition's arguments are found on its line.
-enum class Form { NoArguments, WholeText, WholeTextFrom6, First, FirstAndLast, ThreeInTurn };
-
-struct Arguments {
-    std::string_view first, second, third;
-};
 
 /// A predicate answers nothing when the current event has nothing to compare; then neither it nor its negation holds.
 using Predicate = std::optional<bool> (*)(const Bot&, const Arguments&);
@@ -54,7 +47,7 @@ const std::string* EventFurreName(const Bot& bot) {
 
 std::optional<bool> FurreNameEquals(const Bot& bot, const Arguments& arguments) {
     const std::string* const name = EventFurreName(bot);
-    return name ? std::optional(LooseEquals(*name, arguments.first)) : std::nullopt;
+    return name ? std::optional(LooseEquals(*name, arguments[0])) : std::nullopt;
 }
 
 template <std::string Appearance::*Field, char Code>
@@ -71,11 +64,11 @@ constexpr Predicate GenderIs = LooksAre<&Appearance::gender, Code>;
 
 std::optional<bool> ColorsEqual(const Bot& bot, const Arguments& arguments) {
     const Appearance* const looks = DescribedLooks(bot);
-    return looks ? std::optional(LooseEquals(looks->colors, arguments.first)) : std::nullopt;
+    return looks ? std::optional(LooseEquals(looks->colors, arguments[0])) : std::nullopt;
 }
 
 std::optional<bool> ColorsOrMoverColorsEqual(const Bot& bot, const Arguments& arguments) {
-    if (bot.currentEvent == EventFurreMoved) return LooseEquals(bot.state.move.colors, arguments.first);
+    if (bot.currentEvent == EventFurreMoved) return LooseEquals(bot.state.move.colors, arguments[0]);
     return ColorsEqual(bot, arguments);
 }
 
@@ -97,20 +90,22 @@ std::optional<bool> BadgeIsLetterI(const Bot& bot, const Arguments&) {
     return badge ? std::optional(LooseEquals(*badge, "i")) : std::nullopt;
 }
 
-/// The codes that the conditions from (1:40) on look for, in the order of the conditions: ten groups of four
-/// consecutive codes and a lone one, then the codes by their place within the group.
-constexpr std::int16_t kFirstBadgeSet = 40;
-constexpr std::string_view kBadgeSets[] = {
-    "QRST", "EFGH", "j",     "]^_`",       "ABCD",       "IJKL",       "efgh",        "UVWX",
-    "MNOP", "abcd", "YZ[\\", "QE]AIeUMaY", "RF^BJfVNbZ", "SG_CKgWOc[", "TH`DLhXPd\\",
+/// Badge codes, as an argument of a template.
+struct Codes {
+    char text[11] = {};
+
+    template <std::size_t Size>
+    constexpr Codes(const char (&codes)[Size]) {  // NOLINT(google-explicit-constructor): stands for its text
+        std::copy_n(codes, Size, text);
+    }
 };
 
 // Kept on purpose: for a look these wait for the description, where the conditions above wait for the look's result.
-template <std::int16_t Number>
+template <Codes Group>
 std::optional<bool> BadgeIsIn(const Bot& bot, const Arguments&) {
     const std::string* const badge = Badge(bot, EventLookDescription);
     if (!badge) return std::nullopt;
-    return badge->size() == 1 && kBadgeSets[(Number - kFirstBadgeSet) / 2].find((*badge)[0]) != std::string_view::npos;
+    return badge->size() == 1 && std::string_view(Group.text).find((*badge)[0]) != std::string_view::npos;
 }
 
 // --- texts -----------------------------------------------------------------------------------------------------
@@ -129,12 +124,12 @@ using TextTest = bool (*)(std::string_view text, std::string_view argument);
 
 template <TextOf Field, TextTest Test>
 std::optional<bool> Text(const Bot& bot, const Arguments& arguments) {
-    return Test(Field(bot), arguments.first);
+    return Test(Field(bot), arguments[0]);
 }
 
 template <TextTest Test>
 std::optional<bool> Both(const Bot&, const Arguments& arguments) {
-    return Test(arguments.first, arguments.second);
+    return Test(arguments[0], arguments[1]);
 }
 
 bool SameText(std::string_view a, std::string_view b) { return a == b; }
@@ -153,16 +148,16 @@ std::int16_t DiceTotalOf(const Bot& bot) { return bot.state.dice.total; }
 
 template <std::int16_t (*Field)(const Bot&), typename Comparison = std::equal_to<>>
 std::optional<bool> Number(const Bot& bot, const Arguments& arguments) {
-    return Comparison{}(double{static_cast<double>(Field(bot))}, LeadingNumber(arguments.first));
+    return Comparison{}(double{static_cast<double>(Field(bot))}, LeadingNumber(arguments[0]));
 }
 
 template <typename Comparison>
 std::optional<bool> Numbers(const Bot&, const Arguments& arguments) {
-    return Comparison{}(LeadingNumber(arguments.first), LeadingNumber(arguments.second));
+    return Comparison{}(LeadingNumber(arguments[0]), LeadingNumber(arguments[1]));
 }
 
 bool IsAt(Square square, const Arguments& arguments) {
-    return LeadingNumber(arguments.first) == square.x && LeadingNumber(arguments.second) == square.y;
+    return LeadingNumber(arguments[0]) == square.x && LeadingNumber(arguments[1]) == square.y;
 }
 
 Square MoveFromOf(const Bot& bot) { return bot.state.move.from; }
@@ -192,17 +187,17 @@ std::optional<bool> NoticeSquareIs(const Bot& bot, const Arguments& arguments) {
 
 std::optional<bool> NoticeTriggerIs(const Bot& bot, const Arguments& arguments) {
     const DragonSpeakNotice* const notice = NoticeOf(bot);
-    return notice ? std::optional(LeadingNumber(arguments.first) == notice->trigger) : std::nullopt;
+    return notice ? std::optional(LeadingNumber(arguments[0]) == notice->trigger) : std::nullopt;
 }
 
 /// The first argument selects the die, counted from 1 like [die1]; the second is what it is compared with.
 template <typename Comparison>
 std::optional<bool> Die(const Bot& bot, const Arguments& arguments) {
-    const std::int16_t die = RoundTo16(LeadingNumber(arguments.first));
+    const std::int16_t die = RoundTo16(LeadingNumber(arguments[0]));
     const auto& values = bot.state.dice.values;
     if (die < 1 || static_cast<std::size_t>(die) > values.size()) throw RuntimeFault(FaultKind::SubscriptOutOfRange);
     const double value = values[static_cast<std::size_t>(die) - 1];
-    return Comparison{}(value, LeadingNumber(arguments.second));
+    return Comparison{}(value, LeadingNumber(arguments[1]));
 }
 
 // --- the rest --------------------------------------------------------------------------------------------------
@@ -216,182 +211,154 @@ std::optional<bool> ConnectClientIs(const Bot& bot, const Arguments&) {
 }
 
 std::optional<bool> FileHoldsEntry(const Bot& bot, const Arguments& arguments) {
-    const std::optional<std::string> bytes = ReadDataFile(bot, arguments.third);
-    return bytes && DataFileHolds(*bytes, arguments.second, arguments.first);
+    const std::optional<std::string> bytes = ReadDataFile(bot, arguments[2]);
+    return bytes && DataFileHolds(*bytes, arguments[1], arguments[0]);
 }
 
 // clang-format off
 constexpr Condition kConditions[] = {
-    {0,   true,  Form::WholeText,      FurreNameEquals},
-    {1,   false, Form::WholeText,      FurreNameEquals},
-    {2,   true,  Form::WholeText,      Text<MessageOf, LooseEquals>},
-    {3,   false, Form::WholeText,      Text<MessageOf, LooseEquals>},
-    {4,   true,  Form::WholeText,      Text<MessageOf, LooseLike>},
-    {5,   false, Form::WholeText,      Text<MessageOf, LooseLike>},
-    {6,   true,  Form::WholeText,      Text<MessageOf, ContainsIgnoringCase>},
-    {7,   false, Form::WholeText,      Text<MessageOf, ContainsIgnoringCase>},
-    {8,   true,  Form::WholeText,      Text<LookDescOf, LooseEquals>},
-    {9,   false, Form::WholeText,      Text<LookDescOf, LooseEquals>},
-    {10,  true,  Form::WholeText,      Text<LookDescOf, LooseLike>},
-    {11,  false, Form::WholeText,      Text<LookDescOf, LooseLike>},
-    {12,  true,  Form::WholeText,      Text<LookDescOf, ContainsIgnoringCase>},
-    {13,  false, Form::WholeText,      Text<LookDescOf, ContainsIgnoringCase>},
-    {14,  true,  Form::NoArguments,    SpeciesIs<'#'>},
-    {15,  false, Form::NoArguments,    SpeciesIs<'#'>},
-    {16,  true,  Form::NoArguments,    MarkingsAre<'5'>},
-    {17,  false, Form::NoArguments,    MarkingsAre<'5'>},
-    {18,  true,  Form::NoArguments,    SpeciesIs<'!'>},
-    {19,  false, Form::NoArguments,    SpeciesIs<'!'>},
-    {20,  true,  Form::NoArguments,    SpeciesIs<']'>},
+    {0,   true,  Form::WholeText,         FurreNameEquals},
+    {1,   false, Form::WholeText,         FurreNameEquals},
+    {2,   true,  Form::WholeText,         Text<MessageOf, LooseEquals>},
+    {3,   false, Form::WholeText,         Text<MessageOf, LooseEquals>},
+    {4,   true,  Form::WholeText,         Text<MessageOf, LooseLike>},
+    {5,   false, Form::WholeText,         Text<MessageOf, LooseLike>},
+    {6,   true,  Form::WholeText,         Text<MessageOf, ContainsIgnoringCase>},
+    {7,   false, Form::WholeText,         Text<MessageOf, ContainsIgnoringCase>},
+    {8,   true,  Form::WholeText,         Text<LookDescOf, LooseEquals>},
+    {9,   false, Form::WholeText,         Text<LookDescOf, LooseEquals>},
+    {10,  true,  Form::WholeText,         Text<LookDescOf, LooseLike>},
+    {11,  false, Form::WholeText,         Text<LookDescOf, LooseLike>},
+    {12,  true,  Form::WholeText,         Text<LookDescOf, ContainsIgnoringCase>},
+    {13,  false, Form::WholeText,         Text<LookDescOf, ContainsIgnoringCase>},
+    {14,  true,  Form::NoArguments,       SpeciesIs<'#'>},
+    {15,  false, Form::NoArguments,       SpeciesIs<'#'>},
+    {16,  true,  Form::NoArguments,       MarkingsAre<'5'>},
+    {17,  false, Form::NoArguments,       MarkingsAre<'5'>},
+    {18,  true,  Form::NoArguments,       SpeciesIs<'!'>},
+    {19,  false, Form::NoArguments,       SpeciesIs<'!'>},
+    {20,  true,  Form::NoArguments,       SpeciesIs<']'>},
     // Kept on purpose: the negations 21 and 29 look at the markings, and scripts in use count on it.
-    {21,  false, Form::NoArguments,    MarkingsAre<']'>},
-    {22,  true,  Form::NoArguments,    SpeciesIs<'"'>},
-    {23,  false, Form::NoArguments,    SpeciesIs<'"'>},
-    {24,  true,  Form::NoArguments,    SpeciesIs<'%'>},
-    {25,  false, Form::NoArguments,    SpeciesIs<'%'>},
-    {26,  true,  Form::NoArguments,    SpeciesIs<'$'>},  // its negation, 27, was never given out
-    {28,  true,  Form::NoArguments,    SpeciesIs<'?'>},
-    {29,  false, Form::NoArguments,    MarkingsAre<'?'>},
-    {30,  true,  Form::NoArguments,    GenderIs<'!'>},
-    {31,  false, Form::NoArguments,    GenderIs<'!'>},
-    {32,  true,  Form::NoArguments,    GenderIs<' '>},
-    {33,  false, Form::NoArguments,    GenderIs<' '>},
-    {34,  true,  Form::NoArguments,    GenderIs<'"'>},
-    {35,  false, Form::NoArguments,    GenderIs<'"'>},
-    {36,  true,  Form::NoArguments,    HasBadge},
-    {37,  false, Form::NoArguments,    HasBadge},
-    {38,  true,  Form::NoArguments,    BadgeIsLetterI},
-    {39,  false, Form::NoArguments,    BadgeIsLetterI},
-    {40,  true,  Form::NoArguments,    BadgeIsIn<40>},
-    {41,  false, Form::NoArguments,    BadgeIsIn<40>},
-    {42,  true,  Form::NoArguments,    BadgeIsIn<42>},
-    {43,  false, Form::NoArguments,    BadgeIsIn<42>},
-    {44,  true,  Form::NoArguments,    BadgeIsIn<44>},
-    {45,  false, Form::NoArguments,    BadgeIsIn<44>},
-    {46,  true,  Form::NoArguments,    BadgeIsIn<46>},
-    {47,  false, Form::NoArguments,    BadgeIsIn<46>},
-    {48,  true,  Form::NoArguments,    BadgeIsIn<48>},
-    {49,  false, Form::NoArguments,    BadgeIsIn<48>},
-    {50,  true,  Form::NoArguments,    BadgeIsIn<50>},
-    {51,  false, Form::NoArguments,    BadgeIsIn<50>},
-    {52,  true,  Form::NoArguments,    BadgeIsIn<52>},
-    {53,  false, Form::NoArguments,    BadgeIsIn<52>},
-    {54,  true,  Form::NoArguments,    BadgeIsIn<54>},
-    {55,  false, Form::NoArguments,    BadgeIsIn<54>},
-    {56,  true,  Form::NoArguments,    BadgeIsIn<56>},
-    {57,  false, Form::NoArguments,    BadgeIsIn<56>},
-    {58,  true,  Form::NoArguments,    BadgeIsIn<58>},
-    {59,  false, Form::NoArguments,    BadgeIsIn<58>},
-    {60,  true,  Form::NoArguments,    BadgeIsIn<60>},
-    {61,  false, Form::NoArguments,    BadgeIsIn<60>},
-    {62,  true,  Form::NoArguments,    BadgeIsIn<62>},
-    {63,  false, Form::NoArguments,    BadgeIsIn<62>},
-    {64,  true,  Form::NoArguments,    BadgeIsIn<64>},
-    {65,  false, Form::NoArguments,    BadgeIsIn<64>},
-    {66,  true,  Form::NoArguments,    BadgeIsIn<66>},
-    {67,  false, Form::NoArguments,    BadgeIsIn<66>},
-    {68,  true,  Form::NoArguments,    BadgeIsIn<68>},
-    {69,  false, Form::NoArguments,    BadgeIsIn<68>},
-    {70,  true,  Form::WholeText,      Text<MapOf, LooseEquals>},
-    {71,  false, Form::WholeText,      Text<MapOf, LooseEquals>},
-    {72,  true,  Form::WholeText,      Text<PreviousMapOf, LooseEquals>},
-    {73,  false, Form::WholeText,      Text<PreviousMapOf, LooseEquals>},
-    {74,  true,  Form::WholeText,      Text<VisitorsOf, InList>},
-    {75,  false, Form::WholeText,      Text<VisitorsOf, InList>},
-    {76,  true,  Form::First,          Number<HourOf>},
-    {77,  false, Form::First,          Number<HourOf>},
-    {78,  true,  Form::First,          Number<MinuteOf>},
-    {79,  false, Form::First,          Number<MinuteOf>},
-    {80,  true,  Form::First,          Number<SecondOf>},
-    {81,  false, Form::First,          Number<SecondOf>},
-    {82,  true,  Form::NoArguments,    IsMorning},
-    {83,  true,  Form::NoArguments,    IsAfternoon},
+    {21,  false, Form::NoArguments,       MarkingsAre<']'>},
+    {22,  true,  Form::NoArguments,       SpeciesIs<'"'>},
+    {23,  false, Form::NoArguments,       SpeciesIs<'"'>},
+    {24,  true,  Form::NoArguments,       SpeciesIs<'%'>},
+    {25,  false, Form::NoArguments,       SpeciesIs<'%'>},
+    {26,  true,  Form::NoArguments,       SpeciesIs<'$'>},  // its negation, 27, was never given out
+    {28,  true,  Form::NoArguments,       SpeciesIs<'?'>},
+    {29,  false, Form::NoArguments,       MarkingsAre<'?'>},
+    {30,  true,  Form::NoArguments,       GenderIs<'!'>},
+    {31,  false, Form::NoArguments,       GenderIs<'!'>},
+    {32,  true,  Form::NoArguments,       GenderIs<' '>},
+    {33,  false, Form::NoArguments,       GenderIs<' '>},
+    {34,  true,  Form::NoArguments,       GenderIs<'"'>},
+    {35,  false, Form::NoArguments,       GenderIs<'"'>},
+    {36,  true,  Form::NoArguments,       HasBadge},
+    {37,  false, Form::NoArguments,       HasBadge},
+    {38,  true,  Form::NoArguments,       BadgeIsLetterI},
+    {39,  false, Form::NoArguments,       BadgeIsLetterI},
+    {40,  true,  Form::NoArguments,       BadgeIsIn<"QRST">},
+    {41,  false, Form::NoArguments,       BadgeIsIn<"QRST">},
+    {42,  true,  Form::NoArguments,       BadgeIsIn<"EFGH">},
+    {43,  false, Form::NoArguments,       BadgeIsIn<"EFGH">},
+    {44,  true,  Form::NoArguments,       BadgeIsIn<"j">},
+    {45,  false, Form::NoArguments,       BadgeIsIn<"j">},
+    {46,  true,  Form::NoArguments,       BadgeIsIn<"]^_`">},
+    {47,  false, Form::NoArguments,       BadgeIsIn<"]^_`">},
+    {48,  true,  Form::NoArguments,       BadgeIsIn<"ABCD">},
+    {49,  false, Form::NoArguments,       BadgeIsIn<"ABCD">},
+    {50,  true,  Form::NoArguments,       BadgeIsIn<"IJKL">},
+    {51,  false, Form::NoArguments,       BadgeIsIn<"IJKL">},
+    {52,  true,  Form::NoArguments,       BadgeIsIn<"efgh">},
+    {53,  false, Form::NoArguments,       BadgeIsIn<"efgh">},
+    {54,  true,  Form::NoArguments,       BadgeIsIn<"UVWX">},
+    {55,  false, Form::NoArguments,       BadgeIsIn<"UVWX">},
+    {56,  true,  Form::NoArguments,       BadgeIsIn<"MNOP">},
+    {57,  false, Form::NoArguments,       BadgeIsIn<"MNOP">},
+    {58,  true,  Form::NoArguments,       BadgeIsIn<"abcd">},
+    {59,  false, Form::NoArguments,       BadgeIsIn<"abcd">},
+    {60,  true,  Form::NoArguments,       BadgeIsIn<"YZ[\\">},
+    {61,  false, Form::NoArguments,       BadgeIsIn<"YZ[\\">},
+    {62,  true,  Form::NoArguments,       BadgeIsIn<"QE]AIeUMaY">},
+    {63,  false, Form::NoArguments,       BadgeIsIn<"QE]AIeUMaY">},
+    {64,  true,  Form::NoArguments,       BadgeIsIn<"RF^BJfVNbZ">},
+    {65,  false, Form::NoArguments,       BadgeIsIn<"RF^BJfVNbZ">},
+    {66,  true,  Form::NoArguments,       BadgeIsIn<"SG_CKgWOc[">},
+    {67,  false, Form::NoArguments,       BadgeIsIn<"SG_CKgWOc[">},
+    {68,  true,  Form::NoArguments,       BadgeIsIn<"TH`DLhXPd\\">},
+    {69,  false, Form::NoArguments,       BadgeIsIn<"TH`DLhXPd\\">},
+    {70,  true,  Form::WholeText,         Text<MapOf, LooseEquals>},
+    {71,  false, Form::WholeText,         Text<MapOf, LooseEquals>},
+    {72,  true,  Form::WholeText,         Text<PreviousMapOf, LooseEquals>},
+    {73,  false, Form::WholeText,         Text<PreviousMapOf, LooseEquals>},
+    {74,  true,  Form::WholeText,         Text<VisitorsOf, InList>},
+    {75,  false, Form::WholeText,         Text<VisitorsOf, InList>},
+    {76,  true,  Form::FirstKept,         Number<HourOf>},
+    {77,  false, Form::FirstKept,         Number<HourOf>},
+    {78,  true,  Form::FirstKept,         Number<MinuteOf>},
+    {79,  false, Form::FirstKept,         Number<MinuteOf>},
+    {80,  true,  Form::FirstKept,         Number<SecondOf>},
+    {81,  false, Form::FirstKept,         Number<SecondOf>},
+    {82,  true,  Form::NoArguments,       IsMorning},
+    {83,  true,  Form::NoArguments,       IsAfternoon},
     // Kept on purpose: only the positive one of these two knows the furre that moved.
-    {84,  true,  Form::WholeText,      ColorsOrMoverColorsEqual},
-    {85,  false, Form::WholeText,      ColorsEqual},
-    {86,  true,  Form::FirstAndLast,   SquareIs<MoveFromOf>},
-    {87,  false, Form::FirstAndLast,   SquareIs<MoveFromOf>},
-    {88,  true,  Form::FirstAndLast,   SquareIs<MoveIntoOf>},
-    {89,  false, Form::FirstAndLast,   SquareIs<MoveIntoOf>},
-    {90,  true,  Form::FirstAndLast,   SquareIs<MoveEndOf>},
-    {91,  false, Form::FirstAndLast,   SquareIs<MoveEndOf>},
-    {92,  true,  Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::from>},
-    {93,  false, Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::from>},
-    {94,  true,  Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::into>},
-    {95,  false, Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::into>},
-    {96,  true,  Form::First,          NoticeTriggerIs},
-    {97,  false, Form::First,          NoticeTriggerIs},
-    {98,  true,  Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
-    {99,  false, Form::FirstAndLast,   NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
-    {100, true,  Form::First,          Number<DiceAmountOf>},
-    {101, true,  Form::First,          Number<DiceSidesOf>},
-    {102, true,  Form::FirstAndLast,   Die<std::less<>>},
-    {103, true,  Form::FirstAndLast,   Die<std::less_equal<>>},
-    {104, true,  Form::FirstAndLast,   Die<std::equal_to<>>},
-    {105, true,  Form::FirstAndLast,   Die<std::greater_equal<>>},
-    {106, true,  Form::FirstAndLast,   Die<std::greater<>>},
-    {107, true,  Form::First,          Number<DiceTotalOf, std::less<>>},
-    {108, true,  Form::First,          Number<DiceTotalOf, std::less_equal<>>},
-    {109, true,  Form::First,          Number<DiceTotalOf, std::equal_to<>>},
-    {110, true,  Form::First,          Number<DiceTotalOf, std::greater_equal<>>},
-    {111, true,  Form::First,          Number<DiceTotalOf, std::greater<>>},
-    {112, true,  Form::FirstAndLast,   Numbers<std::less<>>},
-    {113, true,  Form::FirstAndLast,   Numbers<std::less_equal<>>},
-    {114, true,  Form::FirstAndLast,   Numbers<std::equal_to<>>},
-    {115, true,  Form::FirstAndLast,   Numbers<std::greater<>>},
-    {116, true,  Form::FirstAndLast,   Numbers<std::greater_equal<>>},
-    {117, true,  Form::FirstAndLast,   Both<SameText>},
-    {118, true,  Form::FirstAndLast,   Both<Like>},
-    {119, true,  Form::FirstAndLast,   Both<Contains>},
-    {120, false, Form::FirstAndLast,   Both<SameText>},
-    {121, false, Form::FirstAndLast,   Both<Like>},
-    {122, false, Form::FirstAndLast,   Both<Contains>},
-    {123, true,  Form::ThreeInTurn,    FileHoldsEntry},
-    {124, false, Form::ThreeInTurn,    FileHoldsEntry},
-    {125, true,  Form::NoArguments,    ConnectClientIs<0>},
-    {126, true,  Form::NoArguments,    ConnectClientIs<1>},
-    {127, true,  Form::WholeText,      Text<OwnersOf, InList>},
-    {128, false, Form::WholeText,      Text<OwnersOf, InList>},
-    {129, true,  Form::WholeText,      Text<MapsOf, InList>},
-    {130, false, Form::WholeText,      Text<MapsOf, InList>},
-    {131, true,  Form::WholeTextFrom6, Text<DreamNameOf, LooseEquals>},
-    {132, false, Form::WholeTextFrom6, Text<DreamNameOf, LooseEquals>},
-    {133, true,  Form::FirstAndLast,   SquareIs<DreamOf>},
-    {134, false, Form::FirstAndLast,   SquareIs<DreamOf>},
+    {84,  true,  Form::WholeText,         ColorsOrMoverColorsEqual},
+    {85,  false, Form::WholeText,         ColorsEqual},
+    {86,  true,  Form::FirstAndLastKept,  SquareIs<MoveFromOf>},
+    {87,  false, Form::FirstAndLastKept,  SquareIs<MoveFromOf>},
+    {88,  true,  Form::FirstAndLastKept,  SquareIs<MoveIntoOf>},
+    {89,  false, Form::FirstAndLastKept,  SquareIs<MoveIntoOf>},
+    {90,  true,  Form::FirstAndLastKept,  SquareIs<MoveEndOf>},
+    {91,  false, Form::FirstAndLastKept,  SquareIs<MoveEndOf>},
+    {92,  true,  Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::from>},
+    {93,  false, Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::from>},
+    {94,  true,  Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::into>},
+    {95,  false, Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::into>},
+    {96,  true,  Form::FirstKept,         NoticeTriggerIs},
+    {97,  false, Form::FirstKept,         NoticeTriggerIs},
+    {98,  true,  Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
+    {99,  false, Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
+    {100, true,  Form::FirstKept,         Number<DiceAmountOf>},
+    {101, true,  Form::FirstKept,         Number<DiceSidesOf>},
+    {102, true,  Form::FirstAndLastKept,  Die<std::less<>>},
+    {103, true,  Form::FirstAndLastKept,  Die<std::less_equal<>>},
+    {104, true,  Form::FirstAndLastKept,  Die<std::equal_to<>>},
+    {105, true,  Form::FirstAndLastKept,  Die<std::greater_equal<>>},
+    {106, true,  Form::FirstAndLastKept,  Die<std::greater<>>},
+    {107, true,  Form::FirstKept,         Number<DiceTotalOf, std::less<>>},
+    {108, true,  Form::FirstKept,         Number<DiceTotalOf, std::less_equal<>>},
+    {109, true,  Form::FirstKept,         Number<DiceTotalOf, std::equal_to<>>},
+    {110, true,  Form::FirstKept,         Number<DiceTotalOf, std::greater_equal<>>},
+    {111, true,  Form::FirstKept,         Number<DiceTotalOf, std::greater<>>},
+    {112, true,  Form::FirstAndLastKept,  Numbers<std::less<>>},
+    {113, true,  Form::FirstAndLastKept,  Numbers<std::less_equal<>>},
+    {114, true,  Form::FirstAndLastKept,  Numbers<std::equal_to<>>},
+    {115, true,  Form::FirstAndLastKept,  Numbers<std::greater<>>},
+    {116, true,  Form::FirstAndLastKept,  Numbers<std::greater_equal<>>},
+    {117, true,  Form::FirstAndLastKept,  Both<SameText>},
+    {118, true,  Form::FirstAndLastKept,  Both<Like>},
+    {119, true,  Form::FirstAndLastKept,  Both<Contains>},
+    {120, false, Form::FirstAndLastKept,  Both<SameText>},
+    {121, false, Form::FirstAndLastKept,  Both<Like>},
+    {122, false, Form::FirstAndLastKept,  Both<Contains>},
+    {123, true,  Form::ThreeInTurnFrom6,  FileHoldsEntry},
+    {124, false, Form::ThreeInTurnFrom6,  FileHoldsEntry},
+    {125, true,  Form::NoArguments,       ConnectClientIs<0>},
+    {126, true,  Form::NoArguments,       ConnectClientIs<1>},
+    {127, true,  Form::WholeText,         Text<OwnersOf, InList>},
+    {128, false, Form::WholeText,         Text<OwnersOf, InList>},
+    {129, true,  Form::WholeText,         Text<MapsOf, InList>},
+    {130, false, Form::WholeText,         Text<MapsOf, InList>},
+    {131, true,  Form::WholeTextFrom6,    Text<DreamNameOf, LooseEquals>},
+    {132, false, Form::WholeTextFrom6,    Text<DreamNameOf, LooseEquals>},
+    {133, true,  Form::FirstAndLastKept,  SquareIs<DreamOf>},
+    {134, false, Form::FirstAndLastKept,  SquareIs<DreamOf>},
 };
 // clang-format on
 
-const Condition* FindCondition(std::int16_t number) {
-    const auto* const row =
-        std::lower_bound(std::begin(kConditions), std::end(kConditions), number,
-                         [](const Condition& condition, std::int16_t wanted) { return condition.number < wanted; });
-    return row != std::end(kConditions) && row->number == number ? row : nullptr;
-}
+static_assert(HasARowForEach(kConditionNumbers, kConditions));
 
-std::optional<Arguments> FindArguments(std::string_view line, Form form) {
-    const auto single = [](std::optional<std::string_view> text) {
-        return text ? std::optional(Arguments{*text, {}, {}}) : std::nullopt;
-    };
-    switch (form) {
-        case Form::NoArguments:
-            return Arguments{};
-        case Form::WholeText:
-            return single(WholeArgument(line));
-        case Form::WholeTextFrom6:
-            return single(WholeArgument(line, 6));
-        case Form::First:
-            return single(FirstArgument(line));
-        case Form::FirstAndLast: {
-            const auto first = FirstArgument(line), last = LastArgument(line);
-            return first && last ? std::optional(Arguments{*first, *last, {}}) : std::nullopt;
-        }
-        case Form::ThreeInTurn: {
-            const auto three = ArgumentsInTurn(line, 3, 6);
-            return three ? std::optional(Arguments{(*three)[0], (*three)[1], (*three)[2]}) : std::nullopt;
-        }
-    }
-    return std::nullopt;
-}
+const Condition* FindCondition(std::int16_t number) { return RowOf(kConditions, kConditionNumbers, number); }
 
 }  // namespace
 
@@ -401,4 +368,9 @@ bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number) {
     if (!condition) return false;
     const std::optional<Arguments> arguments = FindArguments(line, condition->form);
     return arguments && condition->holds(bot, *arguments) == condition->wanted;
+}
+
+Form FormOfCondition(std::int16_t number) {
+    const Condition* const condition = FindCondition(number);
+    return condition ? condition->form : Form::NoArguments;
 }

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "engine/Arguments.h"
+
 struct Bot;
 
 /// Does the additional condition (1:n) hold for the current event? A missing brace, an unknown number, or an event
@@ -12,3 +14,6 @@ struct Bot;
 /// @throws RuntimeFault SubscriptOutOfRange, for a die that was not rolled; PathOrFileAccess, for a data file that
 ///         exists and can't be read
 bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number);
+
+/// How the arguments of (1:n) are found; Form::NoArguments, too, for a number that no condition has.
+Form FormOfCondition(std::int16_t number);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -14,6 +13,7 @@
 #include "bot/Lists.h"
 #include "bot/Variables.h"
 #include "engine/Arguments.h"
+#include "engine/CommandNumbers.h"
 #include "engine/DataFile.h"
 #include "game/Compare.h"
 #include "movement/modMovement.h"
@@ -24,28 +24,11 @@
 
 namespace {
 
-/// How an effect's arguments are found on its line.
-enum class Form {
-    NoArguments,
-    Text,          ///< one argument, from the first "{" to the last "}"
-    ToPhrase,      ///< two, joined by "} to {"
-    ToPhraseKept,  ///< the same, the first one keeping the "}" of the phrase
-    StorePhrase,   ///< two, joined by "} and store {"
-    FirstAndLast,  ///< the first braced group and the last one
-    TwoNumbers,    ///< the same group may serve for both
-    TwoInTurn,     ///< braced groups from left to right
-    ThreeInTurn,
-    FourInTurn,
-};
-
-using Arguments = std::vector<std::string_view>;
-
 struct Effect {
-    std::int16_t number;
-    bool gated;  ///< does nothing on maps where the bot may not speak
-    Form form;
-    std::size_t argumentsFrom;  ///< the position at which the search for the first brace begins
-    std::string_view fixed;     ///< what an effect without arguments sends, or puts in front
+    std::int16_t number;  ///< as makers write it
+    bool gated = false;   ///< does nothing on maps where the bot may not speak
+    Form form = Form::NoArguments;
+    std::string_view fixed = {};  ///< what an effect sends whatever its arguments are, or puts in front
     void (*carryOut)(Bot&, const Arguments&, std::string_view fixed);
 };
 
@@ -228,108 +211,105 @@ void ReadRandomLine(Bot& bot, const Arguments& arguments, std::string_view) {
 
 // clang-format off
 constexpr Effect kEffects[] = {
-    {1,  false, Form::NoArguments,  7, "",              Reconnect},
-    {2,  false, Form::NoArguments,  7, "",              Disconnect},
-    {3,  false, Form::Text,         7, "",              WithText<modSend::ShowNotice>},
-    {4,  false, Form::NoArguments,  7, "sit",           Line},
-    {5,  false, Form::NoArguments,  7, "stand",         Line},
-    {6,  false, Form::NoArguments,  7, "lie",           Line},
-    {7,  false, Form::NoArguments,  7, "get",           Line},
-    {8,  false, Form::NoArguments,  7, "use",           Line},
-    {9,  true,  Form::Text,         7, "",              WithText<modSend::SendSpeech>},
-    {10, true,  Form::Text,         7, "",              WithText<modSend::SendDashLine>},
-    {11, true,  Form::Text,         7, "",              WithText<modSend::SendColonLine>},
-    {12, true,  Form::ToPhrase,     7, "",              MessageToName<modSend::SendWhisper>},
-    {13, true,  Form::Text,         7, "",              MessageToPlayer<modSend::SendWhisper>},
-    {14, true,  Form::Text,         7, "",              WithText<modSend::SendEmit>},
-    {15, true,  Form::Text,         7, "",              WithText<modSend::SendEmitLoud>},
-    {16, false, Form::Text,         7, "",              WithText<modSend::SendDesc>},
-    {17, false, Form::NoArguments,  7, "gomap *",       Line},
-    {18, false, Form::NoArguments,  7, "gomap #",       Line},
-    {19, false, Form::NoArguments,  7, "gomap %",       Line},
-    {20, false, Form::NoArguments,  7, "gomap (",       Line},
-    {21, false, Form::NoArguments,  7, "goback",        Line},
-    {22, false, Form::NoArguments,  7, "who",           Line},
-    {23, false, Form::Text,         7, "",              Moves},
-    {24, false, Form::Text,         7, "",              WithText<modSend::SendLook>},
-    {25, false, Form::TwoNumbers,   7, "",              Numbers<modSend::SendLookAt>},
-    {26, false, Form::NoArguments,  7, "shield",        Line},
-    {27, false, Form::NoArguments,  7, "uploads-owner", Speech},
-    {28, false, Form::NoArguments,  7, "uploads-shared", Speech},
-    {29, false, Form::NoArguments,  7, "uploads-all",   Speech},
-    {30, false, Form::NoArguments,  7, "pads-owner",    Speech},
-    {31, false, Form::NoArguments,  7, "pads-shared",   Speech},
-    {32, false, Form::NoArguments,  7, "pads-all",      Speech},
-    {33, false, Form::Text,         7, "",              WithText<modSend::SendShare>},
-    {34, false, Form::NoArguments,  7, kPlayer,         Fixed<modSend::SendShare>},
-    {35, false, Form::Text,         7, "",              WithText<modSend::SendEject>},
-    {36, false, Form::NoArguments,  7, kPlayer,         Fixed<modSend::SendEject>},
-    {37, false, Form::Text,         7, "",              WithText<modSend::SendEntryText>},
-    {38, false, Form::Text,         7, "",              EntryMusic},
-    {39, false, Form::NoArguments,  7, "unload",        Line},
-    {40, false, Form::NoArguments,  7, "unload all",    Line},
-    {41, false, Form::Text,         7, "unload ",       Unload},
+    {.number = 0,  .carryOut = Reconnect},
+    {.number = 1,  .carryOut = Disconnect},
+    {.number = 2,  .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::ShowNotice>},
+    {.number = 3,  .fixed = "sit", .carryOut = Line},
+    {.number = 4,  .fixed = "stand", .carryOut = Line},
+    {.number = 5,  .fixed = "lie", .carryOut = Line},
+    {.number = 6,  .fixed = "get", .carryOut = Line},
+    {.number = 7,  .fixed = "use", .carryOut = Line},
+    {.number = 8,  .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendSpeech>},
+    {.number = 9,  .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendDashLine>},
+    {.number = 10, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendColonLine>},
+    {.number = 11, .gated = true, .form = Form::ToPhrase, .carryOut = MessageToName<modSend::SendWhisper>},
+    {.number = 12, .gated = true, .form = Form::WholeTextOrFault, .carryOut = MessageToPlayer<modSend::SendWhisper>},
+    {.number = 13, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendEmit>},
+    {.number = 14, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendEmitLoud>},
+    {.number = 15, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendDesc>},
+    {.number = 16, .fixed = "gomap *", .carryOut = Line},
+    {.number = 17, .fixed = "gomap #", .carryOut = Line},
+    {.number = 18, .fixed = "gomap %", .carryOut = Line},
+    {.number = 19, .fixed = "gomap (", .carryOut = Line},
+    {.number = 20, .fixed = "goback", .carryOut = Line},
+    {.number = 21, .fixed = "who", .carryOut = Line},
+    {.number = 22, .form = Form::WholeTextOrFault, .carryOut = Moves},
+    {.number = 23, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendLook>},
+    {.number = 24, .form = Form::FirstAndLast, .carryOut = Numbers<modSend::SendLookAt>},
+    {.number = 25, .fixed = "shield", .carryOut = Line},
+    {.number = 26, .fixed = "uploads-owner", .carryOut = Speech},
+    {.number = 27, .fixed = "uploads-shared", .carryOut = Speech},
+    {.number = 28, .fixed = "uploads-all", .carryOut = Speech},
+    {.number = 29, .fixed = "pads-owner", .carryOut = Speech},
+    {.number = 30, .fixed = "pads-shared", .carryOut = Speech},
+    {.number = 31, .fixed = "pads-all", .carryOut = Speech},
+    {.number = 32, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendShare>},
+    {.number = 33, .fixed = kPlayer, .carryOut = Fixed<modSend::SendShare>},
+    {.number = 34, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendEject>},
+    {.number = 35, .fixed = kPlayer, .carryOut = Fixed<modSend::SendEject>},
+    {.number = 36, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendEntryText>},
+    {.number = 37, .form = Form::WholeTextOrFault, .carryOut = EntryMusic},
+    {.number = 38, .fixed = "unload", .carryOut = Line},
+    {.number = 39, .fixed = "unload all", .carryOut = Line},
+    {.number = 40, .form = Form::WholeTextOrFault, .fixed = "unload ", .carryOut = Unload},
     // Kept on purpose: the braces must be there, what they hold does not matter.
-    {42, false, Form::Text,         7, kPlayer,         Fixed<modSend::SendUnshare>},
-    {43, false, Form::Text,         7, "",              WithText<modSend::SendUnshare>},
-    {44, false, Form::Text,         7, "",              WithText<modSend::SendOnln>},
-    {45, false, Form::Text,         7, "",              WithText<modSend::SendJoin>},
-    {46, false, Form::NoArguments,  7, kPlayer,         Fixed<modSend::SendJoin>},
-    {47, false, Form::Text,         7, "",              WithText<modSend::SendSummon>},
-    {48, false, Form::NoArguments,  7, kPlayer,         Fixed<modSend::SendSummon>},
-    {49, false, Form::NoArguments,  7, "parental",      Line},
-    {50, false, Form::NoArguments,  7, "desctags",      Speech},
-    {51, false, Form::NoArguments,  7, "time",          Speech},
-    {52, false, Form::NoArguments,  7, "=news",         Speech},
-    {53, false, Form::NoArguments,  7, "=event",        Speech},
-    {54, true,  Form::TwoNumbers,   7, "",              Numbers<Roll<modSend::SendRollUpper>>},
-    {55, true,  Form::TwoNumbers,   7, "",              Numbers<Roll<modSend::SendRoll>>},
-    {56, false, Form::NoArguments,  7, "dragon",        Line},
-    {57, false, Form::NoArguments,  7, "phoenix",       Line},
-    {58, false, Form::NoArguments,  7, "gryffe",        Line},
-    {59, false, Form::NoArguments,  7, "eagle",         Line},
-    {60, false, Form::NoArguments,  7, "breath",        Line},
-    {61, false, Form::NoArguments,  7, "flame",         Line},
-    {62, true,  Form::NoArguments,  7, kPlayer,         Fixed<MakePlainCookie>},
-    {63, true,  Form::Text,         7, "",              WithText<MakePlainCookie>},
-    {64, true,  Form::Text,         7, "",              MessageToPlayer<modSend::SendMakeCookie>},
+    {.number = 41, .form = Form::WholeTextOrFault, .fixed = kPlayer, .carryOut = Fixed<modSend::SendUnshare>},
+    {.number = 42, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendUnshare>},
+    {.number = 43, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendOnln>},
+    {.number = 44, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendJoin>},
+    {.number = 45, .fixed = kPlayer, .carryOut = Fixed<modSend::SendJoin>},
+    {.number = 46, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendSummon>},
+    {.number = 47, .fixed = kPlayer, .carryOut = Fixed<modSend::SendSummon>},
+    {.number = 48, .fixed = "parental", .carryOut = Line},
+    {.number = 49, .fixed = "desctags", .carryOut = Speech},
+    {.number = 50, .fixed = "time", .carryOut = Speech},
+    {.number = 51, .fixed = "=news", .carryOut = Speech},
+    {.number = 52, .fixed = "=event", .carryOut = Speech},
+    {.number = 53, .gated = true, .form = Form::FirstAndLast, .carryOut = Numbers<Roll<modSend::SendRollUpper>>},
+    {.number = 54, .gated = true, .form = Form::FirstAndLast, .carryOut = Numbers<Roll<modSend::SendRoll>>},
+    {.number = 55, .fixed = "dragon", .carryOut = Line},
+    {.number = 56, .fixed = "phoenix", .carryOut = Line},
+    {.number = 57, .fixed = "gryffe", .carryOut = Line},
+    {.number = 58, .fixed = "eagle", .carryOut = Line},
+    {.number = 59, .fixed = "breath", .carryOut = Line},
+    {.number = 60, .fixed = "flame", .carryOut = Line},
+    {.number = 61, .gated = true, .fixed = kPlayer, .carryOut = Fixed<MakePlainCookie>},
+    {.number = 62, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<MakePlainCookie>},
+    {.number = 63, .gated = true, .form = Form::WholeTextOrFault, .carryOut = MessageToPlayer<modSend::SendMakeCookie>},
     // Kept on purpose: the message keeps the "}" that ends it.
-    {65, true,  Form::ToPhraseKept, 7, "",              MessageToName<modSend::SendMakeCookie>},
-    {67, true,  Form::Text,         7, "",              WithText<modSend::SendGiveCookie>},
-    {68, false, Form::NoArguments,  7, "eat-cookie",    Speech},
-    {69, false, Form::StorePhrase,  7, "",              SetVariable},
-    {70, false, Form::FirstAndLast, 7, "",              Calculate<kAdd>},
-    {71, false, Form::FirstAndLast, 7, "",              Calculate<kSubtract>},
-    {72, false, Form::FirstAndLast, 7, "",              Calculate<kMultiply>},
-    {73, false, Form::FirstAndLast, 7, "",              Calculate<kDivide>},
-    {74, false, Form::FourInTurn,   6, "",              WriteEntry},
-    {75, false, Form::FourInTurn,   6, "",              ReadEntry},
-    {76, false, Form::ThreeInTurn,  6, "",              RemoveEntry},
-    {77, false, Form::ThreeInTurn,  6, "",              AddListLine},
-    {78, false, Form::ThreeInTurn,  7, "",              ReadList},
-    {79, false, Form::ThreeInTurn,  6, "",              RemoveListLine},
-    {80, false, Form::TwoInTurn,    1, "",              RemoveSection},
-    {81, false, Form::NoArguments,  7, "",              SetConnectClient<0>},
-    {82, false, Form::NoArguments,  7, "",              SetConnectClient<1>},
-    {83, false, Form::Text,         7, "",              ChangeList<&Profile::owners, WithEntry>},
-    {84, false, Form::Text,         7, "",              ChangeList<&Profile::owners, WithoutEntry>},
-    {85, false, Form::Text,         7, "",              ChangeList<&Profile::maps, WithEntry>},
-    {86, false, Form::Text,         7, "",              ChangeList<&Profile::maps, WithoutEntry>},
-    {87, false, Form::TwoNumbers,   7, "",              Numbers<WalkTo>},
-    {88, false, Form::NoArguments,  7, "",              StopWalk},
-    {89, false, Form::NoArguments,  7, "",              ZeroAllVariables},
-    {90, false, Form::NoArguments,  7, "",              DeleteAllVariables},
-    {91, false, Form::Text,         7, "",              DeleteVariable},
-    {92, false, Form::ThreeInTurn,  1, "",              ReadRandomLine},
+    {.number = 64, .gated = true, .form = Form::ToPhraseKept, .carryOut = MessageToName<modSend::SendMakeCookie>},
+    {.number = 66, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendGiveCookie>},
+    {.number = 67, .fixed = "eat-cookie", .carryOut = Speech},
+    {.number = 68, .form = Form::StorePhrase, .carryOut = SetVariable},
+    {.number = 69, .form = Form::FirstAndLastApart, .carryOut = Calculate<kAdd>},
+    {.number = 70, .form = Form::FirstAndLastApart, .carryOut = Calculate<kSubtract>},
+    {.number = 71, .form = Form::FirstAndLastApart, .carryOut = Calculate<kMultiply>},
+    {.number = 72, .form = Form::FirstAndLastApart, .carryOut = Calculate<kDivide>},
+    {.number = 73, .form = Form::FourInTurnFrom6, .carryOut = WriteEntry},
+    {.number = 74, .form = Form::FourInTurnFrom6, .carryOut = ReadEntry},
+    {.number = 75, .form = Form::ThreeInTurnFrom6, .carryOut = RemoveEntry},
+    {.number = 76, .form = Form::ThreeInTurnFrom6, .carryOut = AddListLine},
+    {.number = 77, .form = Form::ThreeInTurnFrom7, .carryOut = ReadList},
+    {.number = 78, .form = Form::ThreeInTurnFrom6, .carryOut = RemoveListLine},
+    {.number = 79, .form = Form::TwoInTurnFrom1, .carryOut = RemoveSection},
+    {.number = 80, .carryOut = SetConnectClient<0>},
+    {.number = 81, .carryOut = SetConnectClient<1>},
+    {.number = 82, .form = Form::WholeTextOrFault, .carryOut = ChangeList<&Profile::owners, WithEntry>},
+    {.number = 83, .form = Form::WholeTextOrFault, .carryOut = ChangeList<&Profile::owners, WithoutEntry>},
+    {.number = 84, .form = Form::WholeTextOrFault, .carryOut = ChangeList<&Profile::maps, WithEntry>},
+    {.number = 85, .form = Form::WholeTextOrFault, .carryOut = ChangeList<&Profile::maps, WithoutEntry>},
+    {.number = 86, .form = Form::FirstAndLast, .carryOut = Numbers<WalkTo>},
+    {.number = 87, .carryOut = StopWalk},
+    {.number = 88, .carryOut = ZeroAllVariables},
+    {.number = 89, .carryOut = DeleteAllVariables},
+    {.number = 90, .form = Form::WholeTextOrFault, .carryOut = DeleteVariable},
+    {.number = 91, .form = Form::ThreeInTurnFrom1, .carryOut = ReadRandomLine},
 };
 // clang-format on
 
-const Effect* FindEffect(std::int16_t number) {
-    const auto* const row =
-        std::lower_bound(std::begin(kEffects), std::end(kEffects), number,
-                         [](const Effect& effect, std::int16_t wanted) { return effect.number < wanted; });
-    return row != std::end(kEffects) && row->number == number ? row : nullptr;
-}
+static_assert(HasARowForEach(kEffectNumbers, kEffects));
+
+const Effect* FindEffect(int number) { return RowOf(kEffects, kEffectNumbers, number); }
 
 /// Marks, for as long as it lives, that the script acts. An effect may raise an event, and so begin another one.
 class ScriptActs {
@@ -344,61 +324,23 @@ class ScriptActs {
     const bool before_;
 };
 
-/// One argument: unlike in conditions, a last "}" that stands before the first "{" is a fault.
-std::optional<Arguments> TextArgument(std::string_view line, std::size_t from) {
-    const std::size_t open = line.find('{', from - 1), close = line.rfind('}');
-    if (open == line.npos || close == line.npos) return std::nullopt;
-    if (close < open) throw RuntimeFault(FaultKind::InvalidProcedureCall);
-    return Arguments{line.substr(open + 1, close - open - 1)};
-}
-
-std::optional<Arguments> Joined(std::string_view line, std::string_view phrase, bool keepsBrace) {
-    const auto arguments = ArgumentsJoinedBy(line, phrase);
-    if (!arguments) return std::nullopt;
-    const std::string_view first(arguments->first.data(), arguments->first.size() + (keepsBrace ? 1 : 0));
-    return Arguments{first, arguments->second};
-}
-
-/// The first braced group and the last one, without their braces.
-std::optional<Arguments> OuterGroups(std::string_view line, bool mayBeTheSame) {
-    const auto first = FirstArgument(line), last = LastArgument(line);
-    if (!first || !last || (!mayBeTheSame && last->data() < first->data() + first->size())) return std::nullopt;
-    return Arguments{first->substr(0, first->size() - 1), last->substr(0, last->size() - 1)};
-}
-
-std::optional<Arguments> FindArguments(std::string_view line, const Effect& effect) {
-    switch (effect.form) {
-        case Form::NoArguments:
-            return Arguments{};
-        case Form::Text:
-            return TextArgument(line, effect.argumentsFrom);
-        case Form::ToPhrase:
-            return Joined(line, "} to {", false);
-        case Form::ToPhraseKept:
-            return Joined(line, "} to {", true);
-        case Form::StorePhrase:
-            return Joined(line, "} and store {", false);
-        case Form::FirstAndLast:
-            return OuterGroups(line, false);
-        case Form::TwoNumbers:
-            return OuterGroups(line, true);
-        case Form::TwoInTurn:
-            return ArgumentsInTurn(line, 2, effect.argumentsFrom);
-        case Form::ThreeInTurn:
-            return ArgumentsInTurn(line, 3, effect.argumentsFrom);
-        case Form::FourInTurn:
-            return ArgumentsInTurn(line, 4, effect.argumentsFrom);
-    }
-    return std::nullopt;
-}
-
 }  // namespace
 
 void modScript::ExecuteEffect(Bot& bot, std::string& line, std::int16_t number) {
     line = ExpandVariables(bot, line);
-    const Effect* const effect = FindEffect(number);
+    const Effect* const effect = FindEffect(number - 1);
     if (!effect || (effect->gated && !InList(bot.profile.maps, bot.state.map))) return;
-    const std::optional<Arguments> arguments = FindArguments(line, *effect);
+    const std::optional<Arguments> arguments = FindArguments(line, effect->form);
     const ScriptActs acts(bot);
     if (arguments) effect->carryOut(bot, *arguments, effect->fixed);
+}
+
+bool modScript::IsGated(std::int16_t number) {
+    const Effect* const effect = FindEffect(number);
+    return effect && effect->gated;
+}
+
+Form modScript::FormOf(std::int16_t number) {
+    const Effect* const effect = FindEffect(number);
+    return effect ? effect->form : Form::NoArguments;
 }
