@@ -65,6 +65,10 @@ inline constexpr GameEvent EventDreamListT = 49;
 inline constexpr GameEvent kFirstEvent = EventScriptLoaded;
 inline constexpr GameEvent kLastEvent = EventDreamListT;
 
+/// The number n of the cause (0:n) that answers an event, and the other way round.
+constexpr std::int16_t CauseOf(GameEvent event) { return static_cast<std::int16_t>(event - 1); }
+constexpr GameEvent EventOf(std::int16_t cause) { return static_cast<GameEvent>(cause + 1); }
+
 /// What a bot gets to know by an event, besides whose event it is. Each is read by a few text variables.
 enum class Field {
     None,

@@ -22,7 +22,7 @@ struct CommandNumbers {
     }
 };
 
-inline constexpr CommandNumbers kCauseNumbers = {.last = kLastEvent - 1};
+inline constexpr CommandNumbers kCauseNumbers = {.last = CauseOf(kLastEvent)};
 inline constexpr CommandNumbers kConditionNumbers = {.last = 134, .neverGivenOut = 27};
 inline constexpr CommandNumbers kEffectNumbers = {.last = 91, .neverGivenOut = 65};
 

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "engine/CommandNumbers.h"
+#include "engine/Conditions.h"
+#include "engine/modScript.h"
 #include "language/CommandRows.h"
 #include "text/Text.h"
 
@@ -68,10 +71,29 @@ std::span<const Command> CommandsOf(std::int16_t category) {
 }
 
 const Command* FindCommand(std::int16_t category, std::int16_t number) {
-    const std::span<const Command> commands = CommandsOf(category);
-    const auto row = std::lower_bound(commands.begin(), commands.end(), number,
-                                      [](const Command& command, std::int16_t n) { return command.number < n; });
-    return row != commands.end() && row->number == number ? &*row : nullptr;
+    switch (category) {
+        case kCauseLine:
+            return RowOf(CauseRows(), kCauseNumbers, number);
+        case kConditionLine:
+            return RowOf(ConditionRows(), kConditionNumbers, number);
+        case kEffectLine:
+            return RowOf(EffectRows(), kEffectNumbers, number);
+        default:
+            return nullptr;
+    }
+}
+
+bool Speaks(const Command& command) { return command.category == kEffectLine && modScript::IsGated(command.number); }
+
+Form FormOf(const Command& command) {
+    switch (command.category) {
+        case kConditionLine:
+            return FormOfCondition(command.number);
+        case kEffectLine:
+            return modScript::FormOf(command.number);
+        default:
+            return Form::NoArguments;
+    }
 }
 
 std::string ListLine(const Command& command) { return Line(command, command.text); }

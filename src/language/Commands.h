@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/Arguments.h"
 #include "engine/Script.h"
 #include "language/EventSet.h"
 
@@ -37,22 +38,21 @@ struct ArgumentName {
 
 /// The events in which a command is of use.
 struct Scope {
-    EventSet events;
-    bool neverElsewhere;  ///< in all other events a condition never holds, and an effect does nothing
+    EventSet events = EventSet::All();
+    bool neverElsewhere = false;  ///< in all other events a condition never holds, and an effect does nothing
 };
 
-/// A command of the language, as the people who write scripts see it. What it does is the engine's; tests keep the
-/// two in step.
+/// A command of the language, as the people who write scripts see it: its words. What it does, how it finds its
+/// arguments and whether it is gated is the engine's.
 struct Command {
-    std::int16_t category;                   ///< kCauseLine, kConditionLine or kEffectLine
-    std::int16_t number;                     ///< n of (c:n)
-    std::string_view text;                   ///< behind "(c:n) ", with the arguments' names in braces
-    std::array<std::string_view, 4> filled;  ///< what the example has in the braces, from left to right
-    Scope scope;
-    std::string_view reads, changes;  ///< variables in brackets, other things in words; often empty
-    std::string_view explanation;     ///< one paragraph
-    bool speaks = false;              ///< does nothing on maps that the bot's profile doesn't list
-    std::string_view trigger = {};    ///< a whole trigger that shows it at work, lines parted by LF; may be empty
+    std::int16_t category = -1;                   ///< kCauseLine, kConditionLine or kEffectLine
+    std::int16_t number = -1;                     ///< n of (c:n)
+    std::string_view text = {};                   ///< behind "(c:n) ", with the arguments' names in braces
+    std::array<std::string_view, 4> filled = {};  ///< what the example has in the braces, from left to right
+    Scope scope = {};                             ///< every event, unless the row says otherwise
+    std::string_view reads = {}, changes = {};    ///< variables in brackets, other things in words; often empty
+    std::string_view explanation = {};            ///< one paragraph
+    std::string_view trigger = {};  ///< a whole trigger that shows it at work, lines parted by LF; may be empty
 };
 
 /// All commands of a category, by number; none for a category that means nothing.
@@ -60,6 +60,12 @@ std::span<const Command> CommandsOf(std::int16_t category);
 
 /// @return nullptr when no command has this category and number
 const Command* FindCommand(std::int16_t category, std::int16_t number);
+
+/// Is it an effect that does nothing on maps which the bot's profile doesn't list?
+bool Speaks(const Command& command);
+
+/// How the engine finds its arguments; no cause has any that the engine looks for.
+Form FormOf(const Command& command);
 
 /// The command as a script line, as the editor inserts it: "(1:2) and they said {text},".
 std::string ListLine(const Command& command);

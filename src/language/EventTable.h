@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -16,6 +15,3 @@ struct EventDescription {
 
 /// All events, by code.
 std::span<const EventDescription> AllEvents();
-
-/// The number of the cause that answers an event.
-constexpr std::int16_t CauseOf(GameEvent event) { return static_cast<std::int16_t>(event - 1); }

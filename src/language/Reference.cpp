@@ -112,7 +112,7 @@ std::string CommandEntry(const Command& command) {
     text += Item("Of use in", ScopeText(command.scope));
     text += Item("Reads", command.reads);
     text += Item("Changes", command.changes);
-    if (command.speaks) text += "- Speaks: only on the maps that the profile lists\n";
+    if (Speaks(command)) text += "- Speaks: only on the maps that the profile lists\n";
     return text + Examples(command);
 }
 

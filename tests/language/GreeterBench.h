@@ -40,6 +40,4 @@ class GreeterBench : public RehearsalBot {
     }
 };
 
-inline std::string CauseLine(GameEvent event) {
-    return ExampleLine(*FindCommand(kCauseLine, static_cast<std::int16_t>(event - 1)));
-}
+inline std::string CauseLine(GameEvent event) { return ExampleLine(*FindCommand(kCauseLine, CauseOf(event))); }
