@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <functional>
+#include <iterator>
 #include <set>
 #include <utility>
 #include <vector>
@@ -124,6 +125,27 @@ void ReplaceEach(Expansion& text, const Variable (&variables)[Count]) {
         text.Replace(variable.name, [&] { return variable.value(text.bot()); });
     }
 }
+
+/// What "[player]" and its like stand for depends on the event, see ReplaceEventPlayer.
+constexpr std::string_view kPlayerNames[] = {"[player]", "[player.name]"};
+constexpr std::string_view kCookieName = "[cookiename]";
+
+struct FurreVariable {
+    std::string_view name;
+    std::string_view (*value)(const Furre&);
+};
+constexpr FurreVariable kFurreVariables[] = {
+    {"[player.colors]", [](const Furre& furre) -> std::string_view { return furre.looks.colors; }},
+    {"[player.gender]", [](const Furre& furre) -> std::string_view { return furre.looks.gender; }},
+    {"[player.species]", [](const Furre& furre) -> std::string_view { return furre.looks.species; }},
+    {"[player.markings]", [](const Furre& furre) -> std::string_view { return furre.looks.markings; }},
+    {"[player.desc]", [](const Furre& furre) -> std::string_view { return furre.desc; }},
+};
+
+/// Variables with a number in the place of the N.
+constexpr std::string_view kWord = "[wordN]", kStartingWord = "[startingwordN]", kDie = "[dieN]";
+
+constexpr std::string_view StemOf(std::string_view numbered) { return numbered.substr(0, numbered.size() - 2); }
 
 #define TEXT(path) [](const Bot& bot) { return bot.path; }
 #define NUMBER(path) [](const Bot& bot) { return std::to_string(bot.path); }
@@ -295,17 +317,11 @@ void ReplaceEventPlayer(Expansion& text) {
     const EventFacts& event = FactsOf(text.bot().currentEvent);
     const std::string* const name = event.FurreNameIn(state);
     if (!name) return;
-    text.ReplaceText("[player]", *name);
-    text.ReplaceText("[player.name]", *name);
+    for (const std::string_view variable : kPlayerNames) text.ReplaceText(variable, *name);
     if (event.furre && event.furre != &BotState::look) {
-        const Furre& furre = state.*event.furre;
-        text.ReplaceText("[player.colors]", furre.looks.colors);
-        text.ReplaceText("[player.gender]", furre.looks.gender);
-        text.ReplaceText("[player.species]", furre.looks.species);
-        text.ReplaceText("[player.markings]", furre.looks.markings);
-        text.ReplaceText("[player.desc]", furre.desc);
+        for (const auto& [variable, value] : kFurreVariables) text.ReplaceText(variable, value(state.*event.furre));
     }
-    if (event.otherName) text.ReplaceText("[cookiename]", state.*event.otherName);
+    if (event.otherName) text.ReplaceText(kCookieName, state.*event.otherName);
 }
 
 /// The words from one on, joined with blanks. Kept on purpose: empty words vanish while nothing is joined yet.
@@ -319,18 +335,19 @@ std::string WordsFrom(const std::vector<std::string>& words, std::size_t first) 
 }
 
 void ReplaceWords(Expansion& text) {
-    if (text.bot().state.message.empty() || !(text.Holds("[word") || text.Holds("[startingword"))) return;
+    constexpr std::string_view kOne = StemOf(kWord), kFrom = StemOf(kStartingWord);
+    if (text.bot().state.message.empty() || !(text.Holds(kOne) || text.Holds(kFrom))) return;
     const std::vector<std::string> words = Split(text.bot().state.message, " ");
-    ReplaceInTurn(text, NumberedNames({"[word", "[startingword"}, words.size(), [&](std::size_t stem, std::size_t n) {
+    ReplaceInTurn(text, NumberedNames({kOne, kFrom}, words.size(), [&](std::size_t stem, std::size_t n) {
                       return stem == 0 ? words[n - 1] : WordsFrom(words, n - 1);
                   }));
 }
 
 void ReplaceDice(Expansion& text) {
     const Dice& dice = text.bot().state.dice;
-    if (dice.amount > 0 && text.Holds("[die")) {
+    if (dice.amount > 0 && text.Holds(StemOf(kDie))) {
         const std::size_t kept = std::min(dice.values.size(), static_cast<std::size_t>(dice.amount));
-        ReplaceInTurn(text, NumberedNames({"[die"}, kept, [&](std::size_t, std::size_t n) {
+        ReplaceInTurn(text, NumberedNames({StemOf(kDie)}, kept, [&](std::size_t, std::size_t n) {
                           return std::to_string(dice.values[n - 1]);
                       }));
     }
@@ -353,4 +370,19 @@ std::string ExpandVariables(const Bot& bot, std::string_view text) {
     ReplaceEach(expansion, kStateVariables);
     ReplaceDice(expansion);
     return expansion.Take();
+}
+
+std::vector<std::string_view> VariableNames() {
+    std::vector<std::string_view> names(std::begin(kPlayerNames), std::end(kPlayerNames));
+    const auto add = [&names](const auto& variables) {
+        for (const auto& variable : variables) names.push_back(variable.name);
+    };
+    add(kFurreVariables);
+    names.insert(names.end(), {kCookieName, kWord, kStartingWord});
+    add(kBotVariables);
+    add(kClockVariables);
+    add(kStateVariables);
+    names.push_back(kDie);
+    add(kDiceVariables);
+    return names;
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 struct Bot;
 
@@ -11,3 +12,7 @@ struct Bot;
 /// @param text  any text, not only a script line
 /// @throws RuntimeFault OutOfMemory, before a text longer than kLongestText comes about
 std::string ExpandVariables(const Bot& bot, std::string_view text);
+
+/// The variables that every bot has, in the order of their replacement, as written; a capital N stands for a number
+/// from 1 up.
+std::vector<std::string_view> VariableNames();

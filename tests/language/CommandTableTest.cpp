@@ -1,5 +1,6 @@
 #include "language/GreeterBench.h"
 #include "language/Reference.h"
+#include "language/VariableTable.h"
 #include "support/Written.h"
 
 namespace {
@@ -7,6 +8,12 @@ namespace {
 TEST(CommandTable, YieldsTheGeneratedFiles) {
     EXPECT_TRUE(CommandListFile() == ReadSource("share/vslist.vs")) << "out of date: run scripts/language";
     EXPECT_TRUE(LanguageReference() == ReadSource("docs/language.md")) << "out of date: run scripts/language";
+}
+
+TEST(VariableTable, DescribesAllThatTheBotReplaces) {
+    std::vector<std::string_view> described;
+    for (const VariableDescription& variable : AllVariables()) described.push_back(variable.name);
+    EXPECT_THAT(described, testing::UnorderedElementsAreArray(VariableNames()));
 }
 
 TEST(CommandTable, KnowsNothingElse) {
