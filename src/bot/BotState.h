@@ -8,9 +8,9 @@
 #include "game/Furre.h"
 #include "game/Square.h"
 
-struct Movement {
+/// The furre that moved last, for which the game has no name.
+struct Mover {
     std::string colors;
-    Square from, into;
     std::int16_t frame = 0;
 };
 
@@ -21,19 +21,15 @@ struct StandardTime {
 
 struct Dice {
     std::int16_t amount = 0, sides = 0, total = 0;
-    std::vector<std::int16_t> values{0};  ///< the single dice; one 0 before the first roll
 };
 
-/// Everything a bot knows of the game. Each field is named after the text variable that reads it; a furre's name has
-/// "|" or blanks as the game sent it.
-struct BotState {
+/// What a session fills. A login begins with a new one.
+struct KnownThisSession {
     std::string message;
-    Movement move;
+    Mover move;
 
     Furre vorel;           ///< the bot's own character
     std::string password;  ///< for the login line only: never shown, logged or recorded
-    Square vorelFrom, vorelInto;
-    std::int16_t vorelFrame = 0;
 
     Furre player;           ///< who spoke or acted in a speech-type event
     std::string playerTag;  ///< the badge code of that furre, or the whole "#A" line it came in
@@ -43,21 +39,36 @@ struct BotState {
 
     std::string mapFile, map, previousMap;
     std::string dreamName;
-    Square dream;
     std::vector<Square> dreams;  ///< the squares that hold dreams; a walk never steps on one
 
     DragonSpeakNotice dsbot, ds;
     StandardTime fst;
-    Dice dice;
+    std::vector<std::int16_t> dieValues{0};  ///< the single dice; one 0 before the first roll
 
     std::string visitors, newVisitors;  ///< names joined with ", "
-    std::int16_t visitorCount = 0;
 
     std::string requester;                   ///< the furre of a request, notice or roll
     std::string onlineName;                  ///< the furre of an online answer
     std::string arrived, present, departed;  ///< the visitor of events 21, 22 and 23
     std::string cookieGiver, cookieName;
 
-    bool shutDown = false;         ///< text lines are no longer shown; cleared by the next login
+    bool shutDown = false;  ///< text lines are no longer shown
+};
+
+/// What a login leaves as it is. Kept on purpose: scripts in use go on with the squares, the counts and the last roll
+/// of the session before, though its single dice are gone.
+struct KnownAcrossLogins {
+    Square moveFrom, moveInto;
+    Square vorelFrom, vorelInto;
+    std::int16_t vorelFrame = 0;
+    Square dream;
+    Dice dice;
+    std::int16_t visitorCount = 0;
     bool requestAccepted = false;  ///< consumed by the next "joins you." or "summons you."
+};
+
+/// Everything a bot knows of the game. Each field is named after the text variable that reads it; a furre's name has
+/// "|" or blanks as the game sent it.
+struct BotState : KnownThisSession, KnownAcrossLogins {
+    void BeginSession() { static_cast<KnownThisSession&>(*this) = {}; }
 };

@@ -199,13 +199,13 @@ constexpr Variable kStateVariables[] = {
     {"[fst.second]", NUMBER(state.fst.second)},
     {"[fst.median]", TEXT(state.fst.median)},
     {"[move.colors]", TEXT(state.move.colors)},
-    {"[move.from.x]", NUMBER(state.move.from.x)},
-    {"[move.from.y]", NUMBER(state.move.from.y)},
+    {"[move.from.x]", NUMBER(state.moveFrom.x)},
+    {"[move.from.y]", NUMBER(state.moveFrom.y)},
     {"[move.frame]", NUMBER(state.move.frame)},
-    {"[move.into.x]", NUMBER(state.move.into.x)},
-    {"[move.into.y]", NUMBER(state.move.into.y)},
-    {"[move.into]", PAIR(state.move.into)},
-    {"[move.from]", PAIR(state.move.from)},
+    {"[move.into.x]", NUMBER(state.moveInto.x)},
+    {"[move.into.y]", NUMBER(state.moveInto.y)},
+    {"[move.into]", PAIR(state.moveInto)},
+    {"[move.from]", PAIR(state.moveFrom)},
     {"[look.name]", TEXT(state.look.name)},
     {"[look.colors]", TEXT(state.look.looks.colors)},
     {"[look.gender]", TEXT(state.look.looks.gender)},
@@ -344,11 +344,11 @@ void ReplaceWords(Expansion& text) {
 }
 
 void ReplaceDice(Expansion& text) {
-    const Dice& dice = text.bot().state.dice;
-    if (dice.amount > 0 && text.Holds(StemOf(kDie))) {
-        const std::size_t kept = std::min(dice.values.size(), static_cast<std::size_t>(dice.amount));
+    const BotState& state = text.bot().state;
+    if (state.dice.amount > 0 && text.Holds(StemOf(kDie))) {
+        const std::size_t kept = std::min(state.dieValues.size(), static_cast<std::size_t>(state.dice.amount));
         ReplaceInTurn(text, NumberedNames({StemOf(kDie)}, kept, [&](std::size_t, std::size_t n) {
-                          return std::to_string(dice.values[n - 1]);
+                          return std::to_string(state.dieValues[n - 1]);
                       }));
     }
     ReplaceEach(text, kDiceVariables);

@@ -160,13 +160,13 @@ bool IsAt(Square square, const Arguments& arguments) {
     return LeadingNumber(arguments[0]) == square.x && LeadingNumber(arguments[1]) == square.y;
 }
 
-Square MoveFromOf(const Bot& bot) { return bot.state.move.from; }
-Square MoveIntoOf(const Bot& bot) { return bot.state.move.into; }
+Square MoveFromOf(const Bot& bot) { return bot.state.moveFrom; }
+Square MoveIntoOf(const Bot& bot) { return bot.state.moveInto; }
 Square DreamOf(const Bot& bot) { return bot.state.dream; }
 
 /// Where the furre stands after its move; both squares are the same when it only turned.
 Square MoveEndOf(const Bot& bot) {
-    return bot.state.move.from == bot.state.move.into ? bot.state.move.from : bot.state.move.into;
+    return bot.state.moveFrom == bot.state.moveInto ? bot.state.moveFrom : bot.state.moveInto;
 }
 
 template <Square (*Field)(const Bot&)>
@@ -194,7 +194,7 @@ std::optional<bool> NoticeTriggerIs(const Bot& bot, const Arguments& arguments) 
 template <typename Comparison>
 std::optional<bool> Die(const Bot& bot, const Arguments& arguments) {
     const std::int16_t die = RoundTo16(LeadingNumber(arguments[0]));
-    const auto& values = bot.state.dice.values;
+    const auto& values = bot.state.dieValues;
     if (die < 1 || static_cast<std::size_t>(die) > values.size()) throw RuntimeFault(FaultKind::SubscriptOutOfRange);
     const double value = values[static_cast<std::size_t>(die) - 1];
     return Comparison{}(value, LeadingNumber(arguments[1]));

@@ -65,9 +65,9 @@ void ReadDice(Bot& bot, const ServerLine& line) {
     const bool totalOnly = whole.find(" & gets ", rolls) != whole.npos;
     if (totalOnly) {
         // Kept on purpose: each die has the total for its value, for the line tells no other.
-        dice.values.assign(static_cast<std::size_t>(std::max(dice.amount, std::int16_t{1})), dice.total);
+        bot.state.dieValues.assign(static_cast<std::size_t>(std::max(dice.amount, std::int16_t{1})), dice.total);
     } else {
-        dice.values = ReadSingleDice(whole, dice.amount);
+        bot.state.dieValues = ReadSingleDice(whole, dice.amount);
     }
     RunScript(bot, totalOnly ? EventDiceTotal : EventDiceRoll);
 }

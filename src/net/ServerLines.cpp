@@ -35,17 +35,17 @@ Square SquareAt(const ServerLine& line, std::size_t position) {
 void ReadMovementLine(Bot& bot, const ServerLine& line) {
     constexpr std::size_t kColorsAt = 2, kIntoAt = 12, kFrameAt = 16, kFromAt = 18;
     const bool appears = line.HasAt(kMarkerAt, "<");
-    Movement& move = bot.state.move;
-    move.colors = line.Text(kColorsAt, kColorsLength);
-    move.into = SquareAt(line, kIntoAt);
-    move.frame = NumberAt(line, kFrameAt);
-    move.from = appears ? Square{} : SquareAt(line, kFromAt);
+    BotState& state = bot.state;
+    state.move.colors = line.Text(kColorsAt, kColorsLength);
+    state.moveInto = SquareAt(line, kIntoAt);
+    state.move.frame = NumberAt(line, kFrameAt);
+    state.moveFrom = appears ? Square{} : SquareAt(line, kFromAt);
     // Kept on purpose: these lines carry no name, so a furre is known by its colour code alone, and another one in the
     // bot's colours is taken for the bot.
-    if (move.colors == bot.state.vorel.looks.colors) {
-        bot.state.vorelInto = move.into;
-        bot.state.vorelFrom = move.from;
-        if (!appears) bot.state.vorelFrame = move.frame;
+    if (state.move.colors == state.vorel.looks.colors) {
+        state.vorelInto = state.moveInto;
+        state.vorelFrom = state.moveFrom;
+        if (!appears) state.vorelFrame = state.move.frame;
     }
     RunScript(bot, EventFurreMoved);
 }

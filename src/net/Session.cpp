@@ -29,28 +29,6 @@ constexpr std::string_view kInvalidSelection = "Invalid Selection";
 /// How much of a packet is held back until the rest of it has come, before it is relayed.
 constexpr std::size_t kMostHeldBack = std::size_t{64} * 1024;
 
-/// Empties what the last session left behind. Kept on purpose: the positions, the dream's square, the last roll's
-/// numbers, the visitors' count and an accepted request stay.
-void ResetState(BotState& state) {
-    state.shutDown = false;
-    state.mapFile = state.map = state.previousMap = "";
-    state.visitors = state.newVisitors = "";
-    state.dice.values.assign(1, 0);
-    state.fst = {};
-    state.dsbot = state.ds = {};
-    state.breath = state.flame = {};
-    state.requester = state.onlineName = state.arrived = state.present = state.departed = "";
-    state.cookieGiver = state.cookieName = "";
-    state.dreams.clear();
-    state.dreamName = "";
-    state.message = "";
-    state.move.colors = "";
-    state.move.frame = 0;
-    state.player = state.look = state.vorel = {};
-    state.playerTag = "";
-    state.password = "";
-}
-
 }  // namespace
 
 void Session::Connect() {
@@ -170,7 +148,7 @@ void Session::LearnPassword() {
 
 void Session::OnServerConnected() {
     Note(Happening::Connected);
-    ResetState(bot_.state);
+    bot_.state.BeginSession();
     LearnPassword();
     bot_.clock.seconds = bot_.clock.minutes = 0;  // the hours never count, see ElapsedClock
     status_.connection = "Connected";

@@ -63,7 +63,7 @@ TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
     RehearsalBot fast;
     PlainRows plain;
     fast.bot.state.dice.amount = 2;
-    fast.bot.state.dice.values = {7, 1};
+    fast.bot.state.dieValues = {7, 1};
     int replaced = 0;
     for (int round = 0; round < 20000; ++round) {
         const std::string name = text(2), other = text(3);
@@ -75,7 +75,7 @@ TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
         fast.bot.state.message = "w" + text(4);  // an empty message has no words at all
         const std::string line = text(9);
         const std::string expected =
-            ExpandPlainly(line, plain.rows, Split(fast.bot.state.message, " "), fast.bot.state.dice.values);
+            ExpandPlainly(line, plain.rows, Split(fast.bot.state.message, " "), fast.bot.state.dieValues);
         ASSERT_EQ(ExpandVariables(fast.bot, line), expected) << round << ": " << line;
         ASSERT_EQ(fast.bot.variables.Find(name) != nullptr, plain.Row(name) != plain.rows.end());
         replaced += line == expected ? 0 : 1;

@@ -31,7 +31,7 @@ TEST(FurreName, IsKnownInFewerEventsThanThePlayer) {
 
 TEST(Dice, ADieThatWasNotRolledIsAFault) {
     RehearsalBot rehearsal;
-    rehearsal.bot.state.dice.values = {3, 5};
+    rehearsal.bot.state.dieValues = {3, 5};
     for (std::string line : {"(1:104) {0} {1}", "(1:104) {3} {1}", "(1:104) {none} {1}"}) {
         EXPECT_EQ(FaultOf([&] { EvaluateCondition(rehearsal.bot, line, 104); }), FaultKind::SubscriptOutOfRange)
             << line;

@@ -66,7 +66,8 @@ class Subject : public RehearsalBot {
         bot.state.map = "home";
         bot.state.message = "hello there";
         bot.state.player.name = "Ann";
-        bot.state.dice = {2, 6, 8, {3, 5}};
+        bot.state.dice = {2, 6, 8};
+        bot.state.dieValues = {3, 5};
     }
 
     /// Everything to be seen of one event, one line each: what it told, the fault and where, and what it left behind.

@@ -19,7 +19,8 @@ class Subject : public FuzzBot {
         bot.state.map = "Acropolis";
         bot.state.message = "hello there";
         bot.state.player.name = "Ann";
-        bot.state.dice = {2, 6, 8, {3, 5}};
+        bot.state.dice = {2, 6, 8};
+        bot.state.dieValues = {3, 5};
     }
 
     /// Everything to be seen of one event, one line each.
