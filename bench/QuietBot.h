@@ -58,7 +58,7 @@ struct QuietBot {
 
     QuietBot() {
         bot.state.vorel.name = "Greeter";
-        bot.state.map = bot.profile.maps = "Practice Dream";
+        bot.profile.maps = bot.state.map = "Practice Dream";
         bot.state.player.name = "Ann";
         bot.state.message = "hello there, how are you";
     }

@@ -4,7 +4,7 @@
 # Text of the game in 8 bits, 16-bit numbers, the fault. The standard library alone.
 add_room(text)
 
-# What the game itself is made of: squares, looks, base 95, names and patterns.
+# What the game itself is made of: squares, looks, base 95, names, lists of them, patterns.
 add_room(game      FROM text)
 
 # What a bot is: its state, events, variables, the data of its profile, and the ports through which it touches the world.

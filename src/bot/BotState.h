@@ -45,7 +45,7 @@ struct KnownThisSession {
     StandardTime fst;
     std::vector<std::int16_t> dieValues{0};  ///< the single dice; one 0 before the first roll
 
-    std::string visitors, newVisitors;  ///< names joined with ", "
+    std::string visitors, newVisitors;  ///< see game/Lists.h
 
     std::string requester;                   ///< the furre of a request, notice or roll
     std::string onlineName;                  ///< the furre of an online answer

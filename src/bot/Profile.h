@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "game/Lists.h"
+
 /// The port the game has always used.
 inline constexpr std::int16_t kDefaultPort = 6000;
 
@@ -12,7 +14,7 @@ inline constexpr std::int16_t kDefaultPort = 6000;
 struct Profile {
     std::string path;                       ///< of the ".tvm" file, absolute, UTF-8; empty while it has no name yet
     std::string clientPath, characterPath;  ///< as written in the file
-    std::string owners, maps;               ///< names joined with ", "; the bot may speak on these maps
+    SplitList owners, maps;                 ///< names; the bot may speak on these maps
     std::int16_t connectClient = 0;         ///< 1: client mode
     std::int16_t closeClient = 0;           ///< 1: close the client's window when the session ends
     bool signatureFirst = false;            ///< where the product signature goes in the description

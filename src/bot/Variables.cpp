@@ -159,7 +159,7 @@ constexpr Variable kBotVariables[] = {
     {"[vorel.gender]", TEXT(state.vorel.looks.gender)},
     {"[vorel.markings]", TEXT(state.vorel.looks.markings)},
     {"[vorel.species]", TEXT(state.vorel.looks.species)},
-    {"[vorel.owners]", TEXT(profile.owners)},
+    {"[vorel.owners]", TEXT(profile.owners.Text())},
     {"[vorel.into]", PAIR(state.vorelInto)},
     {"[vorel.from]", PAIR(state.vorelFrom)},
     {"[vorel.into.x]", NUMBER(state.vorelInto.x)},

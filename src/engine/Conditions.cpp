@@ -12,6 +12,7 @@
 #include "engine/CommandNumbers.h"
 #include "engine/DataFile.h"
 #include "game/Compare.h"
+#include "game/Lists.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
@@ -116,8 +117,6 @@ const std::string& MapOf(const Bot& bot) { return bot.state.map; }
 const std::string& PreviousMapOf(const Bot& bot) { return bot.state.previousMap; }
 const std::string& VisitorsOf(const Bot& bot) { return bot.state.visitors; }
 const std::string& DreamNameOf(const Bot& bot) { return bot.state.dreamName; }
-const std::string& OwnersOf(const Bot& bot) { return bot.profile.owners; }
-const std::string& MapsOf(const Bot& bot) { return bot.profile.maps; }
 
 using TextOf = const std::string& (*)(const Bot&);
 using TextTest = bool (*)(std::string_view text, std::string_view argument);
@@ -125,6 +124,11 @@ using TextTest = bool (*)(std::string_view text, std::string_view argument);
 template <TextOf Field, TextTest Test>
 std::optional<bool> Text(const Bot& bot, const Arguments& arguments) {
     return Test(Field(bot), arguments[0]);
+}
+
+template <SplitList Profile::*List>
+std::optional<bool> IsIn(const Bot& bot, const Arguments& arguments) {
+    return (bot.profile.*List).Holds(arguments[0]);
 }
 
 template <TextTest Test>
@@ -345,10 +349,10 @@ constexpr Condition kConditions[] = {
     {124, false, Form::ThreeInTurnFrom6,  FileHoldsEntry},
     {125, true,  Form::NoArguments,       ConnectClientIs<0>},
     {126, true,  Form::NoArguments,       ConnectClientIs<1>},
-    {127, true,  Form::WholeText,         Text<OwnersOf, InList>},
-    {128, false, Form::WholeText,         Text<OwnersOf, InList>},
-    {129, true,  Form::WholeText,         Text<MapsOf, InList>},
-    {130, false, Form::WholeText,         Text<MapsOf, InList>},
+    {127, true,  Form::WholeText,         IsIn<&Profile::owners>},
+    {128, false, Form::WholeText,         IsIn<&Profile::owners>},
+    {129, true,  Form::WholeText,         IsIn<&Profile::maps>},
+    {130, false, Form::WholeText,         IsIn<&Profile::maps>},
     {131, true,  Form::WholeTextFrom6,    Text<DreamNameOf, LooseEquals>},
     {132, false, Form::WholeTextFrom6,    Text<DreamNameOf, LooseEquals>},
     {133, true,  Form::FirstAndLastKept,  SquareIs<DreamOf>},

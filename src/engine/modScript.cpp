@@ -10,12 +10,11 @@
 #include "bot/Bot.h"
 #include "bot/Events.h"
 #include "bot/Host.h"
-#include "bot/Lists.h"
 #include "bot/Variables.h"
 #include "engine/Arguments.h"
 #include "engine/CommandNumbers.h"
 #include "engine/DataFile.h"
-#include "game/Compare.h"
+#include "game/Lists.h"
 #include "movement/modMovement.h"
 #include "send/modSend.h"
 #include "text/Limits.h"
@@ -105,9 +104,9 @@ void SetConnectClient(Bot& bot, const Arguments&, std::string_view) {
     bot.profile.connectClient = Flag;
 }
 
-template <std::string Profile::*List, std::string (*Change)(std::string_view list, std::string_view entry)>
+template <SplitList Profile::*List, std::string (*Change)(std::string_view list, std::string_view entry)>
 void ChangeList(Bot& bot, const Arguments& arguments, std::string_view) {
-    bot.profile.*List = Change(bot.profile.*List, arguments[0]);
+    bot.profile.*List = Change((bot.profile.*List).Text(), arguments[0]);
 }
 
 // --- variables ---------------------------------------------------------------------------------------------------
@@ -329,7 +328,7 @@ class ScriptActs {
 void modScript::ExecuteEffect(Bot& bot, std::string& line, std::int16_t number) {
     line = ExpandVariables(bot, line);
     const Effect* const effect = FindEffect(number - 1);
-    if (!effect || (effect->gated && !InList(bot.profile.maps, bot.state.map))) return;
+    if (!effect || (effect->gated && !bot.profile.maps.Holds(bot.state.map))) return;
     const std::optional<Arguments> arguments = FindArguments(line, effect->form);
     const ScriptActs acts(bot);
     if (arguments) effect->carryOut(bot, *arguments, effect->fixed);

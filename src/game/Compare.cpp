@@ -1,7 +1,5 @@
 #include "game/Compare.h"
 
-#include <algorithm>
-
 #include "text/Text.h"
 
 namespace {
@@ -68,12 +66,6 @@ bool Like(std::string_view text, std::string_view pattern) {
         }
     }
     return pattern.find_first_not_of('*', position) == pattern.npos;
-}
-
-bool InList(std::string_view list, std::string_view name) {
-    if (list.empty()) return false;
-    const std::vector<std::string> names = Split(list, ", ");
-    return std::any_of(names.begin(), names.end(), [&](const std::string& item) { return LooseEquals(item, name); });
 }
 
 std::string SafeFileName(std::string_view text) {

@@ -14,8 +14,5 @@ bool LooseLike(std::string_view text, std::string_view pattern);
 /// never closed, or holds a range the wrong way round, matches nothing.
 bool Like(std::string_view text, std::string_view pattern);
 
-/// True when one of the list's names, separated by ", ", loosely equals the name. An empty list holds no name.
-bool InList(std::string_view list, std::string_view name);
-
 /// The text with the characters that can't stand in a file's name replaced by "_".
 std::string SafeFileName(std::string_view text);

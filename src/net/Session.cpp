@@ -40,7 +40,7 @@ void Session::Connect() {
     status_.lacksFiles = !character || !client;
     if (status_.lacksFiles) {
         link_.ShowMessage(kInvalidSelection, MissingFiles(character, client));
-    } else if (bot_.profile.owners.empty()) {
+    } else if (bot_.profile.owners.Text().empty()) {
         link_.ShowMessage("Bot Owner",
                           "You must add at least one name to the bot owners list before attempting to connect.");
     } else if (bot_.profile.IsClientMode()) {

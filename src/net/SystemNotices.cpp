@@ -7,6 +7,7 @@
 #include "bot/Bot.h"
 #include "bot/Host.h"
 #include "engine/Dispatcher.h"
+#include "game/Lists.h"
 #include "net/ServerLine.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
@@ -46,10 +47,6 @@ void ReadStandardTime(Bot& bot, const ServerLine& line) {
     bot.state.fst = {LeadingNumberOrZero(pieces[0]), LeadingNumberOrZero(pieces[1]), LeadingNumberOrZero(second),
                      last.substr(second.size())};
     RunScript(bot, EventTimeOfDay);
-}
-
-std::vector<std::string> Names(const std::string& list) {
-    return list.empty() ? std::vector<std::string>() : Split(list, ", ");
 }
 
 using NameCount = std::unordered_map<std::string_view, std::size_t>;
@@ -103,10 +100,10 @@ void ReadVisitorList(Bot& bot, const ServerLine& line) {
     constexpr std::size_t kNamesAt = 21;
     const std::string list(line.RestFrom(kNamesAt));
     bot.state.newVisitors = list;
-    const std::vector<std::string> before = Names(bot.state.visitors);
+    const std::vector<std::string> before = EntriesOf(bot.state.visitors);
     // The script sees the list it compares against; where there was none it sees the new one.
     if (before.empty()) bot.state.visitors = list;
-    CompareVisitors(bot, before, Names(list));
+    CompareVisitors(bot, before, EntriesOf(list));
     bot.state.visitors = list;
     RunScript(bot, EventVisitorsUpdated);
 }

@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "game/Base95.h"
+#include "game/Lists.h"
 #include "text/Text.h"
 
 namespace {
@@ -85,7 +86,9 @@ std::string Trigger(bool own, const DragonSpeakNotice& notice) {
     return (own ? "6" : "7") + At(notice.from) + At(notice.into) + Number(notice.trigger) + At(notice.triggerAt);
 }
 
-std::string Visitors(const std::vector<std::string>& names) { return "(* Current players: " + Join(names, ", "); }
+std::string Visitors(const std::vector<std::string>& names) {
+    return "(* Current players: " + Join(names, kListSeparator);
+}
 std::string VisitorCount(std::size_t count, std::string_view dream) {
     const std::string players = count == 1 ? "One player" : std::to_string(count) + " players";
     return "(* " + players + " in the dream of " + std::string(dream) + ".";

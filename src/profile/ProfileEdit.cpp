@@ -3,24 +3,19 @@
 #include <algorithm>
 #include <iterator>
 
-#include "bot/Lists.h"
-#include "game/Compare.h"
+#include "game/Lists.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
 namespace {
 
-constexpr std::string_view kSeparator = ", ";
-
-ProfileEdit::NameList NamesOf(const std::string& text) {
-    return {text.empty() ? std::vector<std::string>() : Split(text, kSeparator), text};
-}
+ProfileEdit::NameList NamesOf(const SplitList& list) { return {EntriesOf(list.Text()), list.Text()}; }
 
 std::string JoinedEntries(const ProfileEdit::NameList& list) {
     std::vector<std::string> entries;
     std::copy_if(list.entries.begin(), list.entries.end(), std::back_inserter(entries),
                  [](const std::string& entry) { return !entry.empty(); });
-    return Join(entries, kSeparator);
+    return Join(entries, kListSeparator);
 }
 
 }  // namespace
@@ -48,7 +43,7 @@ std::optional<std::string> ProfileEdit::AddMap(std::string_view typed) {
 void ProfileEdit::Delete(NameList& list, std::size_t index) {
     if (index >= list.entries.size()) return;
     const std::string entry = list.entries[index];
-    const std::string separator(kSeparator);
+    const std::string separator(kListSeparator);
     list.text = ReplaceAll(list.text, separator + entry, "");
     list.text = ReplaceAll(list.text, entry + separator, "");
     list.text = ReplaceAll(list.text, entry, "");

@@ -16,7 +16,7 @@ class ProfileEdit {
   public:
     explicit ProfileEdit(Profile& profile);
 
-    /// One of the two lists that are kept as one text, the entries joined with ", ".
+    /// One of the two lists that are kept as one text.
     struct NameList {
         std::vector<std::string> entries;
         std::string text;  ///< what duplicates are judged on

@@ -36,7 +36,7 @@ Outcome<Done> SetNumber(Profile& profile, const std::string& value) {
     return Done{};
 }
 
-template <std::string Profile::*Field>
+template <auto Profile::*Field>
 Outcome<Done> SetText(Profile& profile, const std::string& value) {
     profile.*Field = value;
     return Done{};
@@ -161,8 +161,8 @@ std::string ProfileBytes(const Profile& profile) {
         "[General]",
         "FurcadiaClient=" + profile.clientPath,
         "FurcadiaCharacter=" + profile.characterPath,
-        "Owners=" + profile.owners,
-        "Maps=" + profile.maps,
+        "Owners=" + profile.owners.Text(),
+        "Maps=" + profile.maps.Text(),
         "ConnectClient=" + std::to_string(profile.connectClient),
         "CloseClient=" + std::to_string(profile.closeClient),
         profile.signatureFirst ? "Logo=True" : "Logo=False",

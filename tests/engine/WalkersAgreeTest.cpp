@@ -78,7 +78,7 @@ class Subject : public RehearsalBot {
         if (fault) outcome.push_back("at line " + std::to_string(bot.place.line));
         for (const auto& [rank, row] : bot.variables.Rows()) outcome.push_back(row.name + "=" + row.value);
         outcome.push_back("event " + std::to_string(bot.currentEvent));
-        outcome.push_back("profile " + bot.profile.owners + " " + std::to_string(bot.profile.connectClient));
+        outcome.push_back("profile " + bot.profile.owners.Text() + " " + std::to_string(bot.profile.connectClient));
         return outcome;
     }
 

@@ -56,8 +56,8 @@ class BusyGreeter : public GreeterBench {
             {"client", std::to_string(bot.profile.connectClient)},
             {"connected", host.IsServerConnected() ? "yes" : "no"},
             {"connecting", session.status().canDisconnect && !host.IsServerConnected() ? "yes" : "no"},
-            {"maps", bot.profile.maps},
-            {"owners", bot.profile.owners},
+            {"maps", bot.profile.maps.Text()},
+            {"owners", bot.profile.owners.Text()},
             {"walk", host.IsMovementTimerEnabled() ? target : "none"},
         };
         for (const auto& [rank, variable] : bot.variables.Rows()) all[variable.name] = variable.value;

@@ -44,7 +44,8 @@ TEST_P(NameLists, AreEdited) {
         EXPECT_EQ(list->entries, the.entries);
         EXPECT_EQ(list->text, the.text);
     }
-    EXPECT_EQ(profile.owners + profile.maps, std::string(the.before) + the.before) << "until it is applied";
+    EXPECT_EQ(profile.owners.Text() + profile.maps.Text(), std::string(the.before) + the.before)
+        << "until it is applied";
 }
 
 INSTANTIATE_TEST_SUITE_P(ProfileEdit, NameLists, testing::ValuesIn(kListCases), kCaseName);
@@ -55,7 +56,7 @@ TEST(ProfileEdit, AppliesUsablePortsAndNoEmptyEntries) {
         profile.owners = "Ann, , Bob";
         ProfileEdit(profile).Apply({"", "", false, false, false, typed});
         EXPECT_EQ(profile.port, port) << typed;
-        EXPECT_EQ(profile.owners, "Ann, Bob");
+        EXPECT_EQ(profile.owners.Text(), "Ann, Bob");
     }
 }
 

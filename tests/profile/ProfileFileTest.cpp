@@ -33,8 +33,8 @@ TEST(LoadProfile, ReadsTheSectionsItKnows) {
     bot.bot.profile.signatureFirst = true;
     EXPECT_TRUE(LoadProfile(bot.bot, "bots/BOT.tvm").found);
     const Profile& profile = bot.bot.profile;
-    const std::vector<std::string> texts = {profile.path,   profile.clientPath, profile.characterPath,
-                                            profile.owners, profile.maps,       profile.scriptPath};
+    const std::vector<std::string> texts = {profile.path,          profile.clientPath,  profile.characterPath,
+                                            profile.owners.Text(), profile.maps.Text(), profile.scriptPath};
     EXPECT_EQ(Join(texts, "; "), "bots/bot.tvm; game/v=2.exe; bot.ini; Bea; Vale; Greet.VS");
     EXPECT_FALSE(profile.signatureFirst);
     EXPECT_EQ(std::tuple(profile.connectClient, profile.closeClient, profile.port), std::tuple(1, 0, 80));
@@ -48,7 +48,7 @@ TEST(OpenProfile, KnowsNoSectionsAndKeepsTheIgnores) {
     bot.bot.profile.ignores = {"Old One"};
     EXPECT_TRUE(OpenProfile(bot.bot, "bots/bot.tvm").found);
     EXPECT_EQ(bot.bot.profile.ignores, Told{"Old One"});
-    EXPECT_EQ(bot.bot.profile.owners, "Eve");
+    EXPECT_EQ(bot.bot.profile.owners.Text(), "Eve");
     EXPECT_EQ(bot.told, Told{"console loaded for Ann, Bob"});
 }
 
@@ -72,7 +72,7 @@ TEST(Profile, MissingFilesLoadNothing) {
     bot.bot.profile.owners = "Ann";
     EXPECT_FALSE(LoadProfile(bot.bot, "bots/none.tvm").found);
     EXPECT_FALSE(OpenProfile(bot.bot, "bots/none.tvm").found);
-    EXPECT_EQ(bot.bot.profile.owners, "Ann");
+    EXPECT_EQ(bot.bot.profile.owners.Text(), "Ann");
     bot.files.contents.erase("bots/greet.vs");
     EXPECT_EQ(LoadProfile(bot.bot, "bots/bot.tvm").missingScript, "Greet.VS");
     EXPECT_EQ(bot.bot.profile.ignores.size(), 3u);
@@ -82,7 +82,8 @@ TEST(Profile, MissingFilesLoadNothing) {
 TEST(SaveProfile, WritesTheWholeLayout) {
     RehearsalBot bot;
     Profile& profile = bot.bot.profile;
-    profile = {"", "c.exe", "b\xe9.ini", "Ann, Bob", "Vale", 1, -1, false, 80, "s.vs", {"Mean|One", "Zed"}, true};
+    profile = {"", "c.exe", "b\xe9.ini", {}, {}, 1, -1, false, 80, "s.vs", {"Mean|One", "Zed"}, true};
+    profile.owners = "Ann, Bob", profile.maps = "Vale";
     EXPECT_TRUE(SaveProfile(bot.bot, "bots/mybot"));
     EXPECT_EQ(bot.files.contents["bots/mybot.tvm"],
               "[General]\r\nFurcadiaClient=c.exe\r\nFurcadiaCharacter=b\xe9.ini\r\nOwners=Ann, Bob\r\nMaps=Vale\r\n"

@@ -138,7 +138,7 @@ TEST_F(InSession, MenusAndPanelsTellHowItStandsAndWhyItEnded) {
     }
     EXPECT_EQ(Options(OptionsFile(Path())).Get(option::kBrake), 7);
 
-    bot().profile.owners.clear();
+    bot().profile.owners = "";
     EXPECT_TRUE(Choose("mnuConnect").startsWith("message [Bot Owner] You must add at least one name"));
     bot().profile.characterPath = "nowhere.ini";
     EXPECT_TRUE(Choose("mnuConnect").startsWith("critical [Invalid Selection] Select a valid Furcadia character "));

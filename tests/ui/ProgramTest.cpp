@@ -157,7 +157,7 @@ class Leaving : public Program, public testing::WithParamInterface<const char*> 
             other == others.end() ? Choose(GetParam(), answers) : dialogs.During(answers, other->second);
         EXPECT_TRUE(told.startsWith(expected)) << told;
         EXPECT_EQ(window->isVisible() && bot().profile.dirty, !leaves);
-        EXPECT_EQ(window->isVisible() && bot().profile.owners == "Eve" && Editor().IsDirty(), !leaves);
+        EXPECT_EQ(window->isVisible() && bot().profile.owners.Text() == "Eve" && Editor().IsDirty(), !leaves);
     }
 };
 
@@ -192,7 +192,7 @@ TEST_F(Program, OpensProfilesAndScriptsThatAreDroppedAndNothingElse) {
     EXPECT_TRUE(ConsoleText().contains("missing.tvm does not exist."));
     Open("notes.txt");
     EXPECT_TRUE(ConsoleText().contains("notes.txt is neither a profile (.tvm) nor a script (.vs)."));
-    EXPECT_EQ(bot().profile.owners, "Ann");
+    EXPECT_EQ(bot().profile.owners.Text(), "Ann");
     Write("other.VS", ScriptText(""));
     EXPECT_TRUE(Drop("other.VS", The("txtSend")));
     EXPECT_TRUE(Editor().isVisible());
@@ -258,7 +258,7 @@ class AfterACrash : public Program {
     }
     void TakeBack() {
         EXPECT_TRUE(Start({"Yes", "Yes"}).startsWith("yes-no [Tandry Vorel] The program did not end in order"));
-        EXPECT_EQ(bot().profile.owners, "Eve");
+        EXPECT_EQ(bot().profile.owners.Text(), "Eve");
         EXPECT_EQ(bot().profile.ignores, std::vector<std::string>{"Mean One"});
         EXPECT_EQ(Editor().ScriptText(), unsaved);
         EXPECT_TRUE(bot().profile.dirty && Editor().IsDirty());
