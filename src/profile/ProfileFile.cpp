@@ -177,7 +177,7 @@ std::string ProfileBytes(const Profile& profile) {
 
 Outcome<Done> SaveProfile(Bot& bot, const std::string& path) {
     const std::string file = WithExtension(path, kProfileExtension);
-    const Outcome<Done> written = bot.host.Disk().Write(file, ProfileBytes(bot.profile));
+    Outcome<Done> written = bot.host.Disk().Write(file, ProfileBytes(bot.profile));
     if (!written) return written;
     bot.profile.path = bot.host.Disk().Absolute(file);
     bot.profile.dirty = false;
@@ -194,7 +194,7 @@ Outcome<Done> RestoreProfile(Bot& bot, const std::string& path, std::string_view
         if (inIgnores) profile.ignores.push_back(line);
         inIgnores = inIgnores || (IsSectionLine(line) && SectionName(line) == "ignores");
         if (inIgnores) continue;
-        if (const auto taken = TakeValue(profile, entry, SaysTrue(entry)); !taken) return taken;
+        if (auto taken = TakeValue(profile, entry, SaysTrue(entry)); !taken) return taken;
     }
     bot.profile = profile;
     return Done{};

@@ -57,7 +57,7 @@ void Options::Keep() {
 /// @return what the file holds now
 Outcome<QVariantMap> Options::WriteUnkept() const {
     // Another program that runs from the same folder may have changed something else.
-    const auto options = ReadOptions(file_);
+    auto options = ReadOptions(file_);
     if (!options) return options;
     QVariantMap wanted = *options;
     wanted.insert(unkept_);
