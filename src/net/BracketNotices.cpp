@@ -1,12 +1,10 @@
-#include "net/BracketNotices.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include "bot/Bot.h"
 #include "engine/Dispatcher.h"
-#include "net/DiceLines.h"
-#include "net/ServerLine.h"
+#include "net/LineReaders.h"
 
 namespace {
 

@@ -26,11 +26,10 @@ void LearnLogin(Bot& bot, std::string_view words) {
     bot.state.vorel.name = name;
 }
 
-/// "color ", the colour code, and one character each for gender, species and markings
+/// "color " and looks
 void LearnColors(Bot& bot, const ServerLine& line) {
-    constexpr std::size_t kColorsAt = 7, kGenderAt = 17, kSpeciesAt = 18, kMarkingsAt = 19;
-    bot.state.vorel.looks = {std::string(line.Text(kColorsAt, kColorsLength)), line.Char(kGenderAt),
-                             line.Char(kSpeciesAt), line.Char(kMarkingsAt)};
+    constexpr std::size_t kLooksAt = 7;
+    bot.state.vorel.looks = line.LooksAt(kLooksAt);
 }
 
 }  // namespace

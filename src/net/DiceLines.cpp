@@ -1,11 +1,9 @@
-#include "net/DiceLines.h"
-
 #include <algorithm>
 #include <optional>
 
 #include "bot/Bot.h"
 #include "engine/Dispatcher.h"
-#include "net/ServerLine.h"
+#include "net/LineReaders.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 

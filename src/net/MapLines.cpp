@@ -1,12 +1,10 @@
-#include "net/MapLines.h"
-
 #include <algorithm>
 #include <iterator>
 #include <optional>
 
 #include "bot/Bot.h"
 #include "engine/Dispatcher.h"
-#include "net/ServerLine.h"
+#include "net/LineReaders.h"
 #include "text/Text.h"
 
 namespace {

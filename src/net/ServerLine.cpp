@@ -9,6 +9,11 @@ std::string_view ServerLine::Text(std::size_t position, std::ptrdiff_t length) c
     return line_.substr(position - 1, static_cast<std::size_t>(length));
 }
 
+Appearance ServerLine::LooksAt(std::size_t position) const {
+    const std::size_t genderAt = position + kColorsLength;
+    return {std::string(Text(position, kColorsLength)), Char(genderAt), Char(genderAt + 1), Char(genderAt + 2)};
+}
+
 std::string_view ServerLine::RestFrom(std::size_t position) const {
     return Text(position, static_cast<std::ptrdiff_t>(line_.size()) - static_cast<std::ptrdiff_t>(position - 1));
 }

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "game/Furre.h"
+
 /// A colour code, by which the game tells furres apart where it gives no name, has so many characters.
 inline constexpr std::ptrdiff_t kColorsLength = 10;
 
@@ -25,6 +27,9 @@ class ServerLine {
 
     std::string_view Text(std::size_t position, std::ptrdiff_t length) const;
     std::string Char(std::size_t position) const { return std::string(Text(position, 1)); }
+
+    /// Looks: the colour code, then one character each for gender, species and markings.
+    Appearance LooksAt(std::size_t position) const;
 
     /// From a position to the end.
     std::string_view RestFrom(std::size_t position) const;

@@ -1,5 +1,3 @@
-#include "net/SystemNotices.h"
-
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -8,13 +6,18 @@
 #include "bot/Host.h"
 #include "engine/Dispatcher.h"
 #include "game/Lists.h"
-#include "net/ServerLine.h"
+#include "net/LineReaders.h"
 #include "text/Numbers.h"
 #include "text/Text.h"
 
 namespace {
 
 constexpr std::size_t kFirstWordAt = 4;  // behind "(* "
+
+/// How many visitors' events one list may raise. No dream holds a hundredth as many visitors; but a name that stands in
+/// two lists many times raises an event for each pair, and a list made for that would keep the bot busy for hours.
+constexpr std::size_t kMostVisitorEvents = 100000;
+
 constexpr std::string_view kTooManyVisitors =
     "The list of visitors names somebody so often that not every event of it is raised.";
 constexpr std::string_view kStandardTime = "(* Furcadia Standard Time: ";

@@ -1,5 +1,3 @@
-#include "net/Whispers.h"
-
 #include <algorithm>
 #include <array>
 #include <string>
@@ -8,7 +6,7 @@
 #include "bot/Bot.h"
 #include "bot/Host.h"
 #include "engine/Dispatcher.h"
-#include "net/ServerLine.h"
+#include "net/LineReaders.h"
 #include "send/modSend.h"
 #include "text/Text.h"
 
