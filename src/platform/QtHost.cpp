@@ -29,11 +29,15 @@ QtHost::QtHost(FrontEnd& frontEnd, std::string programFolder)
 void QtHost::StartTimers() {
     tmrScript_.setObjectName("tmrScript");
     tmrMove_.setObjectName("tmrMove");
+    tmrBrake_.setObjectName("tmrBrake");
+    tmrBrake_.setSingleShot(true);
+    clock_.start();
     tmrScript_.setTimerType(Qt::PreciseTimer);
     tmrScript_.start(kScriptTimerMs);
     tmrMove_.setInterval(modMovement::kWalkTickMs);
     connect(&tmrScript_, &QTimer::timeout, this, [this] { RunHandler([this] { session_.OnScriptTick(); }); });
     connect(&tmrMove_, &QTimer::timeout, this, [this] { RunHandler([this] { session_.OnWalkTick(); }); });
+    connect(&tmrBrake_, &QTimer::timeout, this, [this] { RunHandler([this] { ReleaseBraked(); }); });
 }
 
 void QtHost::RunHandler(const std::function<void()>& handler) {
@@ -62,14 +66,20 @@ double QtHost::Random() { return QRandomGenerator::global()->generateDouble(); }
 
 // --- the game server ---------------------------------------------------------------------------------------------
 
-BrakedSender::Owner QtHost::BrakeOwner() {
-    return {[this](std::string_view bytes) { server_.Write(bytes); },
-            [this](const SendBrake::Report& report) { session_.OnBraked(report); }, runHandler_};
-}
-
 void QtHost::WriteToServer(std::string_view bytes) {
     session_.NoteSent(bytes);
-    bot_.scriptActs ? brake_.Send(bytes, bot_.place) : server_.Write(bytes);
+    bot_.scriptActs ? SendBraked(bytes) : server_.Write(bytes);
+}
+
+void QtHost::SendBraked(std::string_view lines) {
+    server_.Write(brake_.Take(lines, bot_.place, clock_.elapsed()));
+    session_.OnBraked(brake_.TakeReport());
+    if (!tmrBrake_.isActive()) ReleaseBraked();
+}
+
+void QtHost::ReleaseBraked() {
+    server_.Write(brake_.Release(clock_.elapsed()));
+    if (const auto wait = brake_.WaitMs(clock_.elapsed())) tmrBrake_.start(static_cast<int>(*wait));
 }
 
 void QtHost::ConnectServer(const std::string& address, int port) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTcpServer>
 #include <QTimer>
@@ -11,8 +12,8 @@
 #include "bot/Bot.h"
 #include "bot/Host.h"
 #include "net/Link.h"
+#include "net/SendBrake.h"
 #include "net/Session.h"
-#include "platform/BrakedSender.h"
 #include "platform/ClientWindow.h"
 #include "platform/Dialer.h"
 #include "platform/DiskFiles.h"
@@ -93,17 +94,19 @@ class QtHost final : public QObject, public Host, public Link {
     bool ended_ = false;
     LineSocket server_{this}, client_{this};
     QTcpServer listener_;
-    QTimer tmrScript_{this}, tmrMove_{this};
+    QTimer tmrScript_{this}, tmrMove_{this}, tmrBrake_{this};
+    QElapsedTimer clock_;
     std::unique_ptr<ClientWindow> clientWindow_ = MachineClientWindow();
 
     Bot bot_{*this};
     Session session_{bot_, *this};
     const std::function<void(const std::function<void()>&)> runHandler_ = [this](const auto& run) { RunHandler(run); };
     Dialer dialer_{session_, runHandler_, [this] { return Random(); }, this};
-    BrakedSender brake_{BrakeOwner(), this};
+    SendBrake brake_;
 
     void StartTimers();
-    BrakedSender::Owner BrakeOwner();
+    void SendBraked(std::string_view lines);
+    void ReleaseBraked();
     Wire::Listener ServerListener(const std::string& address);
     Wire::Listener ClientListener();
     void OnServerConnected();
