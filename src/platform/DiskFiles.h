@@ -12,15 +12,15 @@ class DiskFiles final : public Files {
     std::optional<std::string> Find(const std::string& path) const override;
     std::string Absolute(const std::string& path) const override;
     std::string DataPath(const std::string& folder, const std::string& name) const override {
-        return dataFolder::PathOf(folder, name);
+        return modDataFolder::PathOf(folder, name);
     }
     Outcome<std::optional<std::string>> ReadData(const std::string& path) const override {
-        return dataFolder::Read(path);
+        return modDataFolder::Read(path);
     }
     bool LeadToSameFile(const std::string& a, const std::string& b) const override {
-        return dataFolder::LeadToSameFile(a, b);
+        return modDataFolder::LeadToSameFile(a, b);
     }
     Outcome<std::unique_ptr<Lock>> LockFolder(const std::string& folder) override {
-        return dataFolder::LockFolder(folder, dataFolder::kPatience);
+        return modDataFolder::LockFolder(folder, modDataFolder::kPatience);
     }
 };

@@ -83,7 +83,7 @@ Outcome<Contents> ReadAll(const Descriptor& file, const std::string& path, std::
 
 }  // namespace
 
-std::string dataFolder::PathOf(const std::string& folder, const std::string& name) {
+std::string modDataFolder::PathOf(const std::string& folder, const std::string& name) {
     std::string safe = name;
     const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; };
     std::replace_if(safe.begin(), safe.end(), isControl, '_');
@@ -98,7 +98,7 @@ std::string dataFolder::PathOf(const std::string& folder, const std::string& nam
     return path;
 }
 
-Outcome<std::optional<std::string>> dataFolder::Read(const std::string& path) {
+Outcome<std::optional<std::string>> modDataFolder::Read(const std::string& path) {
     const std::optional<std::string> real = Canonical(path);
     if (!real && !Exists(path)) return Contents();
     if (!real) return CantBeOpened(path, "it is a link that leads nowhere");
@@ -114,7 +114,7 @@ Outcome<std::optional<std::string>> dataFolder::Read(const std::string& path) {
     return ReadAll(file, path, static_cast<std::size_t>(what.st_size));
 }
 
-bool dataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
+bool modDataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
     struct stat first = {};
     struct stat second = {};
     const bool firstIsThere = ::stat(a.c_str(), &first) == 0, secondIsThere = ::stat(b.c_str(), &second) == 0;
@@ -123,14 +123,15 @@ bool dataFolder::LeadToSameFile(const std::string& a, const std::string& b) {
     return folder && folder == CanonicalFolderOf(b) && SameName(FileNameOf(a), FileNameOf(b));
 }
 
-Outcome<std::unique_ptr<Files::Lock>> dataFolder::LockFolder(const std::string& folder,
-                                                             std::chrono::milliseconds patience) {
+Outcome<std::unique_ptr<Files::Lock>> modDataFolder::LockFolder(const std::string& folder,
+                                                                std::chrono::milliseconds patience) {
     auto lock = TryLockFolder(folder, patience);
     if (!lock) return CantBeOpened(folder.empty() ? "." : folder, "another program keeps its data files locked");
     return lock;
 }
 
-std::unique_ptr<Files::Lock> dataFolder::TryLockFolder(const std::string& folder, std::chrono::milliseconds patience) {
+std::unique_ptr<Files::Lock> modDataFolder::TryLockFolder(const std::string& folder,
+                                                          std::chrono::milliseconds patience) {
     const char* const path = folder.empty() ? "." : folder.c_str();
     Descriptor lock(::open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     const Clock::time_point end = Clock::now() + patience;

@@ -8,7 +8,7 @@
 #include "bot/Files.h"
 
 /// The folder of the scripts' data files on POSIX systems. What each operation takes and returns stands in Files.
-namespace dataFolder {
+namespace modDataFolder {
 
 /// How long a program waits for another one's lock. One is held for a few milliseconds, so that this is for ever.
 inline constexpr std::chrono::milliseconds kPatience{5000};
@@ -24,4 +24,4 @@ Outcome<std::unique_ptr<Files::Lock>> LockFolder(const std::string& folder, std:
 /// The same, giving nothing when another program has it for too long.
 std::unique_ptr<Files::Lock> TryLockFolder(const std::string& folder, std::chrono::milliseconds patience);
 
-}  // namespace dataFolder
+}  // namespace modDataFolder

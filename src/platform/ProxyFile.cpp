@@ -50,7 +50,7 @@ bool Holds(const std::string& path, std::string_view bytes) { return Exists(path
 
 /// The right to change what lies in the file's folder, for as long as it lives; who can't have it goes on without.
 std::unique_ptr<Files::Lock> LockFolderOf(const std::string& path) {
-    return dataFolder::TryLockFolder(FolderOf(path), kLockWait);
+    return modDataFolder::TryLockFolder(FolderOf(path), kLockWait);
 }
 
 }  // namespace

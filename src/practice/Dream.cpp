@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "game/Compare.h"
-#include "practice/Commands.h"
-#include "practice/DreamLines.h"
-#include "practice/Requests.h"
-#include "practice/Travel.h"
+#include "practice/GameCommands.h"
+#include "practice/modDreamLines.h"
+#include "practice/modRequests.h"
+#include "practice/modTravel.h"
 #include "text/Text.h"
 
 namespace {

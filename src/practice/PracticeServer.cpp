@@ -8,7 +8,6 @@
 #include <map>
 #include <vector>
 
-#include "practice/TypedLine.h"
 #include "text/Text.h"
 
 namespace {
@@ -23,6 +22,24 @@ LocalTime ComputerTime() {
     const QDateTime now = QDateTime::currentDateTime();
     return {now.date().year(), now.date().month(),  now.date().day(),
             now.time().hour(), now.time().minute(), now.time().second()};
+}
+
+/// The command line that a line typed at the keyboard stands for, under the rules of the bot's own console: "/NAME
+/// TEXT" whispers, "-" and ":" lines go out as they stand, "`" sends the rest, and anything else is said.
+std::string CommandOfTypedLine(std::string_view typed) {
+    if (typed.empty()) return {};
+    std::string rest(typed.substr(1));
+    switch (typed.front()) {
+        case '-':
+        case ':':
+            return std::string(typed);
+        case '`':
+            return rest;
+        case '/':
+            return "wh " + rest;
+        default:
+            return "\"" + std::string(typed);
+    }
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "game/Compare.h"
-#include "practice/Games.h"
+#include "practice/modGames.h"
 #include "text/Text.h"
 
 namespace {

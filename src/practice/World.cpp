@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "game/Compare.h"
-#include "practice/DreamLines.h"
+#include "practice/modDreamLines.h"
 #include "text/Text.h"
 
 Guest* FindGuest(World& world, std::string_view name) {

@@ -13,7 +13,6 @@
 #include "ui/Options.h"
 #include "ui/ProgramFolder.h"
 #include "ui/ShownText.h"
-#include "ui/UnnamedFile.h"
 #include "ui/frmGS.h"
 
 namespace {

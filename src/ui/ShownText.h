@@ -15,6 +15,10 @@ inline std::string Typed(const QString& text) { return FromUtf8(text.toStdString
 inline QString ShownPath(const std::string& path) { return QString::fromStdString(path); }
 inline std::string TypedPath(const QString& path) { return path.toStdString(); }
 
+/// Tells the user why a profile can't name a file, and what to do.
+/// @param path  of the file, UTF-8
+QString WhyNotNamed(const std::string& path);
+
 /// A fault by its name, and what it happened to and why, where that is known.
 inline QString ShownFault(const RuntimeFault& fault) {
     const QString name = QString::fromStdString(std::string(fault.Name()));

@@ -18,7 +18,6 @@
 #include "bot/ProfilePaths.h"
 #include "ui/Dialogs.h"
 #include "ui/ShownText.h"
-#include "ui/UnnamedFile.h"
 
 namespace {
 

@@ -22,7 +22,6 @@
 #include "ui/FindBar.h"
 #include "ui/MenuItems.h"
 #include "ui/ShownText.h"
-#include "ui/UnnamedFile.h"
 #include "ui/VorelSpeakLexer.h"
 
 namespace {

@@ -204,7 +204,7 @@ TEST(DataFolder, OpensOrdinaryFilesOfItsOwnAndNamesTheRest) {
 TEST(DataFolder, IsLockedForOneAtATime) {
     const BotFiles files;
     const std::string folder = files.Path().toStdString();
-    const auto lock = [&] { return dataFolder::LockFolder(folder, std::chrono::milliseconds(0)); };
+    const auto lock = [&] { return modDataFolder::LockFolder(folder, std::chrono::milliseconds(0)); };
     auto first = ValueOrFault(lock());
     EXPECT_THAT(lock().Fault(),
                 Is(FaultKind::PathOrFileAccess, folder + ": another program keeps its data files locked"));

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "Bench.h"
-#include "Cases.h"
+#include "FaultBench.h"
+#include "FaultCases.h"
 
 /// What the file holds before and after a save.
 struct Contents {

@@ -16,8 +16,8 @@
 #include <iostream>
 #include <thread>
 
-#include "Bench.h"
-#include "Cases.h"
+#include "FaultBench.h"
+#include "FaultCases.h"
 #include "FullDisk.h"
 #include "Truth.h"
 

@@ -1,4 +1,4 @@
-#include "Cases.h"
+#include "FaultCases.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,11 +1,11 @@
-#include "practice/Requests.h"
+#include "practice/modRequests.h"
 
 #include <algorithm>
 #include <optional>
 
 #include "game/Compare.h"
-#include "practice/DreamLines.h"
-#include "practice/Travel.h"
+#include "practice/modDreamLines.h"
+#include "practice/modTravel.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Bench.h"
+#include "FaultBench.h"
 
 #include <fcntl.h>
 #include <sys/wait.h>

@@ -1,10 +1,10 @@
-#include "practice/Games.h"
+#include "practice/modGames.h"
 
 #include <algorithm>
 #include <charconv>
 #include <vector>
 
-#include "practice/DreamLines.h"
+#include "practice/modDreamLines.h"
 #include "text/Text.h"
 
 namespace {

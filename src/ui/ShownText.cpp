@@ -1,8 +1,6 @@
-#include "ui/UnnamedFile.h"
+#include "ui/ShownText.h"
 
 #include <QCoreApplication>
-
-#include "ui/ShownText.h"
 
 QString WhyNotNamed(const std::string& path) {
     return QCoreApplication::translate("UnnamedFile",

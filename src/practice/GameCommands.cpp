@@ -1,13 +1,13 @@
-#include "practice/Commands.h"
+#include "practice/GameCommands.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "practice/DreamLines.h"
-#include "practice/Games.h"
-#include "practice/Requests.h"
-#include "practice/Talk.h"
-#include "practice/Travel.h"
+#include "practice/modDreamLines.h"
+#include "practice/modGames.h"
+#include "practice/modRequests.h"
+#include "practice/modTalk.h"
+#include "practice/modTravel.h"
 
 namespace {
 

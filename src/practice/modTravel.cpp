@@ -1,9 +1,9 @@
-#include "practice/Travel.h"
+#include "practice/modTravel.h"
 
 #include <algorithm>
 
 #include "game/Compare.h"
-#include "practice/DreamLines.h"
+#include "practice/modDreamLines.h"
 
 namespace {
 

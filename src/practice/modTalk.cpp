@@ -1,10 +1,10 @@
-#include "practice/Talk.h"
+#include "practice/modTalk.h"
 
 #include <algorithm>
 
 #include "game/Base95.h"
-#include "practice/DreamLines.h"
-#include "practice/Travel.h"
+#include "practice/modDreamLines.h"
+#include "practice/modTravel.h"
 #include "text/Text.h"
 
 namespace {

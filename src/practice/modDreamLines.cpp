@@ -1,4 +1,4 @@
-#include "practice/DreamLines.h"
+#include "practice/modDreamLines.h"
 
 #include <cstdio>
 #include <numeric>

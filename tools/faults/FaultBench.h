@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "Cases.h"
+#include "FaultCases.h"
 
 /// How a process has ended, and what it has said.
 struct Outcome {
