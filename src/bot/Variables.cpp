@@ -39,6 +39,7 @@ class Expansion {
             replaced.append(put);
         }
         text_ = replaced.append(text_, from);
+        bracket_ = text_.find('[');
         return {put.size(), std::move(places)};
     }
     void ReplaceText(std::string_view name, std::string_view value) {
@@ -52,10 +53,13 @@ class Expansion {
   private:
     const Bot& bot_;
     std::string text_;
+    std::size_t bracket_ = text_.find('[');  ///< the first one: nearly all names begin so
 
     std::vector<std::size_t> PlacesOf(std::string_view name) const {
         std::vector<std::size_t> places;
-        for (std::size_t at = text_.find(name); at != std::string::npos; at = text_.find(name, at + name.size())) {
+        const std::size_t from = name.starts_with('[') ? bracket_ : 0;
+        for (std::size_t at = text_.find(name, from); at != std::string::npos;
+             at = text_.find(name, at + name.size())) {
             places.push_back(at);
         }
         return places;

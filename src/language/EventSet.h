@@ -14,7 +14,9 @@ class EventSet {
     }
 
     static constexpr EventSet All() {
-        return Where([](const EventFacts&) { return true; });
+        EventSet set;
+        for (const EventFacts& event : kEvents) set.bits_ |= Bit(event.code);
+        return set;
     }
 
     /// The events of which a fact holds.

@@ -124,7 +124,8 @@ TEST(FamiliesOfCommands, HaveACaseForEachLineOfTheList) {
             const std::string line = ListLine(command);
             std::string named, found;
             for (const ArgumentName* const argument : ArgumentsOf(command)) named += std::string(argument->name) + " ";
-            for (const auto text : *FindArguments(line, FormOf(command))) found += ReplaceAll(text, "}", "") + " ";
+            const Arguments arguments = FindArguments(line, FormOf(command)).value();
+            for (const std::string_view text : arguments) found += ReplaceAll(text, "}", "") + " ";
             EXPECT_EQ(Trim(named), Trim(found)) << "by the engine";
             EXPECT_EQ(command.text.back(), category == kEffectLine ? '.' : ',') << command.text;
             listed.insert(ExampleLine(command));
