@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$1"
 
 echo "Where faults may be caught (-) and where they are (+):"
-diff -U0 - <(grep -roE 'catch \((const )?(RuntimeFault|std::exception|\.\.\.)' src | cut -d: -f1 | sort) <<'FILES'
+diff -U0 - <(grep -roE 'catch ?\(\s*(const )?(::)?(RuntimeFault|std::exception|\.\.\.)' src | cut -d: -f1 | sort) <<'FILES'
 src/cli/main.cpp
 src/platform/Guarded.h
 src/platform/QtHost.cpp

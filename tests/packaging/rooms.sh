@@ -1,22 +1,15 @@
 #!/usr/bin/env bash
-# Holds the picture of the rooms in docs/architecture.md to the table that the build keeps, arrow by arrow.
-# Argument: the sources.
+# Holds the picture of the rooms in docs/architecture.md to what the build keeps, room by room and arrow by arrow, and
+# that no file goes round it by a path of its own. Arguments: the sources, the build.
 set -euo pipefail
 
-# "room from" for each room that a line of the table lets it include from.
-arrows_of_table() {
-    awk '/^add_room\(/ {
-        sub(/^add_room\(/, ""); sub(/\).*/, "")
-        taking = 0
-        for (i = 2; i <= NF; ++i) {
-            if ($i == "FROM") taking = 1
-            else if ($i == "LINKS" || $i == "PROGRAM") taking = 0
-            else if (taking) print $1, $i
-        }
-    }' "$1/src/Rooms.cmake"
+# The first picture: "room NAME" for a box, "NAME FROM" for an arrow, and what is neither as it stands.
+drawn() {
+    sed -n '/^flowchart/,/^```/p' "$1/docs/architecture.md" |
+        sed -E '/^flowchart|^```$|^ *$|^ *(subgraph .*|end)$/d
+                s/^ *([a-z]+)\["[^"]*"\]$/room \1/; s/^ *([a-z]+) --> ([a-z]+)$/\1 \2/'
 }
 
-arrows_of_picture() { sed -n 's/^ *\([a-z]*\) --> \([a-z]*\)$/\1 \2/p' "$1/docs/architecture.md"; }
-
-echo "What the build allows (-) and what is drawn (+):"
-diff -U0 <(arrows_of_table "$1" | sort) <(arrows_of_picture "$1" | sort)
+echo "What the build allows (-) and what is drawn (+), and includes that begin with a dot:"
+diff -U0 <(sort "$2/src/arrows") <(drawn "$1" | sort)
+! grep -rnE '#include *"\.' "$1/src"
