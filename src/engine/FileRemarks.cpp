@@ -38,29 +38,39 @@ bool HasNoHeader(std::string_view bytes) { return !bytes.empty() && !IsHeader(Fi
 
 /// What may be the matter with a file, in the order in which it is looked for, and what to do about it.
 struct Row {
-    bool scriptsOnly;
-    bool keepsFromRunning;  ///< a script
     bool (*applies)(std::string_view bytes);
     std::string_view matter, cure;
+    bool scriptsOnly = false;
+    bool keepsFromRunning = true;  ///< a script
 };
 
-// clang-format off
 constexpr Row kRows[] = {
-    {false, true,  IsUtf16, "it is written in UTF-16, of which nothing can be read",
-                            "Save it as Windows-1252, which editors also call ANSI or Western."},
-    {false, true,  HasMark, "it begins with a byte-order mark, which spoils its first line",
-                            "Save it as Windows-1252, which editors also call ANSI or Western, or without the mark."},
-    {false, true,  EndsLinesWithCR, "its lines end with CR alone, so that all of it is one line",
-                            "Save it with the line ends of Windows or of Unix."},
-    {true,  true,  HasBlanksAroundHeader, "blanks stand before or behind its header",
-                            "Take them out of its first line."},
-    {true,  true,  HasHeaderOnly, "there is nothing behind its header", "Write some triggers."},
-    {true,  true,  HasNoHeader, "its first line is not its header",
-                            "Put the line \"VSPK 01.00 Vorel\" before all others."},
-    {false, false, HoldsUtf8, "it is written in UTF-8, so that letters beyond the English ones are taken for several others",
-                            "Save it as Windows-1252, which editors also call ANSI or Western."},
+    {.applies = IsUtf16,
+     .matter = "it is written in UTF-16, of which nothing can be read",
+     .cure = "Save it as Windows-1252, which editors also call ANSI or Western."},
+    {.applies = HasMark,
+     .matter = "it begins with a byte-order mark, which spoils its first line",
+     .cure = "Save it as Windows-1252, which editors also call ANSI or Western, or without the mark."},
+    {.applies = EndsLinesWithCR,
+     .matter = "its lines end with CR alone, so that all of it is one line",
+     .cure = "Save it with the line ends of Windows or of Unix."},
+    {.applies = HasBlanksAroundHeader,
+     .matter = "blanks stand before or behind its header",
+     .cure = "Take them out of its first line.",
+     .scriptsOnly = true},
+    {.applies = HasHeaderOnly,
+     .matter = "there is nothing behind its header",
+     .cure = "Write some triggers.",
+     .scriptsOnly = true},
+    {.applies = HasNoHeader,
+     .matter = "its first line is not its header",
+     .cure = "Put the line \"VSPK 01.00 Vorel\" before all others.",
+     .scriptsOnly = true},
+    {.applies = HoldsUtf8,
+     .matter = "it is written in UTF-8, so that letters beyond the English ones are taken for several others",
+     .cure = "Save it as Windows-1252, which editors also call ANSI or Western.",
+     .keepsFromRunning = false},
 };
-// clang-format on
 
 }  // namespace
 

@@ -2,8 +2,7 @@
 
 namespace {
 
-/// The events in which "[player]" stands for a furre.
-constexpr Scope kWithPlayer = In(EventSet::Where([](const EventFacts& event) { return event.IsSomeones(); }));
+constexpr Scope kWithPlayer = In(EventSet::Someones());
 
 constexpr char kPlayer[] = "[player]";
 constexpr char kYours[] = "your variable";

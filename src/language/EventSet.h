@@ -19,7 +19,8 @@ class EventSet {
         return set;
     }
 
-    /// The events of which a fact holds.
+    /// The events of which a fact holds: any; that they are somebody's, for whom "[player]" stands then; that they fill
+    /// a field.
     template <typename Fact>
     static constexpr EventSet Where(Fact holds) {
         EventSet set;
@@ -27,6 +28,9 @@ class EventSet {
             if (holds(event)) set.bits_ |= Bit(event.code);
         }
         return set;
+    }
+    static constexpr EventSet Someones() {
+        return Where([](const EventFacts& event) { return event.IsSomeones(); });
     }
     static constexpr EventSet Filling(Field field) {
         return Where([field](const EventFacts& event) { return event.Fills(field); });

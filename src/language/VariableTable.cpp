@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr EventSet kPlayers = EventSet::Where([](const EventFacts& event) { return event.IsSomeones(); });
+constexpr EventSet kPlayers = EventSet::Someones();
 constexpr EventSet kOwn = EventSet::Where([](const EventFacts& event) { return event.furre == &BotState::vorel; });
 constexpr EventSet kSpeakers =
     kOwn | EventSet::Where([](const EventFacts& event) { return event.furre == &BotState::player; });

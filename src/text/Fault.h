@@ -17,8 +17,9 @@ enum class FaultKind {
     Internal,              ///< what only a mistake of the program can bring about
 };
 
-/// The only exception the core throws. It is caught where a program's loop begins, which names it to the user, puts
-/// unsaved work aside and leaves. What a program can go on from is no exception but an Outcome that holds one of these.
+/// The only exception the core throws. It is caught where a loop begins: a program names it to the user, puts unsaved
+/// work aside and leaves; a rehearsal gives it as what has ended the session; the practice dream goes on with the next
+/// line. What can be gone on from elsewhere is no exception but an Outcome that holds one of these.
 class RuntimeFault : public std::exception {
   public:
     /// @param detail  what it happened to, such as a file's path (UTF-8); never a secret. May be empty.

@@ -76,15 +76,15 @@ TEST(Session, StandAloneConnectsAsConfiguredAndLogsInAsTheCharacterFileSays) {
     EXPECT_EQ(bot.session.status().botName, "Bot One");
     bot.TakeTold();
     BotState& state = bot.bot.state;
-    state.mapFile = state.move.colors = state.playerTag = "of the session before";
-    state.dice.amount = state.moveInto.x = state.dream.x = state.visitorCount = 2;
+    state.mapFile = state.move.colors = state.playerTag = state.vorel.desc = state.password = "of the session before";
+    state.dice.amount = state.moveInto.x = state.moveFrom.x = state.dream.x = state.visitorCount = 2;
     state.dieValues = {3, 5};
     std::string& character = bot.files.contents["bots/bot.ini"];
     character = "name=Old\r\nname=New";
     bot.AcceptServer();
-    EXPECT_EQ(state.mapFile + state.move.colors + state.playerTag, "");
-    EXPECT_EQ(ExpandVariables(bot.bot, "[die1][die2] [dice.amount][move.into.x][dream.x][visitorcount]"),
-              "0[die2] 2222");
+    EXPECT_EQ(state.mapFile + state.move.colors + state.playerTag + state.vorel.desc + state.password, "");
+    EXPECT_EQ(ExpandVariables(bot.bot, "[die1][die2] [dice.amount][move.into.x][move.from.x][dream.x][visitorcount]"),
+              "0[die2] 22222");
     EXPECT_EQ(bot.told.front(), "sent connect New ");
     EXPECT_EQ(bot.told[1], "sent color ");
     character = "name=Bot\r\nspec=01x";
