@@ -42,27 +42,24 @@ LineReading Reading(const Outcome<std::int16_t>& category, const Outcome<std::in
     return {LineReading::Kind::Command, *category, *number, FaultKind::TypeMismatch};
 }
 
-LineReading ReadStrictly(std::string_view line) {
+LineReading ReadAsCondition(std::string_view line) {
+    if (!line.starts_with('(')) return {};
     const auto number = NumberText(line);
     return Reading(ReadNumber(CategoryText(line)),
                    number ? ReadNumber(*number) : RuntimeFault(FaultKind::TypeMismatch));
 }
 
-LineReading ReadAsCause(std::string_view line) {
-    if (!line.starts_with('(')) return {};
+/// A cause is read as strictly as a condition, but only from a line that has its punctuation.
+LineReading ReadAsCause(std::string_view line, const LineReading& asCondition) {
     const std::size_t colon = line.find(':');
     if (colon == line.npos || line.find(") ", colon) == line.npos) return {};
-    return ReadStrictly(line);
-}
-
-LineReading ReadAsCondition(std::string_view line) {
-    return line.starts_with('(') ? ReadStrictly(line) : LineReading{};
+    return asCondition;
 }
 
 /// Kept on purpose: reads what it finds for a number, so that a remark such as "(todo)" has category 0 here and ends
-/// the effects like a cause.
-LineReading ReadAsEffect(std::string_view line) {
-    if (!line.starts_with('(')) return {};
+/// the effects like a cause. What can be read strictly means the same here.
+LineReading ReadAsEffect(std::string_view line, const LineReading& asCondition) {
+    if (!line.starts_with('(') || asCondition.kind == LineReading::Kind::Command) return asCondition;
     constexpr std::int16_t kNone = -1;
     const auto number = NumberText(line);
     return Reading(line.size() < kShortestEffect ? kNone : ReadLeadingNumber(CategoryText(line)),
@@ -80,9 +77,9 @@ ScriptLine::ScriptLine(std::string_view asItStands)
     : text(Trim(asItStands)),
       endsScript(IsTerminator(asItStands)),
       endsScriptWhenTrimmed(IsTerminator(text)),
-      asCause(ReadAsCause(text)),
       asCondition(ReadAsCondition(text)),
-      asEffect(ReadAsEffect(text)) {}
+      asCause(ReadAsCause(text, asCondition)),
+      asEffect(ReadAsEffect(text, asCondition)) {}
 
 Script::Script(std::string text, std::string file) : text_(std::move(text)), file_(std::move(file)) {
     for (const std::string& line : Split(text_, kLineEnd)) lines_.emplace_back(line);

@@ -43,7 +43,7 @@ struct ScriptLine {
     std::string text;            ///< without blanks at both ends
     bool endsScript;             ///< is the terminator line, "*Endtriggers* … *Endtriggers*", as it stands
     bool endsScriptWhenTrimmed;  ///< is it without the blanks at both ends
-    LineReading asCause, asCondition, asEffect;
+    LineReading asCondition, asCause, asEffect;
 };
 
 /// A script, read once. Its text never changes: another text is another Script.
