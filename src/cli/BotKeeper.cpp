@@ -7,6 +7,14 @@
 #include "cli/Report.h"
 #include "cli/Verbs.h"
 
+namespace {
+
+/// How many times a bot that begins again is recorded anew, each time to another file: one that faults for ever is not
+/// to fill the folder, and the first recordings show what is wrong.
+constexpr int kMostRecordings = 10;
+
+}  // namespace
+
 BotKeeper::BotKeeper(const RunOptions& options, std::string profile, ConsoleOutput& output,
                      std::function<void()> onIdle)
     : options_(options),
@@ -31,6 +39,7 @@ int BotKeeper::Begin() {
 }
 
 int BotKeeper::Record() {
+    if (++recordings_ > kMostRecordings) return 0;
     const std::optional<std::string> path = bot_->RecordTo(options_.record);
     if (!path) return RefuseRun(kCantCreateExit, "the recording " + options_.record + " can't be written");
     if (*path != options_.record) TellOfRun(options_.record + " holds something; recording to " + *path);
@@ -42,11 +51,13 @@ void BotKeeper::Connect() {
 }
 
 void BotKeeper::TypeLine(const std::string& line) {
-    if (bot_) bot_->TypeLine(line);
+    if (bot_) return bot_->TypeLine(line);
+    TellOfRun(label_ + " is down; nobody has heard what you typed for it");
 }
 
 void BotKeeper::Leave() {
     leaving_ = true;
+    if (options_.stay) faulted_ = false;
     restart_.Forget();
     if (bot_) bot_->Leave();
 }
@@ -62,21 +73,28 @@ void BotKeeper::OnFault(const std::string& why) {
     TellOfRun(why);
     output_.Log(why);
     QTimer::singleShot(0, &restart_, [this] {
-        bot_.reset();
+        PutDown();
         IsIdle() ? onIdle_() : BeginAgainLater();
     });
+}
+
+void BotKeeper::PutDown() {
+    label_ = Label();
+    bot_.reset();
 }
 
 void BotKeeper::BeginAgainLater() {
     constexpr int kSecondMs = 1000;
     restart_.SessionEnded(std::chrono::milliseconds(lived_.elapsed()));
     const int seconds = (restart_.Schedule(Reconnector::First::AfterAPause) + kSecondMs / 2) / kSecondMs;
-    TellOfRun(profile_ + ": beginning again in " + std::to_string(seconds) + (seconds == 1 ? " second" : " seconds"));
+    const std::string when = std::to_string(seconds) + (seconds == 1 ? " second" : " seconds");
+    TellOfRun(profile_ + ": beginning again in " + when);
+    output_.Log(profile_ + ": beginning again in " + when);
 }
 
 void BotKeeper::BeginAgain() {
     if (Begin() == 0) return Connect();
     faulted_ = true;
-    bot_.reset();
+    PutDown();
     BeginAgainLater();
 }

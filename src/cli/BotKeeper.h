@@ -21,9 +21,9 @@ class BotKeeper {
     /// @return 0, or the exit status when that can't be done, which has been told
     int Begin();
 
-    // These do nothing while a fault has ended the bot.
-
     void Connect();
+
+    /// While the bot is down it is told that nobody hears the line.
     void TypeLine(const std::string& line);
 
     /// Disconnects for good, and begins no more.
@@ -32,27 +32,30 @@ class BotKeeper {
     /// Neither connected nor connecting, and not to begin again.
     bool IsIdle() const;
 
-    /// A fault has ended the bot, and it has not begun again.
+    /// A fault has ended the bot, and it has not begun again. One that waits to begin again when the run is ended has
+    /// not failed.
     bool HasFaulted() const { return faulted_; }
 
     /// Of the session it has; of none while there is no bot.
     SessionStatus status() const { return bot_ ? bot_->status() : SessionStatus(); }
 
-    /// See TerminalBot::Label; empty while there is no bot.
-    std::string Label() const { return bot_ ? bot_->Label() : ""; }
+    /// See TerminalBot::Label; while the bot is down, what it was last.
+    std::string Label() const { return bot_ ? bot_->Label() : label_; }
 
   private:
     const RunOptions& options_;
-    std::string profile_;
+    std::string profile_, label_;
     ConsoleOutput& output_;
     std::function<void()> onIdle_;
     std::unique_ptr<TerminalBot> bot_;
     bool faulted_ = false, leaving_ = false;
+    int recordings_ = 0;
     QElapsedTimer lived_;
     Reconnector restart_;
 
     int Record();
     void OnFault(const std::string& why);
+    void PutDown();
     void BeginAgainLater();
     void BeginAgain();
 };

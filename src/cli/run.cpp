@@ -32,13 +32,13 @@ namespace {
 /// How long after the last step of a tour the bots still have for their answers.
 constexpr int kLastAnswersMs = 2000;
 
-/// What a run has open: for itself, for each bot (a connection, and what watches its end), and for each visitor of the
-/// practice dream.
-constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 2, kFilesOfAVisitor = 1;
+/// What a run has open: for itself, for each bot (two connections in client mode, and what watches the end of each),
+/// and for each guest of the practice dream.
+constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 4, kFilesOfAGuest = 1;
 
 /// Why so many bots can't run in one process; empty when they can.
 std::string TooManyBots(std::size_t bots, bool practice) {
-    const std::size_t each = kFilesOfABot + (practice ? kFilesOfAVisitor : 0), needed = kOwnFiles + bots * each;
+    const std::size_t each = kFilesOfABot + (practice ? kFilesOfAGuest : 0), needed = kOwnFiles + bots * each;
     const std::size_t allowed = AllowOpenFiles(needed);
     if (needed <= allowed) return "";
     const std::string need = std::to_string(needed);
