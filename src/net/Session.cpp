@@ -125,7 +125,7 @@ void Session::TypeLine(std::string_view text) {
     HeardMark heard(bot_, Heard::From::User, text);
     // What is typed goes the way of a client's lines, so that "desc " and "\"&" mean the same here.
     const auto sendIfAccepted = [this](std::string_view line) {
-        if (Accepts(line)) modSend::SendLine(bot_, line);
+        if (FilterLine(line)) modSend::SendLine(bot_, line);
     };
     if (text.starts_with('-') || text.starts_with(':')) {
         sendIfAccepted(text);
@@ -133,7 +133,7 @@ void Session::TypeLine(std::string_view text) {
         sendIfAccepted(text.substr(1));
     } else if (text.starts_with('/')) {
         sendIfAccepted("wh " + std::string(text.substr(1)));
-    } else if (Accepts(text)) {
+    } else if (FilterLine(text)) {
         modSend::SendSpeech(bot_, text);
     }
 }
@@ -252,7 +252,7 @@ void Session::OnClientData(std::string_view packet, bool goesOn) {
     for (const std::string& line : lines) {
         Note(Happening::ClientLine, line);
         HeardMark heard(bot_, Heard::From::Client, line);
-        if (!Accepts(line)) continue;
+        if (!FilterLine(line)) continue;
         toServer_.append(line).append("\n");
         // Behind its line, as if each had come in a packet of its own: so a recording can be played line by line.
         if (bot_.host.IsServerConnected()) Note(Happening::Sent, line);
@@ -297,7 +297,9 @@ void Session::Note(Happening happening, std::string_view text) {
     if (observer_) observer_->Note(happening, text);
 }
 
-bool Session::Accepts(std::string_view line) {
+/// Reads a line of the client or the user; see FilterClientLine.
+/// @return whether it goes on to the server
+bool Session::FilterLine(std::string_view line) {
     const bool goesOn = FilterClientLine(bot_, line);
     if (IsLogin(line)) ShowBotName();
     return goesOn;

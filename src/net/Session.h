@@ -113,7 +113,7 @@ class Session {
     void LearnPassword();
     void LogIn();
     bool WasLetIn() const;
-    bool Accepts(std::string_view line);
+    bool FilterLine(std::string_view line);
     void ShowBotName();
     void ShowMenus(bool inSession, bool canStandAlone);
     void ShowIdle(SessionStatus::End end);

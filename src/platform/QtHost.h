@@ -23,7 +23,8 @@
 #include "platform/ProxyFile.h"
 
 /// The real world of a bot: Qt's sockets, timers and clock. It owns the bot and its session, and calls them from the
-/// event loop, one handler at a time. It translates and decides nothing.
+/// event loop, one handler at a time. It translates; what is to be said or done, the session decides. Its own are only
+/// the bounds of what is read in advance.
 class QtHost final : public QObject, public Host, public Link {
   public:
     /// @param programFolder  where data files live, UTF-8
