@@ -32,6 +32,8 @@ std::optional<Arguments> FirstAndLastGroup(std::string_view line) {
     return first && last ? std::optional(Arguments{*first, *last}) : std::nullopt;
 }
 
+/// A sum needs a variable and a number. Where one group served for both, a line that lacks the number would count up a
+/// variable named after it.
 std::optional<Arguments> IfApart(std::optional<Arguments> groups) {
     const bool apart = groups && (*groups)[0].data() + (*groups)[0].size() <= (*groups)[1].data();
     return apart ? groups : std::nullopt;
@@ -48,7 +50,7 @@ std::optional<Arguments> WithoutBraces(std::optional<Arguments> groups) {
 std::optional<Arguments> Joined(std::string_view line, std::string_view phrase, bool keepBrace = false) {
     const std::size_t open = FirstBrace(line, kArgumentsFrom), joint = line.find(phrase), close = line.rfind('}');
     if (open == line.npos || joint == line.npos || joint <= open) return std::nullopt;
-    const std::size_t second = line.find('{', joint);
+    const std::size_t second = line.find('{', joint);  // always there: the phrase ends with it
     if (close <= second) return std::nullopt;
     return Arguments{line.substr(open + 1, joint - open - (keepBrace ? 0 : 1)),
                      line.substr(second + 1, close - second - 1)};

@@ -28,6 +28,7 @@ struct Condition {
     Predicate holds;
 };
 
+// Unlike where texts are compared whole, "|" is no blank here: a part may well be sought for its bar.
 bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
     return UpperCase(text).find(UpperCase(part)) != std::string::npos;
 }
@@ -86,6 +87,7 @@ std::optional<bool> HasBadge(const Bot& bot, const Arguments&) {
     return badge ? std::optional(!badge->empty()) : std::nullopt;
 }
 
+// "I" passes as well, though it is a badge of another group: of the conditions on badges this one alone is loose.
 std::optional<bool> BadgeIsLetterI(const Bot& bot, const Arguments&) {
     const std::string* const badge = Badge(bot, EventLookResult);
     return badge ? std::optional(LooseEquals(*badge, "i")) : std::nullopt;
@@ -93,7 +95,7 @@ std::optional<bool> BadgeIsLetterI(const Bot& bot, const Arguments&) {
 
 /// Badge codes, as an argument of a template.
 struct Codes {
-    char text[11] = {};
+    char text[11] = {};  // the largest groups have ten codes
 
     template <std::size_t Size>
     constexpr Codes(const char (&codes)[Size]) {  // NOLINT(google-explicit-constructor): stands for its text
@@ -168,7 +170,8 @@ Square MoveFromOf(const Bot& bot) { return bot.state.moveFrom; }
 Square MoveIntoOf(const Bot& bot) { return bot.state.moveInto; }
 Square DreamOf(const Bot& bot) { return bot.state.dream; }
 
-/// Where the furre stands after its move; both squares are the same when it only turned.
+/// Where the furre stands after its move; both squares are the same when it only turned. So it is the square moved into
+/// every time, and (1:90) asks in other words what (1:88) asks.
 Square MoveEndOf(const Bot& bot) {
     return bot.state.moveFrom == bot.state.moveInto ? bot.state.moveFrom : bot.state.moveInto;
 }
@@ -248,7 +251,8 @@ constexpr Condition kConditions[] = {
     {23,  false, Form::NoArguments,       SpeciesIs<'"'>},
     {24,  true,  Form::NoArguments,       SpeciesIs<'%'>},
     {25,  false, Form::NoArguments,       SpeciesIs<'%'>},
-    {26,  true,  Form::NoArguments,       SpeciesIs<'$'>},  // its negation, 27, was never given out
+    // Its negation, 27, was never given out, and must not be: a line with that number never holds.
+    {26,  true,  Form::NoArguments,       SpeciesIs<'$'>},
     {28,  true,  Form::NoArguments,       SpeciesIs<'?'>},
     {29,  false, Form::NoArguments,       MarkingsAre<'?'>},
     {30,  true,  Form::NoArguments,       GenderIs<'!'>},
@@ -303,6 +307,7 @@ constexpr Condition kConditions[] = {
     {79,  false, Form::FirstKept,         Number<MinuteOf>},
     {80,  true,  Form::FirstKept,         Number<SecondOf>},
     {81,  false, Form::FirstKept,         Number<SecondOf>},
+    // Not a pair: until the game has told its time, neither of these holds.
     {82,  true,  Form::NoArguments,       IsMorning},
     {83,  true,  Form::NoArguments,       IsAfternoon},
     // Kept on purpose: only the positive one of these two knows the furre that moved.
@@ -334,11 +339,14 @@ constexpr Condition kConditions[] = {
     {109, true,  Form::FirstKept,         Number<DiceTotalOf, std::equal_to<>>},
     {110, true,  Form::FirstKept,         Number<DiceTotalOf, std::greater_equal<>>},
     {111, true,  Form::FirstKept,         Number<DiceTotalOf, std::greater<>>},
+    // Mind the last two: for dice "or equal" comes first, here it comes last.
     {112, true,  Form::FirstAndLastKept,  Numbers<std::less<>>},
     {113, true,  Form::FirstAndLastKept,  Numbers<std::less_equal<>>},
     {114, true,  Form::FirstAndLastKept,  Numbers<std::equal_to<>>},
     {115, true,  Form::FirstAndLastKept,  Numbers<std::greater<>>},
     {116, true,  Form::FirstAndLastKept,  Numbers<std::greater_equal<>>},
+    // These negations come three rows later, behind all three tests. Unlike conditions on what the game has sent, all
+    // six go by letter case and take "|" for itself.
     {117, true,  Form::FirstAndLastKept,  Both<SameText>},
     {118, true,  Form::FirstAndLastKept,  Both<Like>},
     {119, true,  Form::FirstAndLastKept,  Both<Contains>},
@@ -371,7 +379,7 @@ bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number) {
     const Condition* const condition = FindCondition(number);
     if (!condition) return false;
     const std::optional<Arguments> arguments = FindArguments(line, condition->form);
-    return arguments && condition->holds(bot, *arguments) == condition->wanted;
+    return arguments && condition->holds(bot, *arguments) == condition->wanted;  // no answer equals neither
 }
 
 Form FormOfCondition(std::int16_t number) {

@@ -56,14 +56,14 @@ bool HoldsPassword(std::string_view bytes) {
 bool LeadsToOneOf(const Bot& bot, const std::string& path, const std::vector<std::string>& others) {
     const Files& disk = bot.host.Disk();
     return std::any_of(others.begin(), others.end(), [&](const std::string& other) {
-        return disk.LeadToSameFile(path, disk.Find(other).value_or(other));
+        return disk.LeadToSameFile(path, disk.Find(other).value_or(other));  // as the bot finds it, letter case apart
     });
 }
 
 /// True when the path is that of a character file of the profile, or of one that would be taken for it.
 bool IsCharacterFile(const Bot& bot, const std::string& path) {
     std::vector<std::string> named = bot.characterPaths;
-    named.push_back(bot.profile.characterPath);
+    named.push_back(bot.profile.characterPath);  // may be none of the file's: the dialog has set it since
     return std::any_of(named.begin(), named.end(), [&](const std::string& character) {
         return LeadsToOneOf(bot, path, bot.profile.PlacesOf(character));
     });
@@ -110,7 +110,7 @@ struct Opened {
 Opened Open(const Bot& bot, std::string_view name) {
     const Files& disk = bot.host.Disk();
     Opened opened{disk.DataPath(bot.host.ProgramFolder(), ToUtf8(SafeFileName(name) + ".ini")), std::nullopt};
-    std::string_view why = WhyWithheld(bot, opened.path);
+    std::string_view why = WhyWithheld(bot, opened.path);  // first: what is withheld by its place is not even opened
     if (why.empty()) opened.bytes = ValueOrFault(disk.ReadData(opened.path));
     if (opened.bytes && HoldsPassword(*opened.bytes)) why = "it holds a password";
     opened.withheld = !why.empty();
@@ -220,6 +220,7 @@ std::optional<std::string> ReadDataFile(const Bot& bot, std::string_view name) {
 }
 
 void ChangeDataFile(Bot& bot, std::string_view name, const std::function<bool(DataFile&)>& change) {
+    // Before the file is read: of two bots that read the same lines, the second one to write would undo the first.
     const auto lock = ValueOrFault(bot.host.Disk().LockFolder(bot.host.ProgramFolder()));
     const Opened opened = Open(bot, name);
     if (opened.withheld) return;

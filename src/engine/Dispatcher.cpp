@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr std::size_t kIntervalFrom = 4;  // behind "(0:n", counted from 0
+constexpr std::size_t kIntervalFrom = 4;  // behind "(0:n", counted from 0; further digits of n have no blank in them
 constexpr std::string_view kDigits = "0123456789";
 
 /// The first number in a cause's text, behind its first blank; 0 when there is none or it exceeds 16 bits, so that
@@ -74,7 +74,8 @@ class ScriptWalk {
         return changed == changed_.end() ? script_->Lines()[i] : changed->second;
     }
 
-    /// Passes over lines at which there is nothing to do, and leaves the current event as a walk over them would.
+    /// Passes over lines at which there is nothing to do, and leaves the current event as a walk over them would: texts
+    /// are expanded after the walk as well, when the reader goes on or somebody types.
     std::size_t SkipTo(std::size_t next, std::size_t from) {
         if (next > from) bot_.currentEvent = Line(next - 1).asCause.IsCommand(kCauseLine) ? event_ : GameEvent{-1};
         return next;
@@ -132,9 +133,11 @@ class ScriptWalk {
         for (std::size_t k = first; k < last_; ++k) {
             const ScriptLine& effect = TrimmedLine(k);
             effect.asEffect.RaiseFault();
-            if (effect.asEffect.IsCommand(kCauseLine)) return k - 1;
+            if (effect.asEffect.IsCommand(kCauseLine)) return k - 1;  // the walk goes on at the cause itself
             if (!effect.asEffect.IsCommand(kEffectLine)) continue;
             std::string line = effect.text;
+            // Where an effect raises an event, as (5:1) does, the current event stays as that one's walk has left it:
+            // in the effects behind it "[player]" stays as written.
             modScript::ExecuteEffect(bot_, line, Add16(effect.asEffect.number, 1));
             done = k;
         }
@@ -152,6 +155,7 @@ bool TestCause(Bot& bot, std::string& line, std::int16_t number, GameEvent event
     line = ExpandVariables(bot, line);
     bot.currentEvent = event;
     if (event != EventTimerTick) return event == Add16(number, 1);
+    // Kept on purpose: the number is not looked at, so that any cause with a digit in its words is a timer as well.
     const std::int16_t interval = TimerInterval(line);
     return interval > 0 && ElapsedSeconds(bot.clock) % interval == 0;
 }

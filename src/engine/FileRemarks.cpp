@@ -8,6 +8,7 @@
 
 namespace {
 
+/// By its mark, or by the zero that each of the first letters has beside it.
 bool IsUtf16(std::string_view bytes) {
     return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
            bytes.substr(0, 4).find('\0') != bytes.npos;
@@ -28,7 +29,7 @@ bool IsHeader(std::string_view line) { return UpperCase(line) == UpperCase(kScri
 
 bool HasBlanksAroundHeader(std::string_view bytes) {
     std::string line = FirstLine(bytes);
-    std::replace(line.begin(), line.end(), '\t', ' ');
+    std::replace(line.begin(), line.end(), '\t', ' ');  // they spoil it as well, and Trim lets them stand
     return !IsHeader(FirstLine(bytes)) && IsHeader(Trim(line));
 }
 

@@ -83,6 +83,7 @@ ScriptLine::ScriptLine(std::string_view asItStands)
 
 Script::Script(std::string text, std::string file) : text_(std::move(text)), file_(std::move(file)) {
     for (const std::string& line : Split(text_, kLineEnd)) lines_.emplace_back(line);
+    // The header is taken from the text, for the lines are trimmed, and a blank before or behind it spoils it.
     isValid_ = lines_.size() >= 2 && UpperCase(Split(text_, kLineEnd).front()) == UpperCase(kScriptHeader);
     if (isValid_) BuildIndex();
 }
@@ -99,7 +100,7 @@ void Script::BuildIndex() {
 
 std::size_t Script::NextStop(GameEvent event, std::size_t from) const {
     std::size_t next = std::min(FirstAtOrAfter(stops_, from), lines_.size());
-    if (event == EventTimerTick) return std::min(next, FirstAtOrAfter(causes_, from));
+    if (event == EventTimerTick) return std::min(next, FirstAtOrAfter(causes_, from));  // whatever its number
     const auto consider = [&](std::int16_t number) {
         const auto causes = causesByNumber_.find(number);
         if (causes != causesByNumber_.end()) next = std::min(next, FirstAtOrAfter(causes->second, from));

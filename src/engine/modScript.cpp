@@ -79,12 +79,13 @@ void Numbers(Bot& bot, const Arguments& arguments, std::string_view) {
     Send(bot, LeadingNumberOrZero(arguments[0]), LeadingNumberOrZero(arguments[1]));
 }
 
+/// Nothing is rolled where an argument is no number, for that reads as 0.
 template <void (*Send)(Bot&, std::int16_t, std::int16_t)>
 void Roll(Bot& bot, std::int16_t count, std::int16_t sides) {
     if (count != 0 && sides != 0) Send(bot, count, sides);
 }
 
-/// Squares have even x only: an odd one means the square to its right. Both digits and sign keep their parity.
+/// Squares have even x only: an odd one means the square to its right, left of column 0 too, where the remainder is -1.
 void WalkTo(Bot& bot, std::int16_t x, std::int16_t y) {
     modMovement::StartWalk(bot, {x % 2 == 0 ? x : Add16(x, 1), y});
 }
@@ -93,6 +94,8 @@ void StopWalk(Bot& bot, const Arguments&, std::string_view) { modMovement::StopW
 
 // --- session and profile -----------------------------------------------------------------------------------------
 
+// Elsewhere it would end the session that stands; and what the game or one of its keepers has ended is not for a script
+// to begin again.
 void Reconnect(Bot& bot, const Arguments&, std::string_view) {
     if (bot.currentEvent == EventDisconnected && !bot.state.shutDown) bot.host.Connect();
 }
@@ -133,6 +136,7 @@ double Quotient(double old, double number) {
 // clang-format off
 constexpr Calculation kAdd      = {[](double n) { return n; },       [](double old, double n) { return old + n; }};
 constexpr Calculation kSubtract = {[](double n) { return -n; },      [](double old, double n) { return old - n; }};
+// A missing variable counts as 0, which stays 0 whatever the number is: dividing it by 0 is no fault.
 constexpr Calculation kMultiply = {[](double) { return 0.0; },       [](double old, double n) { return old * n; }};
 constexpr Calculation kDivide   = {[](double) { return 0.0; },       Quotient};
 // clang-format on
@@ -142,6 +146,7 @@ void Calculate(Bot& bot, const Arguments& arguments, std::string_view) {
     const double number = LeadingNumber(arguments[1]);
     const std::string* const old = bot.variables.Find(BracketedName(arguments[0]));
     const double result = old ? Kind.combine(LeadingNumber(*old), number) : Kind.missing(number);
+    // No text of it could be read back at the next sum.
     if (!std::isfinite(result)) throw RuntimeFault(FaultKind::Overflow);
     StoreVariable(bot, arguments[0], FormatNumber(result));
 }
@@ -203,6 +208,7 @@ void ReadRandomLine(Bot& bot, const Arguments& arguments, std::string_view) {
     const std::vector<std::string> lines = file->Lines(arguments[0]);
     if (lines.empty()) return;
     const auto drawn = static_cast<std::size_t>(bot.host.Random() * static_cast<double>(lines.size()));
+    // A draw is below 1; should a host ever draw 1, it stands for the last line.
     StoreVariable(bot, arguments[2], lines[std::min(drawn, lines.size() - 1)]);
 }
 
@@ -275,7 +281,7 @@ constexpr Effect kEffects[] = {
     {.number = 61, .gated = true, .fixed = kPlayer, .carryOut = Fixed<MakePlainCookie>},
     {.number = 62, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<MakePlainCookie>},
     {.number = 63, .gated = true, .form = Form::WholeTextOrFault, .carryOut = MessageToPlayer<modSend::SendMakeCookie>},
-    // Kept on purpose: the message keeps the "}" that ends it.
+    // Kept on purpose: the message keeps the "}" that ends it. 65, behind it, was never given out and does nothing.
     {.number = 64, .gated = true, .form = Form::ToPhraseKept, .carryOut = MessageToName<modSend::SendMakeCookie>},
     {.number = 66, .gated = true, .form = Form::WholeTextOrFault, .carryOut = WithText<modSend::SendGiveCookie>},
     {.number = 67, .fixed = "eat-cookie", .carryOut = Speech},
@@ -328,6 +334,7 @@ class ScriptActs {
 void modScript::ExecuteEffect(Bot& bot, std::string& line, std::int16_t number) {
     line = ExpandVariables(bot, line);
     const Effect* const effect = FindEffect(number - 1);
+    // Before the arguments: on a map where the bot is silent, braces the wrong way round are no fault.
     if (!effect || (effect->gated && !bot.profile.maps.Holds(bot.state.map))) return;
     const std::optional<Arguments> arguments = FindArguments(line, effect->form);
     const ScriptActs acts(bot);
