@@ -46,7 +46,9 @@ void ForgetTarget(Bot& bot) { bot.walk.target = {}; }
 std::int16_t GreedyDirection(Square bot, Square target) {
     if (bot.x < target.x) return bot.y > target.y ? 9 : 3;
     if (bot.x == target.x) {
-        if (bot.y == target.y) return 0;
+        if (bot.y == target.y) return 0;  // never asked: there the walk has ended
+        // From every other row a single step keeps the column. Which rows those are is not asked: a step that has left
+        // the column is made up for by the next.
         if (bot.y < target.y) return Subtract16(target.y, bot.y) == 1 ? 1 : 3;
         return Subtract16(bot.y, target.y) == 1 ? 9 : 7;
     }
@@ -81,6 +83,7 @@ std::int16_t Detour(const Bot& bot) {
         case 3:
             return !blocked(1) ? 1 : blocked(9) ? 7 : 9;
         case 7:
+            // Kept on purpose: nothing ever sets the reference, so it is 9 on all of the map, which begins at column 0.
             if (!blocked(9)) return bot.state.vorelInto.x >= bot.walk.detourReferenceX ? 9 : 1;
             return blocked(1) ? 3 : 1;
         case 9:
@@ -92,6 +95,7 @@ std::int16_t Detour(const Bot& bot) {
 
 }  // namespace
 
+// What was tried stays tried: the bot may still be stuck at the square where the last walk gave up.
 void StartWalk(Bot& bot, Square target) {
     bot.walk.target = target;
     bot.host.SwitchMovementTimer(true);
@@ -107,13 +111,15 @@ void Tick(Bot& bot) {
         return;
     }
     walk.direction = GreedyDirection(bot.state.vorelInto, walk.target);
+    // What is compared is the last move that the game has told. It may be older than the walk, whose first step counts
+    // as failed then.
     if (bot.state.vorelInto == bot.state.vorelFrom) {
         TryAnotherDirection(bot);
     } else {
         walk.tried1 = walk.tried3 = walk.tried7 = walk.tried9 = false;
     }
     if (IsBlocked(bot, Neighbour(bot, walk.direction))) walk.direction = Detour(bot);
-    // Sent even when the walk has just given up.
+    // Sent even when the walk has just given up: then once more the direction that has failed.
     std::string step = std::to_string(walk.direction);
     modSend::SendMoves(bot, step);
 }
@@ -125,6 +131,7 @@ bool IsBlocked(const Bot& bot, Square square) {
 Square Neighbour(const Bot& bot, std::int16_t direction) {
     const Square at = bot.state.vorelInto;
     if (direction != 1 && direction != 3 && direction != 7 && direction != 9) return at;
+    // Rows are laid like bricks: an odd one begins half a square further left.
     const bool up = direction == 7 || direction == 9;
     const bool right = direction == 3 || direction == 9;
     const bool evenRow = at.y % 2 == 0;

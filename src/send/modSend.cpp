@@ -98,7 +98,7 @@ void SendMoves(Bot& bot, std::string& moves) {
     for (const char move : moves) {
         if (!commands.empty()) commands += '\n';
         commands += MoveCommand(move);
-        CheckTextLength(commands.size());
+        CheckTextLength(commands.size());  // as it grows: a letter may become seven characters
     }
     if (!commands.empty()) SendLine(bot, commands);
 }
