@@ -40,7 +40,7 @@ std::optional<std::string> NameFilesFrom(Bot& bot, const std::string& path) {
     for (std::string Profile::*const file : {&Profile::clientPath, &Profile::characterPath, &Profile::scriptPath}) {
         const auto found = FindProfileFile(bot, named.*file);
         const std::string absolute = found ? bot.host.Disk().Absolute(*found) : std::string();
-        if (FitsCodePage(absolute)) continue;
+        if (FitsCodePage(absolute)) continue;  // also when not found: there is nothing to name anew
         const auto name = NameInProfile(path, absolute);
         if (!name) return absolute;
         named.*file = *name;

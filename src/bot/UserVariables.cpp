@@ -29,7 +29,7 @@ void UserVariables::Rename(std::string_view name, std::string_view newName) {
     const auto found = ranks_.find(name);
     if (name == newName || found == ranks_.end()) return;
     const Rank rank = found->second;
-    Remove(newName);
+    Remove(newName);  // counts as the change, too, where there is none
     RemoveName(name);
     rows_.at(rank).name = newName;
     AddName(newName, rank);
@@ -51,6 +51,7 @@ void UserVariables::Remove(std::string_view name) {
 void UserVariables::Clear() {
     const std::size_t revision = revision_, next = next_;
     *this = UserVariables();
+    // Begun again, the revision might come back to one that is shown already.
     revision_ = revision + 1;
     next_ = next;
 }

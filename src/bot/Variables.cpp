@@ -118,6 +118,7 @@ void ReplaceInTurn(Expansion& text, const Names& names) {
 
 std::string Pair(const Square& square) { return "(" + std::to_string(square.x) + "," + std::to_string(square.y) + ")"; }
 
+/// The rows of each table below are replaced in their order, which shows where one value holds another one's name.
 struct Variable {
     std::string_view name;
     std::string (*value)(const Bot&);
@@ -174,7 +175,7 @@ constexpr Variable kBotVariables[] = {
 
 std::string LongTimeNow(const Bot& bot) { return bot.host.LongTime(bot.host.Now()); }
 
-// Under a 24-hour format the last two characters of the time are digits of the seconds.
+// Kept on purpose: under a 24-hour format the last two characters of the time are digits of the seconds.
 std::string Median(const Bot& bot) {
     const std::string time = LongTimeNow(bot);
     return time.substr(time.size() < 2 ? 0 : time.size() - 2);
@@ -340,6 +341,7 @@ std::string WordsFrom(const std::vector<std::string>& words, std::size_t first) 
 
 void ReplaceWords(Expansion& text) {
     constexpr std::string_view kOne = StemOf(kWord), kFrom = StemOf(kStartingWord);
+    // No message has no words, where cutting it would make an empty one of it.
     if (text.bot().state.message.empty() || !(text.Holds(kOne) || text.Holds(kFrom))) return;
     const std::vector<std::string> words = Split(text.bot().state.message, " ");
     ReplaceInTurn(text, NumberedNames({kOne, kFrom}, words.size(), [&](std::size_t stem, std::size_t n) {
@@ -350,6 +352,7 @@ void ReplaceWords(Expansion& text) {
 void ReplaceDice(Expansion& text) {
     const BotState& state = text.bot().state;
     if (state.dice.amount > 0 && text.Holds(StemOf(kDie))) {
+        // The count of a roll outlives a login, its single dice don't; and a roll may list fewer than were thrown.
         const std::size_t kept = std::min(state.dieValues.size(), static_cast<std::size_t>(state.dice.amount));
         ReplaceInTurn(text, NumberedNames({StemOf(kDie)}, kept, [&](std::size_t, std::size_t n) {
                           return std::to_string(state.dieValues[n - 1]);
@@ -362,6 +365,7 @@ void ReplaceDice(Expansion& text) {
 
 std::string ExpandVariables(const Bot& bot, std::string_view text) {
     CheckTextLength(text.size());
+    // Every line is expanded, and up to three times; most hold no name.
     if (text.find('[') == text.npos && bot.variables.AllBracketed()) return std::string(text);
     // The order is what scripts count on: a value that holds another variable is filled in when that one's turn is
     // still to come, and stays as it is when it has been.

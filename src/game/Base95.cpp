@@ -25,7 +25,7 @@ std::int16_t DecodeBase95Pair(std::string_view pair, std::int16_t multiplier) {
 }
 
 std::string EncodeBase95Pair(std::int16_t value, std::int16_t& divisor) {
-    if (divisor == 0) divisor = 1;
+    if (divisor == 0) divisor = 1;  // Kept on purpose: the caller's own becomes 1 with it.
     const int number = To16(value / divisor);
     return {DigitCharacter(number / kBase), DigitCharacter(number % kBase)};
 }

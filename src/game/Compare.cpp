@@ -43,6 +43,7 @@ bool MatchesOne(char c, std::string_view pattern, std::size_t& position) {
 
 }  // namespace
 
+// The lengths first: folding makes a copy of both, and changes neither's length.
 bool LooseEquals(std::string_view a, std::string_view b) { return a.size() == b.size() && Folded(a) == Folded(b); }
 
 bool LooseLike(std::string_view text, std::string_view pattern) { return Like(Folded(text), Folded(pattern)); }

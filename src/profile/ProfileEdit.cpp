@@ -44,6 +44,7 @@ void ProfileEdit::Delete(NameList& list, std::size_t index) {
     if (index >= list.entries.size()) return;
     const std::string entry = list.entries[index];
     const std::string separator(kListSeparator);
+    // With a separator first, else the neighbours would be left with two of them.
     list.text = ReplaceAll(list.text, separator + entry, "");
     list.text = ReplaceAll(list.text, entry + separator, "");
     list.text = ReplaceAll(list.text, entry, "");
@@ -56,6 +57,7 @@ void ProfileEdit::DeleteMap(std::size_t index) { Delete(maps_, index); }
 
 ProfileEdit::IgnoreAnswer ProfileEdit::AddIgnore(std::string& name) {
     name = BarsToBlanks(name);
+    // This word has always counted as no answer.
     if (name.empty() || name == "undefined") return IgnoreAnswer::Nothing;
     if (IsIgnored(profile_, name)) return IgnoreAnswer::AlreadyThere;
     profile_.ignores.push_back(name);
@@ -78,6 +80,7 @@ void ProfileEdit::Apply(const Fields& fields) {
     const Profile before = profile_;
     profile_.clientPath = fields.clientPath;
     profile_.characterPath = fields.characterPath;
+    // From the entries: their text may have lost parts of longer names to a removal.
     profile_.owners = JoinedEntries(owners_);
     profile_.maps = JoinedEntries(maps_);
     profile_.connectClient = fields.connectClient ? 1 : 0;

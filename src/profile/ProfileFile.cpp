@@ -189,6 +189,7 @@ Outcome<Done> RestoreProfile(Bot& bot, const std::string& path, std::string_view
     profile.path = path;
     profile.dirty = true;
     bool inIgnores = false;
+    // Written by ProfileBytes: what stands behind "[Ignores]" is a name, even where it looks like a section or a key.
     for (const std::string& line : FileLines(bytes)) {
         const Entry entry = ReadEntry(line);
         if (inIgnores) profile.ignores.push_back(line);

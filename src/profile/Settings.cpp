@@ -9,7 +9,7 @@ Settings LoadSettings(const Files& disk, const std::string& folder) {
     const auto path = disk.Find(JoinPath(folder, kSettingsFile));
     if (!path) return settings;
     for (const std::string& line : FileLines(ValueOrFault(disk.Read(*path)))) {
-        const std::size_t keyEnd = line.find('=', 1) + 1;  // 0 when there is no "="
+        const std::size_t keyEnd = line.find('=', 1) + 1;  // 0 when there is no "="; a "=" in front is no key's end
         const std::string key = LowerCase(line.substr(0, keyEnd)), value = line.substr(keyEnd);
         if (key == "recent=") {
             settings.recent = ToUtf8(value);
