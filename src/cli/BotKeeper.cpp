@@ -35,6 +35,7 @@ int BotKeeper::Begin() {
     bot_->KeepSplitLines(options_.keepSplitLines);
     if (options_.profiles.size() > 1) bot_->ShowLabel();
     if (!bot_->Load()) return RefuseRun(kNoInputExit, "there is no profile " + profile_);
+    // A fault in its first script is no refusal: OnFault has it told, and sees to what becomes of the bot.
     return faulted_ || options_.record.empty() ? 0 : Record();
 }
 
@@ -94,7 +95,7 @@ void BotKeeper::BeginAgainLater() {
 
 void BotKeeper::BeginAgain() {
     if (Begin() == 0) return Connect();
-    faulted_ = true;
+    faulted_ = true;  // what has refused it, such as a profile that is being written anew, may pass
     PutDown();
     BeginAgainLater();
 }

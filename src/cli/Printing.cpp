@@ -22,6 +22,7 @@ bool LeadToTheSamePlace(int one, int other) {
            first.st_ino == second.st_ino;
 }
 
+/// Two threads that write to one place would mix up the order of the lines.
 std::unique_ptr<LineWriter> OwnErrors() {
     if (LeadToTheSamePlace(STDOUT_FILENO, STDERR_FILENO)) return nullptr;
     return std::make_unique<LineWriter>(STDERR_FILENO);

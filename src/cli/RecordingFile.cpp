@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kMostNumbers = 100000;
+constexpr int kMostNumbers = 100000;  // more than anybody has; the search is to end all the same
 
 constexpr auto kAppended = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
 

@@ -29,7 +29,7 @@ bool TerminalBot::Load() {
     });
     for (const std::string& remark : load.remarks) TellOfRun(remark);
     if (!load.missingScript.empty()) TellOfRun(MissingScript(profilePath_, load));
-    return load.found || faulted;
+    return load.found || faulted;  // a fault has told its own story, and is not a profile that is missing
 }
 
 std::optional<std::string> TerminalBot::RecordTo(const std::string& path) {

@@ -9,7 +9,7 @@
 
 TypedInput::TypedInput(std::function<void(const std::string& line)> onLine)
     : onLine_(std::move(onLine)), notifier_(STDIN_FILENO, QSocketNotifier::Read) {
-    lines_.KeepSplitLines(true);
+    lines_.KeepSplitLines(true);  // unlike a packet of the game, a read may end anywhere in a line
     QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] { Read(); });
 }
 

@@ -61,6 +61,7 @@ class TerminalRun {
     int Run() {
         if (const int refusal = Prepare()) return refusal;
         for (const auto& bot : bots_) bot->Connect();
+        // Not one has so much as begun to connect.
         if (AllAreIdle()) return AnyHasFaulted() ? kFaultExit : kConfigExit;
 
         const EndSignals endSignals([this] { End(0); });
@@ -118,6 +119,7 @@ class TerminalRun {
             return RefuseRun(kUnavailableExit, "the practice dream: " + listening.fault.toStdString());
         options_.server = "127.0.0.1";
         options_.port = listening.port;
+        // Somebody at a terminal may want to talk with the bot when the visitors have gone.
         if (isatty(STDIN_FILENO) == 0) {
             const auto endSoon = [this] { QTimer::singleShot(kLastAnswersMs, practice_.get(), [this] { End(0); }); };
             QObject::connect(practice_.get(), &PracticeServer::TourEnded, practice_.get(), endSoon);
@@ -182,7 +184,7 @@ int Run(const RunOptions& options) {
     int argumentCount = 1;
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
-    Printing printing;
+    Printing printing;  // first, and so the last to go: the others may have something to say on their way out
     Guarded<QCoreApplication> application(argumentCount, arguments);
     TerminalRun run(options);
     application.OnException([&](const std::exception& exception) { run.OnFault(DescribeFault(AsFault(exception))); });

@@ -33,6 +33,7 @@ struct TryOptions {
 std::optional<LocalTime> ReadTime(const std::string& text) {
     LocalTime time;
     char end = 0;
+    // The last field finds what must not be there: a seventh one read is too much.
     const int read = std::sscanf(text.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &time.year, &time.month, &time.day,
                                  &time.hour, &time.minute, &time.second, &end);
     const bool exists =
@@ -79,6 +80,7 @@ int Try(const TryOptions& options) {
     DiskFiles disk;
     const auto profile = disk.Find(options.profile);
     if (!profile) return Unreadable("there is no profile " + options.profile);
+    // Before the rehearsal, in which a file that can't be read is the bot's fault, with a status of its own.
     if (!disk.Read(*profile)) return Unreadable("the profile " + options.profile + " can't be read");
     const auto written = ReadSession(disk, options.session);
     if (!written) return Unreadable("the session " + options.session + " can't be read");

@@ -29,6 +29,7 @@ ConsoleLog::Refusal ConsoleLog::Open(const std::string& path) {
     const QFileInfo there(file_.fileName());
     if (there.exists() && !there.isFile()) return Refusal::NoOrdinaryFile;
     if (HoldsOther(file_.fileName())) return Refusal::HoldsOther;
+    // Unbuffered: the last lines before a crash are the ones that are looked for.
     const auto appended = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
     const bool opened = file_.open(appended, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     return opened ? Refusal::None : Refusal::CantBeWritten;

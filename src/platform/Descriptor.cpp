@@ -5,7 +5,7 @@
 #include <utility>
 
 Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
-    std::swap(number_, other.number_);
+    std::swap(number_, other.number_);  // the other one closes what was open here
     return *this;
 }
 

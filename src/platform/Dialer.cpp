@@ -42,6 +42,7 @@ void Dialer::Leave() {
 }
 
 void Dialer::OnClosed() {
+    // Told of connections, too, that never came about, and must not make a steady session of them.
     if (online_.isValid()) reconnector_.SessionEnded(std::chrono::milliseconds(online_.elapsed()));
     online_.invalidate();
 }

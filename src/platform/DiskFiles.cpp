@@ -14,7 +14,7 @@ Outcome<std::string> DiskFiles::Read(const std::string& path) const {
     QFile file(FromPath(path));
     if (!file.exists()) return RuntimeFault(FaultKind::FileNotFound, path);
     if (!file.open(QIODevice::ReadOnly)) return RuntimeFault(FaultKind::PathOrFileAccess, path);
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = file.readAll();  // of what went wrong halfway it gives what was read before
     if (file.error() != QFileDevice::NoError) return RuntimeFault(FaultKind::PathOrFileAccess, path);
     return bytes.toStdString();
 }

@@ -57,6 +57,7 @@ Wire::Wire(QTcpSocket* socket, Listener listener, QObject* parent)
 
 void Wire::Connect(const std::string& host, int port) {
     host_ = host;
+    // Later, as a socket's own errors come: the session is still about to connect.
     if (port < 1 || port > kLastPort) return EndLater(Failure(0, "there is no port " + std::to_string(port)));
     tmrSilence_.start(kSilenceToldAfter);
     tmrAnswer_.start(kAnswerWithin);
@@ -152,6 +153,7 @@ void Wire::Close() {
     tmrAnswer_.stop();
     if (!full_ && socket_->state() == QAbstractSocket::ConnectedState) {
         socket_->flush();
+        // Later, here and below: this may be called out of one of the socket's signals.
         connect(socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
         QTimer::singleShot(kPartingTime, this, &QObject::deleteLater);
         socket_->disconnectFromHost();

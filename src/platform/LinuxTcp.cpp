@@ -13,6 +13,7 @@ struct Option {
     int level, name, value;
 };
 
+// 60 + 4 * 15 seconds: two minutes either way.
 constexpr Option kKeepAlive[] = {
     {SOL_SOCKET, SO_KEEPALIVE, 1},
     {IPPROTO_TCP, TCP_KEEPIDLE, 60},           // seconds of silence before the first question

@@ -18,7 +18,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds kLockPause{2};
+constexpr std::chrono::milliseconds kLockPause{2};  // between two tries: waiting in the call would know no end
 
 /// A lock that is let go when its folder is closed.
 class FolderLock final : public Files::Lock {

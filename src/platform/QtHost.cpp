@@ -32,6 +32,7 @@ void QtHost::StartTimers() {
     tmrBrake_.setObjectName("tmrBrake");
     tmrBrake_.setSingleShot(true);
     clock_.start();
+    // By itself Qt may be off by a twentieth, and the elapsed clock counts these ticks.
     tmrScript_.setTimerType(Qt::PreciseTimer);
     tmrScript_.start(kScriptTimerMs);
     tmrMove_.setInterval(modMovement::kWalkTickMs);
@@ -58,6 +59,7 @@ void QtHost::SwitchMovementTimer(bool enabled) {
     if (!enabled) {
         tmrMove_.stop();
     } else if (!tmrMove_.isActive()) {
+        // Started anew with every new target, a walk that is given one twice a second would never take a step.
         tmrMove_.start();
     }
 }
@@ -89,7 +91,7 @@ void QtHost::ConnectServer(const std::string& address, int port) {
 
 void QtHost::CloseServer() {
     dialer_.OnClosed();
-    brake_.Clear();
+    brake_.Clear();  // what still waits there was for the session that ends
     server_.Close();
 }
 
@@ -114,7 +116,7 @@ void QtHost::OnServerConnected() {
 }
 
 void QtHost::OnServerEnd(const std::optional<SocketError>& error) {
-    CloseServer();
+    CloseServer();  // first: the script, which hears of the end now, may connect again
     RunHandler([&] { error ? session_.OnServerError(*error) : session_.OnServerClosed(); });
     dialer_.TryAgainIfLost();
     client_.Resume();
@@ -135,7 +137,7 @@ void QtHost::CloseClient() {
 void QtHost::AcceptClient() {
     client_.Close();
     QTcpSocket* const socket = listener_.nextPendingConnection();
-    listener_.close();
+    listener_.close();  // last: it takes along whoever still waits there
     if (socket) client_.TakeOver(socket, ClientListener());
 }
 

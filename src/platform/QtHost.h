@@ -35,8 +35,8 @@ class QtHost final : public QObject, public Host, public Link {
     Session& session() { return session_; }
     const Session& session() const { return session_; }
 
-    /// Runs what something from outside calls for: a socket, a timer, a key. The one place where a run-time fault is
-    /// caught, and whatever else is thrown; after it nothing runs any more.
+    /// Runs what something from outside calls for: a socket, a timer, a key. A run-time fault that comes
+    /// out of it, or whatever else is thrown, ends the bot: after it nothing runs any more.
     void RunHandler(const std::function<void()>& handler);
 
     /// Ends the bot for what came out of a handler elsewhere; see Guarded.

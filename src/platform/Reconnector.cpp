@@ -26,7 +26,7 @@ void Reconnector::Forget() {
 }
 
 int Reconnector::PauseMs(int attempt, double draw) {
-    constexpr int kFirstMs = 1000, kLongestMs = 300'000, kDoublings = 9;
+    constexpr int kFirstMs = 1000, kLongestMs = 300'000, kDoublings = 9;  // as many as lead beyond the longest
     if (attempt == 0) return 0;
     const int pause = std::min(kFirstMs << std::min(attempt - 1, kDoublings), kLongestMs);
     return pause + static_cast<int>(pause * draw / 4);

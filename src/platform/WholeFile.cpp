@@ -22,8 +22,8 @@ namespace {
 
 constexpr std::string_view kTemporaryPrefix = ".tvorel-unfinished-";
 constexpr std::size_t kTemporaryDigits = 16;
-constexpr int kNameDraws = 100;
-constexpr int kMostLinks = 40;  // as many as the system follows
+constexpr int kNameDraws = 100;  // one is taken by chance as good as never: then somebody is at it
+constexpr int kMostLinks = 40;   // as many as the system follows
 constexpr mode_t kOwnerOnly = 0600, kAllModes = 0777;
 
 std::string ReasonOf(int error) { return std::generic_category().message(error); }
@@ -60,7 +60,7 @@ std::string WhereLinksLead(std::string path) {
     return path;
 }
 
-/// Whether this process has not written into a folder before.
+/// Whether this process has not written into a folder before. To look through a full one at each save would be slow.
 bool IsFirstVisit(const std::string& folder) {
     static std::set<std::string> visited;
     return visited.insert(folder).second;
@@ -156,6 +156,7 @@ Outcome<Done> WholeFile::Commit() {
     return Done{};
 }
 
+/// The close is asked, too: file systems of the network may tell only then that there was no room.
 bool WholeFile::Finish() {
     return KeepMode() && Check(Uninterrupted([&] { return ::fsync(file_.Number()); })) && PutIntoPlace() &&
            Check(::close(file_.Release()));

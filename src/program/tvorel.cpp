@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("tvorel");
     QApplication::setApplicationVersion(kProductVersion);
     QApplication::setDesktopFileName("org.tandryvorel.tvorel");
-    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setQuitOnLastWindowClosed(false);  // hidden behind its icon the bot goes on
 
     QCommandLineParser arguments;
     arguments.setApplicationDescription("Makes bots for the online game Furcadia.");
@@ -33,6 +33,7 @@ int main(int argc, char** argv) {
     for (const QString& document : arguments.positionalArguments()) documents.push_back(TypedPath(document));
 
     const QString folder = FindProgramFolder();
+    // Before the first widget, which takes its texts as it is made.
     LoadTranslations(application, Options(OptionsFile(folder)).Get(option::kLanguage));
     const std::string noCommandList = ProvideCommandList(folder);
     QtDialogs dialogs;
