@@ -6,6 +6,7 @@
 namespace {
 
 // What the game sends of Ann before she says something: her looks and her badge.
+// A macro, for only literals join with literals.
 #define ANN "server ]-#Ax%4%4%4%4%!#5\nserver ]-#BA\n"
 
 // clang-format off

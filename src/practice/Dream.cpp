@@ -98,7 +98,7 @@ void Dream::TurnAway(Guest& guest, std::string_view why) {
 }
 
 void Dream::Leave(FurreId furre) {
-    modRequests::ForgetRequestsOf(world_, furre);
+    modRequests::ForgetRequestsOf(world_, furre);  // a request is answered without looking whether its sender is here
     world_.guests.erase(furre);
 }
 

@@ -55,6 +55,7 @@ PracticeServer::PracticeServer(PracticeSettings settings, QObject* parent)
     connect(&second_, &QTimer::timeout, this, &PracticeServer::PassSecond);
 }
 
+/// The sockets go when nothing is left here that their last signals could reach.
 PracticeServer::~PracticeServer() {
     for (QTcpSocket* const socket : clients_.keys()) socket->disconnect(this);
 }
@@ -109,7 +110,7 @@ void PracticeServer::ReadFrom(QTcpSocket* socket) {
 
 void PracticeServer::HearLines(Client& client, const QByteArray& bytes) {
     QList<QByteArray> lines = (client.unfinished + bytes).split('\n');
-    client.unfinished = lines.takeLast().left(kLongestUnfinished);
+    client.unfinished = lines.takeLast().left(kLongestUnfinished);  // what stands behind the last line feed
     for (const QByteArray& line : lines) {
         dream_.Hear(client.furre, {line.constData(), static_cast<std::size_t>(line.size())});
     }
@@ -136,6 +137,7 @@ void PracticeServer::Deliver() {
         piece.bytes.append(delivery.line.data(), static_cast<qsizetype>(delivery.line.size())).append('\n');
         piece.last = piece.last || delivery.last;
     }
+    // Over a copy: a client that is let go takes itself off the list meanwhile.
     for (QTcpSocket* const socket : clients_.keys()) {
         const auto piece = pieces.find(clients_.value(socket).furre);
         if (piece != pieces.end()) Write(socket, piece->second.bytes, piece->second.last);

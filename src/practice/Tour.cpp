@@ -86,7 +86,7 @@ void TourPlayer::PassSecond() {
     ++waited_;
     while (!IsOver() && waited_ >= tour_.steps[next_].after) {
         const TourStep& step = tour_.steps[next_];
-        if (!step.act(dream_, step)) return;
+        if (!step.act(dream_, step)) return;  // tried again with each second, as "wait for" wants it
         ++next_;
         waited_ = 0;
     }

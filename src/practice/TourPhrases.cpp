@@ -66,6 +66,7 @@ std::string ReadBadge(TourStep& step) {
     if (step.text.empty()) return {};
     const bool hasBadge = step.text.starts_with(kWords) && step.text.find(' ', kWords.size()) == std::string::npos;
     step.text = step.text.substr(std::min(kWords.size(), step.text.size()));
+    // Three, for a badge may be written as a character's code.
     return hasBadge && step.text.size() <= 3 ? "" : "after \"arrives\" can come \"with badge\" and up to 3 characters";
 }
 
@@ -164,7 +165,9 @@ bool CloseDream(Dream& dream, const TourStep& step) {
 }
 
 // clang-format off
-/// Lines that begin with these words. Of two that begin alike the longer one stands first.
+// In both tables: of two phrases that begin alike the longer one stands first, for the first that fits is taken.
+
+/// Lines that begin with these words.
 constexpr TourPhrase kStagePhrases[] = {
     {"boot",        ReadOwnName,        Boot,       "", Presence::Ends},
     {"close dream", ReadOther,          CloseDream, "", Presence::Nothing},

@@ -50,6 +50,7 @@ namespace modRequests {
 void Join(World& world, Guest& guest, std::string_view name) {
     Guest* const host = TakeRequest(world, guest, name, false);
     if (!host) return Ask(world, guest, name, true);
+    // In this order: a bot takes notice of a "joins you." only behind the answer to its request.
     world.Send(*host, Accepted(guest.who.name));
     world.Send(*host, Joins(guest.who.name));
     world.Send(guest, Summons(host->who.name));

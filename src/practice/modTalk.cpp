@@ -85,6 +85,7 @@ void LookAtSquare(World& world, Guest& guest, std::string_view square) {
     const Square at{DecodeBase95Pair(square.substr(0, 2), 2), DecodeBase95Pair(square.substr(2), 1)};
     const Guest* seen = nullptr;
     ForEachOnMapOf(world, guest, [&](const Guest& other) {
+        // Others before oneself: furres may share a square.
         if (other.at == at && (!seen || seen->id == guest.id)) seen = &other;
     });
     if (seen) return LookAtFurre(world, guest, seen->who.name);

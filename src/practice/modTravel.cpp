@@ -61,6 +61,7 @@ void EnterMap(World& world, Guest& guest, std::size_t map, Square at) {
     guest.from = {};
     guest.loaded = false;
     const DreamMap& entered = world.MapOf(guest);
+    // The file first: the map is named after it, until the name of a furre's own dream takes that one's place.
     world.Send(guest, modDreamLines::MapFile(entered.file));
     if (entered.playerMade) world.Send(guest, modDreamLines::EnterDream(entered.name));
     world.Send(guest, modDreamLines::LoadRequest(entered.file));
@@ -70,6 +71,7 @@ void EnterMap(World& world, Guest& guest, std::size_t map, Square at) {
 void FinishLoading(World& world, Guest& guest) {
     if (guest.loaded) return;
     guest.loaded = true;
+    // The guest is one of them: from its own appearance a bot learns where it stands.
     ForEachOnMapOf(world, guest, [&](const Guest& other) {
         if (!other.loaded) return;
         if (other.id != guest.id) world.Send(guest, AppearanceOf(other));
@@ -141,6 +143,7 @@ bool OpenDream(World& world, std::string_view name, Square at) {
     DreamMap& practice = world.maps[kPracticeMap];
     if (!IsFree(practice, at) || at.x % 2 != 0 || DoorAt(practice, at)) return false;
     if (MapOfDream(world, name) == world.maps.size()) world.maps.push_back(OpenedDream(name));
+    // By its number again: the dream that has been added may have moved the maps.
     world.maps[kPracticeMap].doors.push_back({at, std::string(name)});
     for (const auto& [id, guest] : world.guests) {
         if (guest.loaded && guest.map == kPracticeMap) world.Send(guest, modDreamLines::DreamAppears(at, name));

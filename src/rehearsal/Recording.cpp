@@ -66,6 +66,7 @@ std::string Recording::Recorded(Happening happening, std::string_view text) {
 }
 
 void Recording::Repeat(std::string_view word) {
+    // A longer wait is two lines, which play the same.
     if (word != repeated_ || times_ == std::numeric_limits<std::int16_t>::max()) WriteRepeated();
     repeated_ = word;
     ++times_;

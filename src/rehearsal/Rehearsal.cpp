@@ -29,8 +29,9 @@ void Rehearsal::Play(const SessionStep& step) {
             host.SetServerConnected(true);
             return session.OnServerConnected();
         case SessionStep::Kind::Close:
+            // A recording has the ends, too, that the bot brought about itself: played again, it has done so by now.
             if (!host.IsServerConnected()) return;
-            host.SetServerConnected(false);
+            host.SetServerConnected(false);  // first, as with a socket: what the script sends now is lost
             return session.OnServerClosed();
         case SessionStep::Kind::Link:
             host.SetClientConnected(true);
@@ -50,6 +51,7 @@ void Rehearsal::Play(const SessionStep& step) {
         case SessionStep::Kind::Tick:
             for (int i = 0; i < step.count; ++i) ScriptTimerTick(bot);
             return;
+        // A walk that has come to its end has no timer any more that could tick.
         case SessionStep::Kind::Step:
             for (int i = 0; i < step.count && host.IsMovementTimerEnabled(); ++i) modMovement::Tick(bot);
             return;

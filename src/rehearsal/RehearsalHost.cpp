@@ -61,4 +61,5 @@ std::string RehearsalHost::LongTime(const LocalTime& time) const {
            (time.hour < 12 ? " AM" : " PM");
 }
 
+// The generator draws 32 bits; divided by their number the result stays below 1.
 double RehearsalHost::Random() { return static_cast<double>(random_()) / 4294967296.0; }

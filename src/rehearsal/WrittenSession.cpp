@@ -76,6 +76,7 @@ WrittenSession ParseSession(std::string_view bytes) {
     std::size_t number = 0;
     for (const std::string& line : Split(bytes, "\n")) {
         ++number;
+        // Only one: a second carriage return belongs to the text, for the game's lines may end with one.
         const std::string text = line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
         if (text.empty() || text.starts_with('#')) continue;
         ReadStep(session, number, text);
