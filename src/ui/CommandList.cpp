@@ -20,6 +20,7 @@ CommandRoot RootOf(std::string_view line) {
     }
 }
 
+// Kept on purpose: the category's number serves as the indentation, and scripts in use look so.
 std::string CommandInsertion(std::string_view command) {
     const auto blanks = static_cast<std::size_t>(LeadingNumber(command.substr(1, 1)));
     return std::string(blanks, ' ').append(command).append("\r\n");

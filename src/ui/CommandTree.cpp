@@ -11,6 +11,7 @@
 
 namespace {
 
+// As many, and in the same order, as CommandRoot has roots.
 constexpr char kRootCaptions[][24] = {"Causes", "Additional Conditions", "Effects"};
 
 /// The roots have no parent, the commands one of them.

@@ -143,7 +143,7 @@ void ConsoleFrame::Save() {
 }
 
 void ConsoleFrame::ChooseLog(bool on) {
-    log_.Close();
+    log_.Close();  // first, so that cancelling leaves none, as the item says then
     options_.Set(option::kLogFile, QString());
     if (!on) return;
     const auto path = dialogs_.AskSaveFile(this, tr("Log the console to"), tr("Text (*.txt) | *.txt"), {});

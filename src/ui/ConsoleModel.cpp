@@ -4,7 +4,7 @@
 #include <iterator>
 
 namespace {
-constexpr int kFrameMs = 16;
+constexpr int kFrameMs = 16;  // no screen shows much more than 60 pictures a second
 }
 
 ConsoleModel::ConsoleModel(QObject* parent) : QAbstractListModel(parent) {

@@ -9,7 +9,7 @@
 
 ConsoleView::ConsoleView(QWidget* parent) : QListView(parent) {
     setModel(&lines_);
-    setUniformItemSizes(true);
+    setUniformItemSizes(true);  // or each of the thousands of lines would be measured
     setLayoutMode(QListView::SinglePass);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::ExtendedSelection);

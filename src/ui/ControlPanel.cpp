@@ -22,6 +22,7 @@ struct PanelButton {
     const char* meaning;
 };
 
+// A row's place on its tab is also the button's number and its key.
 // clang-format off
 constexpr PanelButton kButtons[] = {
     {0, "use",       "Use",      nullptr,        QT_TRANSLATE_NOOP("ControlPanel", "Use what is before you")},
@@ -61,7 +62,7 @@ struct ToolButton {
 };
 
 constexpr ToolButton kTools[] = {
-    {Tool::PlayerEditor, "Furcadia  Player Editor"},
+    {Tool::PlayerEditor, "Furcadia  Player Editor"},  // Kept on purpose: the two blanks have always stood there.
     {Tool::GameConfiguration, "Furcadia Configuration"},
     {Tool::VorelConfiguration, "Vorel Configuration"},
 };

@@ -19,7 +19,7 @@ namespace {
 
 constexpr char kProfileFilter[] = "Tandry Vorel (*.tvm) | *.tvm";
 constexpr char kSaveTitle[] = "Save Vorel";
-constexpr int kKeepUnsavedMs = 5000;
+constexpr int kKeepUnsavedMs = 5000;    // what a crash may cost
 constexpr int kTrustedAfterMs = 60000;  // a profile that has run so long does not end the program at every start
 
 bool IsProfile(const std::string& path) { return DocumentKind(path) == FileKind::Profile; }
@@ -103,8 +103,9 @@ void Documents::OpenProfile() {
     if (!chosen) return;
     opened_.start();
     host_.RunHandler([&] {
+        // Only this item of the menu reads by the second reader, everything else by LoadProfile; see ProfileFile.h.
         const ProfileLoad load = ::OpenProfile(bot(), TypedPath(*chosen));
-        if (load.found) bot().profile.dirty = false;
+        if (load.found) bot().profile.dirty = false;  // the mark of the one it was read over
         ShowLoaded(load, TypedPath(*chosen));
     });
 }

@@ -75,6 +75,7 @@ bool FindBar::Find(bool forward) {
 }
 
 void FindBar::Replace() {
+    // That something is selected is asked as well: where nothing is, it would equal an empty search.
     const bool selected = text_.selectedText().compare(txtFind_->text(), Qt::CaseInsensitive) == 0;
     if (selected && text_.hasSelectedText()) text_.replaceSelectedText(txtReplace_->text());
     Find(true);
@@ -83,6 +84,7 @@ void FindBar::Replace() {
 void FindBar::ReplaceAll() {
     if (txtFind_->text().isEmpty()) return;
     text_.beginUndoAction();
+    // Not around the end: what is put in may hold what is sought.
     bool found = text_.findFirst(txtFind_->text(), false, false, false, false, true, 0, 0);
     while (found) {
         text_.replace(txtReplace_->text());

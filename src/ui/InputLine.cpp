@@ -7,7 +7,7 @@ QString InputLine::Take() {
     QString text = this->text();
     if (!text.isEmpty() && (history_.isEmpty() || history_.last() != text)) history_ << text;
     if (history_.size() > kHistoryLength) history_.removeFirst();
-    at_ = history_.size();
+    at_ = history_.size();  // behind the last one, for what is typed next
     typed_.clear();
     clear();
     return text;

@@ -22,7 +22,7 @@ QAction* AddOption(QMenu& menu, const char* name, const QString& caption, bool o
     QAction* const item = menu.addAction(caption);
     item->setObjectName(name);
     item->setCheckable(true);
-    item->setChecked(on);
+    item->setChecked(on);  // before anybody listens: how it stands is no choice of the user's
     QObject::connect(item, &QAction::toggled, &menu, std::move(run));
     return item;
 }

@@ -25,6 +25,7 @@ Outcome<std::string> InstalledCommandList(const Files& disk) {
 
 QString FindProgramFolder() {
     QString beside = QCoreApplication::applicationDirPath();
+    // Root can write below /usr, but nobody's profile belongs there.
     if (QFileInfo(beside).isWritable() && !beside.startsWith("/usr")) return beside;
     QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(folder);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kMostPrograms = 16;
+constexpr int kMostPrograms = 16;  // one more is told that its work can't be put aside
 
 // A copy is two lines, the paths of the file it belongs to and of the profile, and the bytes. An empty file is no copy.
 std::string Packed(const Recovery::Copy& copy) { return copy.path + "\n" + copy.profile + "\n" + copy.bytes; }
@@ -29,6 +29,7 @@ Recovery::Recovery(Files& disk, const std::string& folder) : disk_(disk) {
         };
         auto lock = std::make_unique<QLockFile>(QString::fromStdString(file("unsaved") + ".lock"));
         lock->setStaleLockTime(0);  // old it may be, as long as its program runs
+        // Where no lock can be had at all, as in a folder that can't be written, the first number does.
         if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) continue;
         const Slot script{file("unsaved-script") + ".bak"}, profile{file("unsaved-profile") + ".bak"};
         const bool holdsWork = Found(script) || Found(profile);

@@ -26,6 +26,7 @@ SessionMenu::SessionMenu(QtHost& host, Options& options, Dialogs& dialogs, QWidg
     AddOption(*this, "mnuConnectAtStart", tr("Connect when the program &starts"), options_.Get(option::kConnectAtStart),
               [this](bool on) { options_.Set(option::kConnectAtStart, on); });
     AddItem(*this, "mnuBrake", tr("&Brake..."), {}, [this] { ChooseBrake(); });
+    // The items tell only what is chosen from now on.
     host_.StayConnected(options_.Get(option::kReconnect));
     host_.SetBrake(options_.Get(option::kBrake));
 }

@@ -12,5 +12,5 @@ void LoadTranslations(QApplication& application, const QString& language) {
         if (translator->load(locale, file, "_", place)) QApplication::installTranslator(translator);
     };
     load("qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    load("tvorel", ":/i18n");
+    load("tvorel", ":/i18n");  // last, and so the first to be asked
 }

@@ -78,7 +78,7 @@ QNetworkReply* UpdateCheck::Get(const QString& path) {
     QNetworkRequest request(url);
     // Only within the same server: an update comes from where it is expected, or not at all.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    request.setMaximumRedirectsAllowed(3);
+    request.setMaximumRedirectsAllowed(3);  // a server that leads in a circle is left soon
     // Compressed, a few bytes could unfold to any number.
     request.setRawHeader("Accept-Encoding", "identity");
     request.setTransferTimeout(static_cast<int>(limits_.silence.count()));

@@ -8,7 +8,7 @@
 #include "ui/ShownText.h"
 
 namespace {
-constexpr int kRefreshMs = 250;
+constexpr int kRefreshMs = 250;  // a script may change them a thousand times a second, and nobody reads as fast
 constexpr int kNameRole = Qt::UserRole;
 }  // namespace
 
@@ -29,7 +29,7 @@ VariableList::VariableList(UserVariables& variables, QWidget* parent) : QTreeWid
 void VariableList::Refresh() {
     // Not under the user's hands, and not for nothing.
     if (state() == QAbstractItemView::EditingState || (shown_ == variables_.Revision() && shown_ != 0)) return;
-    refreshing_ = true;
+    refreshing_ = true;  // Qt tells of items that change here as of those that the user changes
     const auto& rows = variables_.Rows();
     while (topLevelItemCount() > static_cast<int>(rows.size())) delete takeTopLevelItem(topLevelItemCount() - 1);
     int i = 0;
@@ -56,7 +56,7 @@ void VariableList::TakeOver(QTreeWidgetItem* item, int column) {
     } else if (!item->text(0).isEmpty()) {
         variables_.Rename(before, BracketedName(Typed(item->text(0))));
     }
-    shown_ = 0;
+    shown_ = 0;  // shows them anew even where nothing has changed, as after an empty name
 }
 
 void VariableList::AddRow() {

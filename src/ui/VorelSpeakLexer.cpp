@@ -42,6 +42,7 @@ void VorelSpeakLexer::FollowPalette(const QPalette& palette) {
 }
 
 VorelSpeakLexer::Style VorelSpeakLexer::StyleOfLine(const QByteArray& line) {
+    // Of its readings the one for conditions: it also takes a command behind which nothing is typed yet.
     const ScriptLine read(std::string_view(line.constData(), static_cast<std::size_t>(line.size())));
     if (read.endsScript || UpperCase(read.text) == UpperCase(kScriptHeader)) return Frame;
     if (read.asCondition.IsCommand(kCauseLine)) return Cause;

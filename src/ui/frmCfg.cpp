@@ -40,7 +40,7 @@ QGroupBox* NewFrame(const QString& caption, QGridLayout* page) {
 void ShowList(QComboBox* box, const std::vector<std::string>& entries) {
     box->clear();
     for (const std::string& entry : entries) box->addItem(Shown(entry));
-    box->setCurrentIndex(box->count() - 1);
+    box->setCurrentIndex(box->count() - 1);  // what has just been added stands there
 }
 
 }  // namespace
@@ -96,7 +96,7 @@ void frmCfg::BuildSetup() {
         auto* const row = new QHBoxLayout(NewFrame(caption, page));
         row->addWidget(edit, 1);
         row->addWidget(pick);
-        pick->setAutoDefault(false);
+        pick->setAutoDefault(false);  // as all buttons but OK: Enter in a field is no press of its neighbour
         connect(pick, &QPushButton::clicked, this, onPick);
     };
     txtClient_ = Named(new QLineEdit, "txtClient", tr("Furcadia client"), tr("Path of the game client's program"));

@@ -58,7 +58,7 @@ frmGS::frmGS(QtHost& host, Dialogs& dialogs)
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({660, 320});
     setCentralWidget(splitter);
-    statusBar();
+    statusBar();  // made now: with its first message it would take the text's last line away
     BuildMenus();
     connect(commands_, &CommandTree::CommandChosen, this, &frmGS::InsertCommand);
     NewScript();
@@ -73,10 +73,10 @@ void frmGS::BuildText() {
     txtScript_->setLexer(lexer_);
     txtScript_->setMarginType(0, QsciScintilla::NumberMargin);
     txtScript_->setMarginWidth(0, "00000");
-    txtScript_->setMarginWidth(1, 0);
+    txtScript_->setMarginWidth(1, 0);  // that of symbols, of which there are none
     txtScript_->setCaretLineVisible(true);
     txtScript_->setBraceMatching(QsciScintilla::SloppyBraceMatch);
-    txtScript_->setTabWidth(5);
+    txtScript_->setTabWidth(5);  // as far as an effect stands in
     txtScript_->setIndentationsUseTabs(false);
     FollowPalette();
     connect(txtScript_, &QsciScintilla::modificationChanged, this,
@@ -269,7 +269,7 @@ bool frmGS::WriteTo(const std::string& path) {
     }
     txtScript_->setModified(false);
     ShowTitle();
-    NameInProfile();
+    NameInProfile();  // first: the script may end the program
     host_.RunHandler([&] { RunText(text); });
     return true;
 }
@@ -287,6 +287,7 @@ void frmGS::LoadCommands(const std::string& path) {
 }
 
 void frmGS::InsertCommand(const QString& command) {
+    // By the editor's own messages: its places are bytes of UTF-8, not characters.
     const QByteArray text = Shown(CommandInsertion(Typed(command))).toUtf8();
     const long caret = txtScript_->SendScintilla(QsciScintilla::SCI_GETCURRENTPOS);
     txtScript_->SendScintilla(QsciScintilla::SCI_INSERTTEXT, static_cast<unsigned long>(caret), text.constData());

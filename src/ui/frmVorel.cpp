@@ -259,6 +259,7 @@ void frmVorel::MoveTo(const Settings& settings) {
 void frmVorel::ShowRecentProfiles() {
     mnuRecent_->clear();
     for (const QString& path : options_.Get(option::kRecentProfiles)) {
+        // One alone would mark a key.
         mnuRecent_->addAction(QString(path).replace("&", "&&"), this,
                               [this, path] { documents_.Open(TypedPath(path)); });
     }
@@ -269,7 +270,7 @@ void frmVorel::ShowRecentProfiles() {
 void frmVorel::SaveAllSettings() {
     Settings settings;
     settings.recent = documents_.RememberProfile();
-    if (!isMinimized()) {
+    if (!isMinimized()) {  // otherwise it has no place, and 0 and 0 are written
         settings.top = y();
         settings.left = x();
     }
@@ -284,6 +285,8 @@ void frmVorel::SaveAllSettings() {
 }
 
 void frmVorel::closeEvent(QCloseEvent* event) {
+    // Before the questions, of which one may be answered by staying: the settings are kept then, too. A profile that is
+    // given its name only by an answer is not the recent one for it.
     SaveAllSettings();
     const bool inOrder = !documents_.HasFaulted();
     // From the tray: questions are asked in a window that can be seen.
