@@ -33,7 +33,7 @@ BENCHMARK(OpenMainWindow)->Unit(benchmark::kMillisecond);
 double ResidentMegabytes() {
     QFile status("/proc/self/statm");
     if (!status.open(QIODevice::ReadOnly)) return 0;
-    return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;
+    return status.readAll().split(' ').at(1).toDouble() * 4096 / 1e6;  // told in pages
 }
 
 /// A second of 20,000 lines, arriving in bursts as packets do, with a click after every burst: how long the slowest

@@ -59,7 +59,7 @@ Plan& ThePlan() {
 }
 
 Opened& KindOf(int file) {
-    static Opened elsewhere;
+    static Opened elsewhere;  // for descriptors beyond the table: set back, since callers write to it
     elsewhere = Opened::Elsewhere;
     auto& opened = ThePlan().opened;
     return file >= 0 && static_cast<std::size_t>(file) < opened.size() ? opened[static_cast<std::size_t>(file)]
@@ -80,6 +80,7 @@ Opened KindOfPath(int folder, const char* path) {
 void List(const char* name) {
     const std::string& path = ThePlan().list;
     if (path.empty()) return;
+    // Past the functions below, which would count what is done here.
     const std::string line = std::string(name) + "\n";
     const long file = syscall(SYS_openat, AT_FDCWD, path.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
     syscall(SYS_write, file, line.data(), line.size());

@@ -35,6 +35,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
             for (const SessionStep& step : session.steps) bot.rehearsal.Play(step);
         });
     }
+    // The 49 there are, and some that there aren't.
     for (GameEvent event = 0; event < 52; ++event) Try([&] { RunScript(bot.bot, event); });
     return 0;
 }
