@@ -2,8 +2,10 @@
 
 #include <QRandomGenerator>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
+#include "bot/Files.h"
 #include "cli/Report.h"
 #include "cli/Verbs.h"
 
@@ -13,12 +15,19 @@ namespace {
 /// to fill the folder, and the first recordings show what is wrong.
 constexpr int kMostRecordings = 10;
 
+std::string InSeconds(int milliseconds) {
+    constexpr int kSecondMs = 1000;
+    const int seconds = std::max((milliseconds + kSecondMs / 2) / kSecondMs, 1);
+    return "in " + std::to_string(seconds) + (seconds == 1 ? " second" : " seconds");
+}
+
 }  // namespace
 
 BotKeeper::BotKeeper(const RunOptions& options, std::string profile, ConsoleOutput& output,
                      std::function<void()> onIdle)
     : options_(options),
       profile_(std::move(profile)),
+      label_(FileNameOf(profile_)),
       output_(output),
       onIdle_(std::move(onIdle)),
       restart_([] { return QRandomGenerator::global()->generateDouble(); }, [this] { BeginAgain(); }, nullptr) {}
@@ -27,7 +36,7 @@ int BotKeeper::Begin() {
     const TerminalBot::Owner owner{onIdle_, [this](const std::string& why) { OnFault(why); }};
     faulted_ = false;
     lived_.start();
-    bot_ = std::make_unique<TerminalBot>(profile_, options_.folder, output_, owner);
+    bot_ = std::make_unique<TerminalBot>(profile_, label_, options_.folder, output_, owner);
     QtHost& host = bot_->host();
     host.session().SetServer(options_.server, options_.port);
     host.StayConnected(options_.stay);
@@ -52,8 +61,10 @@ void BotKeeper::Connect() {
 }
 
 void BotKeeper::TypeLine(const std::string& line) {
-    if (bot_) return bot_->TypeLine(line);
-    TellOfRun(label_ + " is down; nobody has heard what you typed for it");
+    if (bot_ && !faulted_) return bot_->TypeLine(line);
+    const int pause = restart_.PauseLeftMs();
+    const std::string when = pause > 0 ? " and begins again " + InSeconds(pause) : "";
+    TellOfRun(Label() + " is down by a fault" + when + "; nobody has heard what you typed for it");
 }
 
 void BotKeeper::Leave() {
@@ -71,12 +82,16 @@ bool BotKeeper::IsIdle() const {
 /// The bot is in the middle of the handler that has failed, so it goes later.
 void BotKeeper::OnFault(const std::string& why) {
     faulted_ = true;
-    TellOfRun(why);
-    output_.Log(why);
+    Tell(why);
     QTimer::singleShot(0, &restart_, [this] {
         PutDown();
         IsIdle() ? onIdle_() : BeginAgainLater();
     });
+}
+
+void BotKeeper::Tell(const std::string& what) {
+    TellOfRun(what);
+    output_.Log(what);
 }
 
 void BotKeeper::PutDown() {
@@ -85,12 +100,8 @@ void BotKeeper::PutDown() {
 }
 
 void BotKeeper::BeginAgainLater() {
-    constexpr int kSecondMs = 1000;
     restart_.SessionEnded(std::chrono::milliseconds(lived_.elapsed()));
-    const int seconds = (restart_.Schedule(Reconnector::First::AfterAPause) + kSecondMs / 2) / kSecondMs;
-    const std::string when = std::to_string(seconds) + (seconds == 1 ? " second" : " seconds");
-    TellOfRun(profile_ + ": beginning again in " + when);
-    output_.Log(profile_ + ": beginning again in " + when);
+    Tell(profile_ + ": beginning again " + InSeconds(restart_.Schedule(Reconnector::First::AfterAPause)));
 }
 
 void BotKeeper::BeginAgain() {

@@ -23,7 +23,7 @@ class BotKeeper {
 
     void Connect();
 
-    /// While the bot is down it is told that nobody hears the line.
+    /// A line for a bot that is down goes nowhere, which is told.
     void TypeLine(const std::string& line);
 
     /// Disconnects for good, and begins no more.
@@ -39,7 +39,8 @@ class BotKeeper {
     /// Of the session it has; of none while there is no bot.
     SessionStatus status() const { return bot_ ? bot_->status() : SessionStatus(); }
 
-    /// See TerminalBot::Label; while the bot is down, what it was last.
+    /// See TerminalBot::Label. It outlasts the bot: what is typed for one that is down, or has begun again and not yet
+    /// logged in, must not go to another.
     std::string Label() const { return bot_ ? bot_->Label() : label_; }
 
   private:
@@ -55,6 +56,7 @@ class BotKeeper {
 
     int Record();
     void OnFault(const std::string& why);
+    void Tell(const std::string& what);
     void PutDown();
     void BeginAgainLater();
     void BeginAgain();

@@ -14,8 +14,13 @@ constexpr char kSplitLineAdvice[] =
     " The network may have split it: --keep-split-lines puts such lines together again.";
 }
 
-TerminalBot::TerminalBot(std::string profilePath, const std::string& folder, ConsoleOutput& output, Owner owner)
-    : profilePath_(std::move(profilePath)), output_(output), owner_(std::move(owner)), host_(*this, folder) {}
+TerminalBot::TerminalBot(std::string profilePath, std::string label, const std::string& folder, ConsoleOutput& output,
+                         Owner owner)
+    : profilePath_(std::move(profilePath)),
+      label_(std::move(label)),
+      output_(output),
+      owner_(std::move(owner)),
+      host_(*this, folder) {}
 
 TerminalBot::~TerminalBot() { host_.session().SetObserver(nullptr); }
 
@@ -46,7 +51,7 @@ void TerminalBot::Record(const std::string& lines) {
 
 std::string TerminalBot::Label() const {
     const std::string& name = status().botName;
-    return name.empty() ? FileNameOf(profilePath_) : ToUtf8(name);
+    return name.empty() ? label_ : ToUtf8(name);
 }
 
 void TerminalBot::Connect() { host_.ConnectNow(); }

@@ -19,8 +19,10 @@ class TerminalBot final : public FrontEnd {
         std::function<void(const std::string& why)> onFault;  ///< a fault has ended it; UTF-8
     };
 
-    /// @param folder   where its data files live, UTF-8
-    TerminalBot(std::string profilePath, const std::string& folder, ConsoleOutput& output, Owner owner);
+    /// @param label   what it is called until it logs in, UTF-8
+    /// @param folder  where its data files live, UTF-8
+    TerminalBot(std::string profilePath, std::string label, const std::string& folder, ConsoleOutput& output,
+                Owner owner);
     ~TerminalBot() override;
 
     /// Loads the profile, with its script.
@@ -35,7 +37,7 @@ class TerminalBot final : public FrontEnd {
     /// Prefixes its lines with its name, for when several bots share the output.
     void ShowLabel() { hasLabel_ = true; }
 
-    /// The name it logs in with, or before that its profile's; UTF-8.
+    /// The name it logs in with, or before that what its owner calls it; UTF-8.
     std::string Label() const;
 
     void Connect();
@@ -60,7 +62,7 @@ class TerminalBot final : public FrontEnd {
     void EndWithFault(const RuntimeFault& fault) override;
 
   private:
-    std::string profilePath_;
+    std::string profilePath_, label_;
     ConsoleOutput& output_;
     Owner owner_;
     bool hasLabel_ = false, keepsSplitLines_ = false;

@@ -19,6 +19,9 @@ class Reconnector final : public QObject {
     /// @return its length in milliseconds; 0 when it is the caller's to try at once
     int Schedule(First first);
 
+    /// What is left of the pause; not above 0 when there is none.
+    int PauseLeftMs() const { return timer_.remainingTime(); }
+
     /// A session is over that has stood for so long. After a steady one the next pauses are short again.
     void SessionEnded(std::chrono::milliseconds stood);
 
