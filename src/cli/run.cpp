@@ -32,8 +32,8 @@ namespace {
 /// How long after the last step of a tour the bots still have for their answers.
 constexpr int kLastAnswersMs = 2000;
 
-/// What a run has open: for itself, for each bot (two connections in client mode, and what watches the end of each),
-/// and for each guest of the practice dream.
+/// What a run has open: for itself, for each bot (a connection, and what watches its end; both twice in client mode,
+/// which its script can begin at any time), and for each guest of the practice dream.
 constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 4, kFilesOfAGuest = 1;
 
 /// Why so many bots can't run in one process; empty when they can.
