@@ -77,6 +77,12 @@ TEST_F(RunTest, StaysUntilItIsToldToGo) {
         server.Say(QByteArray("]-#B65\n") + line, number);
         EXPECT_EQ(sent->Ends(), 0) << line;
     }
+    const auto down = Run({"bot.tvm", "--stay", "--log", "log.txt"});
+    server.Say("]f\n", number);
+    EXPECT_TRUE(Eventually([&] { return down->err.contains("bot.tvm: beginning again in 1 second\n"); }));
+    down->Signal(SIGTERM);
+    EXPECT_EQ(down->Ends(), 0);
+    EXPECT_TRUE(files.Read("log.txt").contains("bot.tvm: beginning again in 1 second\n"));
 }
 
 TEST_F(RunTest, LogsWithTimesAndWithoutThePassword) {
