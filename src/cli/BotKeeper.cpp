@@ -11,8 +11,8 @@
 
 namespace {
 
-/// How many times a bot that begins again is recorded anew, each time to another file: one that faults for ever is not
-/// to fill the folder, and the first recordings show what is wrong.
+/// How many recordings a run makes, each in a file of its own: a bot that faults for ever is not to fill the folder,
+/// and the first ones show what is wrong.
 constexpr int kMostRecordings = 10;
 
 std::string InSeconds(int milliseconds) {
@@ -49,10 +49,12 @@ int BotKeeper::Begin() {
 }
 
 int BotKeeper::Record() {
-    if (++recordings_ > kMostRecordings) return 0;
+    if (recordings_ == kMostRecordings) return 0;
     const std::optional<std::string> path = bot_->RecordTo(options_.record);
     if (!path) return RefuseRun(kCantCreateExit, "the recording " + options_.record + " can't be written");
     if (*path != options_.record) TellOfRun(options_.record + " holds something; recording to " + *path);
+    if (++recordings_ == kMostRecordings)
+        Tell(*path + " is the last of the " + std::to_string(recordings_) + " recordings that a run makes");
     return 0;
 }
 
