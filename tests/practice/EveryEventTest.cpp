@@ -65,7 +65,7 @@ TEST(ExampleTour, RaisesEveryEventInAConnectedBotAndTellsWhatHappened) {
     EXPECT_TRUE(player.IsOver());
     const std::string told = Join(witness.console, "\n") + "\n";
     EXPECT_EQ(told, ReadSource("tests/practice/witness.out"));
-    for (int code = EventSpeech; code <= EventDreamListT; ++code) {
+    for (int code = EventSpeech; code <= kLastEvent; ++code) {
         const bool isOfTheProgram = code == EventTimerTick || code == EventClientCommand;
         EXPECT_EQ(told.find("event " + std::to_string(code) + ",") == told.npos, isOfTheProgram) << code;
     }
