@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "bot/Files.h"
+#include "game/Compare.h"
 #include "text/Text.h"
 
 std::vector<std::string> Profile::PlacesOf(std::string_view pathText) const {
@@ -12,9 +13,6 @@ std::vector<std::string> Profile::PlacesOf(std::string_view pathText) const {
 }
 
 bool IsIgnored(const Profile& profile, std::string_view name) {
-    if (profile.ignores.empty()) return false;
-    const auto folded = [](std::string_view text) { return LowerCase(BarsToBlanks(text)); };
-    const std::string wanted = folded(name);
     return std::any_of(profile.ignores.begin(), profile.ignores.end(),
-                       [&](const std::string& entry) { return folded(entry) == wanted; });
+                       [name](const std::string& entry) { return LooseEquals(entry, name); });
 }

@@ -6,7 +6,11 @@ namespace {
 
 unsigned char First(std::string_view name) { return static_cast<unsigned char>(name.front()); }
 unsigned char Last(std::string_view name) { return static_cast<unsigned char>(name.back()); }
-std::size_t Unbracketed(std::string_view name) { return name.find('[') == name.npos ? 1 : 0; }
+
+bool IsSimple(std::string_view name) {
+    return name.size() >= 2 && name.front() == '[' && name.find_first_of("[]", 1) == name.size() - 1 &&
+           name.back() == ']';
+}
 
 }  // namespace
 
@@ -58,7 +62,7 @@ void UserVariables::Clear() {
 
 void UserVariables::AddName(std::string_view name, Rank rank) {
     ranks_.emplace(name, rank);
-    unbracketed_ += Unbracketed(name);
+    if (!IsSimple(name)) ++odd_;
     if (name.empty()) return;  // stands nowhere
     ++lengthsOfNames_[name.size()];
     ++startsOfNames_[First(name)];
@@ -66,7 +70,7 @@ void UserVariables::AddName(std::string_view name, Rank rank) {
 }
 
 void UserVariables::RemoveName(std::string_view name) {
-    unbracketed_ -= Unbracketed(name);
+    if (!IsSimple(name)) --odd_;
     if (!name.empty()) {
         const auto length = lengthsOfNames_.find(name.size());
         if (--length->second == 0) lengthsOfNames_.erase(length);

@@ -1,10 +1,29 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "text/CaseTable.h"
+
+inline constexpr CaseTable kFolded = [] {
+    CaseTable table = kUpperCase;
+    table['|'] = ' ';
+    return table;
+}();
+
+/// The character as all loose comparisons see it: "|" as a blank, a letter as its capital.
+constexpr char Folded(char c) { return InCase(c, kFolded); }
+
+/// A number that is the same for texts which are loosely equal.
+std::size_t LooseHash(std::string_view text);
+
 /// Equal with "|" read as a blank and letter case ignored.
 bool LooseEquals(std::string_view a, std::string_view b);
+
+/// Does the text hold the part, letter case ignored? Unlike where texts are compared whole, "|" is no blank here: a
+/// part may well be sought for its bar.
+bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 
 /// Matches the pattern, with "|" read as a blank and letter case ignored on both sides. See Like.
 bool LooseLike(std::string_view text, std::string_view pattern);

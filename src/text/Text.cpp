@@ -3,41 +3,16 @@
 #include <algorithm>
 #include <array>
 
+#include "text/CaseTable.h"
+
 namespace {
 
-constexpr unsigned char kSharpS = 0xDF;
-constexpr unsigned char kMultiplication = 0xD7;
-constexpr unsigned char kDivision = 0xF7;
-
-/// The letter pairs of the code page that stand outside the two regular blocks (Latin letters at 0x40 and 0xC0).
-struct Pair {
-    unsigned char upper, lower;
-};
-constexpr Pair kOddPairs[] = {{0x8A, 0x9A}, {0x8C, 0x9C}, {0x8E, 0x9E}, {0x9F, 0xFF}};
-
-using CaseTable = std::array<char, 256>;
-
-constexpr CaseTable MakeCaseTable(bool toUpper) {
-    CaseTable table{};
-    for (unsigned code = 0; code < 256; ++code) table[code] = static_cast<char>(code);
-    const auto pair = [&](unsigned upper, unsigned lower) {
-        table[toUpper ? lower : upper] = static_cast<char>(toUpper ? upper : lower);
-    };
-    for (unsigned upper = 'A'; upper <= 'Z'; ++upper) pair(upper, upper + 32);
-    for (unsigned upper = 0xC0; upper < kSharpS; ++upper) {
-        if (upper != kMultiplication) pair(upper, upper + 32);
-    }
-    for (const Pair odd : kOddPairs) pair(odd.upper, odd.lower);
-    return table;
-}
-
-constexpr CaseTable kUpper = MakeCaseTable(true);
-constexpr CaseTable kLower = MakeCaseTable(false);
-static_assert(kUpper[kDivision] == static_cast<char>(kDivision));
+constexpr char kDivision = '\xF7';  // stands where the small letter of the multiplication sign would
+static_assert(InCase(kDivision, kUpperCase) == kDivision);
 
 std::string Mapped(std::string_view text, const CaseTable& table) {
     std::string mapped(text);
-    for (char& c : mapped) c = table[static_cast<unsigned char>(c)];
+    for (char& c : mapped) c = InCase(c, table);
     return mapped;
 }
 
@@ -101,8 +76,8 @@ char32_t NextUtf8(std::string_view utf8, std::size_t& position) {
 
 }  // namespace
 
-std::string UpperCase(std::string_view text) { return Mapped(text, kUpper); }
-std::string LowerCase(std::string_view text) { return Mapped(text, kLower); }
+std::string UpperCase(std::string_view text) { return Mapped(text, kUpperCase); }
+std::string LowerCase(std::string_view text) { return Mapped(text, kLowerCase); }
 
 std::string_view Trim(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
