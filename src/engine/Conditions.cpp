@@ -11,6 +11,7 @@
 #include "engine/Arguments.h"
 #include "engine/CommandNumbers.h"
 #include "engine/DataFile.h"
+#include "engine/Fields.h"
 #include "game/Compare.h"
 #include "game/Lists.h"
 #include "text/Numbers.h"
@@ -26,107 +27,24 @@ struct Condition {
     bool wanted;
     Form form;
     Predicate holds;
+    bool mayFault = false;
 };
-
-// Unlike where texts are compared whole, "|" is no blank here: a part may well be sought for its bar.
-bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
-    return UpperCase(text).find(UpperCase(part)) != std::string::npos;
-}
-
-// --- the furre of the event ------------------------------------------------------------------------------------
-
-bool IsSpeechEvent(const EventFacts& event) { return event.comparable && event.furre == &BotState::player; }
-
-const Appearance* DescribedLooks(const Bot& bot) {
-    const EventFacts& event = FactsOf(bot.currentEvent);
-    return event.comparable && event.furre ? &(bot.state.*event.furre).looks : nullptr;
-}
-
-const std::string* EventFurreName(const Bot& bot) {
-    const EventFacts& event = FactsOf(bot.currentEvent);
-    return event.comparable ? event.FurreNameIn(bot.state) : nullptr;
-}
-
-std::optional<bool> FurreNameEquals(const Bot& bot, const Arguments& arguments) {
-    const std::string* const name = EventFurreName(bot);
-    return name ? std::optional(LooseEquals(*name, arguments[0])) : std::nullopt;
-}
-
-template <std::string Appearance::*Field, char Code>
-std::optional<bool> LooksAre(const Bot& bot, const Arguments&) {
-    const Appearance* const looks = DescribedLooks(bot);
-    return looks ? std::optional(LooseEquals(looks->*Field, std::string(1, Code))) : std::nullopt;
-}
-template <char Code>
-constexpr Predicate SpeciesIs = LooksAre<&Appearance::species, Code>;
-template <char Code>
-constexpr Predicate MarkingsAre = LooksAre<&Appearance::markings, Code>;
-template <char Code>
-constexpr Predicate GenderIs = LooksAre<&Appearance::gender, Code>;
-
-std::optional<bool> ColorsEqual(const Bot& bot, const Arguments& arguments) {
-    const Appearance* const looks = DescribedLooks(bot);
-    return looks ? std::optional(LooseEquals(looks->colors, arguments[0])) : std::nullopt;
-}
-
-std::optional<bool> ColorsOrMoverColorsEqual(const Bot& bot, const Arguments& arguments) {
-    if (bot.currentEvent == EventFurreMoved) return LooseEquals(bot.state.move.colors, arguments[0]);
-    return ColorsEqual(bot, arguments);
-}
-
-// --- badges ----------------------------------------------------------------------------------------------------
-
-/// The badge belongs to the furre that speaks, or to the one looked at, which of two events ever tells.
-const std::string* Badge(const Bot& bot, GameEvent lookEvent) {
-    if (IsSpeechEvent(FactsOf(bot.currentEvent))) return &bot.state.playerTag;
-    return bot.currentEvent == lookEvent ? &bot.state.look.badge : nullptr;
-}
-
-std::optional<bool> HasBadge(const Bot& bot, const Arguments&) {
-    const std::string* const badge = Badge(bot, EventLookResult);
-    return badge ? std::optional(!badge->empty()) : std::nullopt;
-}
-
-// "I" passes as well, though it is a badge of another group: of the conditions on badges this one alone is loose.
-std::optional<bool> BadgeIsLetterI(const Bot& bot, const Arguments&) {
-    const std::string* const badge = Badge(bot, EventLookResult);
-    return badge ? std::optional(LooseEquals(*badge, "i")) : std::nullopt;
-}
-
-/// Badge codes, as an argument of a template.
-struct Codes {
-    char text[11] = {};  // the largest groups have ten codes
-
-    template <std::size_t Size>
-    constexpr Codes(const char (&codes)[Size]) {  // NOLINT(google-explicit-constructor): stands for its text
-        std::copy_n(codes, Size, text);
-    }
-};
-
-// Kept on purpose: for a look these wait for the description, where the conditions above wait for the look's result.
-template <Codes Group>
-std::optional<bool> BadgeIsIn(const Bot& bot, const Arguments&) {
-    const std::string* const badge = Badge(bot, EventLookDescription);
-    if (!badge) return std::nullopt;
-    return badge->size() == 1 && std::string_view(Group.text).find((*badge)[0]) != std::string_view::npos;
-}
 
 // --- texts -----------------------------------------------------------------------------------------------------
 
-const std::string& MessageOf(const Bot& bot) { return bot.state.message; }
-const std::string& LookDescOf(const Bot& bot) { return bot.state.look.desc; }
-const std::string& MapOf(const Bot& bot) { return bot.state.map; }
-const std::string& PreviousMapOf(const Bot& bot) { return bot.state.previousMap; }
-const std::string& VisitorsOf(const Bot& bot) { return bot.state.visitors; }
-const std::string& DreamNameOf(const Bot& bot) { return bot.state.dreamName; }
-
-using TextOf = const std::string& (*)(const Bot&);
 using TextTest = bool (*)(std::string_view text, std::string_view argument);
 
-template <TextOf Field, TextTest Test>
+template <field::TextField Field, TextTest Test>
 std::optional<bool> Text(const Bot& bot, const Arguments& arguments) {
-    return Test(Field(bot), arguments[0]);
+    const std::string* const text = Field(bot);
+    return text ? std::optional(Test(*text, arguments[0])) : std::nullopt;
 }
+template <TextTest Test>
+constexpr Predicate Message = Text<field::Text<&BotState::message>, Test>;
+template <TextTest Test>
+constexpr Predicate LookDesc = Text<field::LookDesc, Test>;
+template <std::string KnownThisSession::*Part>
+constexpr Predicate IsCalled = Text<field::Text<Part>, LooseEquals>;
 
 template <SplitList Profile::*List>
 std::optional<bool> IsIn(const Bot& bot, const Arguments& arguments) {
@@ -143,59 +61,75 @@ bool SameText(std::string_view a, std::string_view b) { return a == b; }
 // Kept on purpose: both arguments still end with "}", so a text is found only at the very end of the other.
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
+// --- looks and badges ------------------------------------------------------------------------------------------
+
+template <char Code>
+constexpr char kCode = Code;
+
+template <field::TextField Field, char Code>
+std::optional<bool> CodeIs(const Bot& bot, const Arguments&) {
+    const std::string* const text = Field(bot);
+    return text ? std::optional(LooseEquals(*text, std::string_view(&kCode<Code>, 1))) : std::nullopt;
+}
+template <char Code>
+constexpr Predicate SpeciesIs = CodeIs<field::Looks<&Appearance::species>, Code>;
+template <char Code>
+constexpr Predicate MarkingsAre = CodeIs<field::Looks<&Appearance::markings>, Code>;
+template <char Code>
+constexpr Predicate GenderIs = CodeIs<field::Looks<&Appearance::gender>, Code>;
+
+std::optional<bool> HasBadge(const Bot& bot, const Arguments&) {
+    const std::string* const badge = field::Badge<EventLookResult>(bot);
+    return badge ? std::optional(!badge->empty()) : std::nullopt;
+}
+
+// "I" passes as well, though it is a badge of another group: of the conditions on badges this one alone is loose.
+constexpr Predicate BadgeIsLetterI = CodeIs<field::Badge<EventLookResult>, 'i'>;
+
+/// Badge codes, as an argument of a template.
+struct Codes {
+    char text[11] = {};  // the largest groups have ten codes
+
+    template <std::size_t Size>
+    constexpr Codes(const char (&codes)[Size]) {  // NOLINT(google-explicit-constructor): stands for its text
+        std::copy_n(codes, Size, text);
+    }
+};
+
+// Kept on purpose: for a look these wait for the description, where the conditions above wait for the look's result.
+template <Codes Group>
+std::optional<bool> BadgeIsIn(const Bot& bot, const Arguments&) {
+    const std::string* const badge = field::Badge<EventLookDescription>(bot);
+    if (!badge) return std::nullopt;
+    return badge->size() == 1 && std::string_view(Group.text).find((*badge)[0]) != std::string_view::npos;
+}
+
 // --- numbers and squares ---------------------------------------------------------------------------------------
 
-std::int16_t HourOf(const Bot& bot) { return bot.state.fst.hour; }
-std::int16_t MinuteOf(const Bot& bot) { return bot.state.fst.minute; }
-std::int16_t SecondOf(const Bot& bot) { return bot.state.fst.second; }
-std::int16_t DiceAmountOf(const Bot& bot) { return bot.state.dice.amount; }
-std::int16_t DiceSidesOf(const Bot& bot) { return bot.state.dice.sides; }
-std::int16_t DiceTotalOf(const Bot& bot) { return bot.state.dice.total; }
-
-template <std::int16_t (*Field)(const Bot&), typename Comparison = std::equal_to<>>
+template <field::NumberField Field, typename Comparison = std::equal_to<>>
 std::optional<bool> Number(const Bot& bot, const Arguments& arguments) {
-    return Comparison{}(double{static_cast<double>(Field(bot))}, LeadingNumber(arguments[0]));
+    const std::optional<std::int16_t> number = Field(bot);
+    return number ? std::optional(Comparison{}(double{static_cast<double>(*number)}, LeadingNumber(arguments[0])))
+                  : std::nullopt;
 }
+template <typename Comparison>
+constexpr Predicate DiceTotal = Number<field::Roll<&Dice::total>, Comparison>;
 
 template <typename Comparison>
 std::optional<bool> Numbers(const Bot&, const Arguments& arguments) {
     return Comparison{}(LeadingNumber(arguments[0]), LeadingNumber(arguments[1]));
 }
 
-bool IsAt(Square square, const Arguments& arguments) {
-    return LeadingNumber(arguments[0]) == square.x && LeadingNumber(arguments[1]) == square.y;
-}
-
-Square MoveFromOf(const Bot& bot) { return bot.state.moveFrom; }
-Square MoveIntoOf(const Bot& bot) { return bot.state.moveInto; }
-Square DreamOf(const Bot& bot) { return bot.state.dream; }
-
-/// Where the furre stands after its move; both squares are the same when it only turned. So it is the square moved into
-/// every time, and (1:90) asks in other words what (1:88) asks.
-Square MoveEndOf(const Bot& bot) {
-    return bot.state.moveFrom == bot.state.moveInto ? bot.state.moveFrom : bot.state.moveInto;
-}
-
-template <Square (*Field)(const Bot&)>
+template <field::SquareField Field>
 std::optional<bool> SquareIs(const Bot& bot, const Arguments& arguments) {
-    return IsAt(Field(bot), arguments);
+    const std::optional<Square> square = Field(bot);
+    if (!square) return std::nullopt;
+    return LeadingNumber(arguments[0]) == square->x && LeadingNumber(arguments[1]) == square->y;
 }
-
-const DragonSpeakNotice* NoticeOf(const Bot& bot) {
-    if (bot.currentEvent == EventDsBotTrigger) return &bot.state.dsbot;
-    return bot.currentEvent == EventDsTrigger ? &bot.state.ds : nullptr;
-}
-
-template <Square DragonSpeakNotice::*Field>
-std::optional<bool> NoticeSquareIs(const Bot& bot, const Arguments& arguments) {
-    const DragonSpeakNotice* const notice = NoticeOf(bot);
-    return notice ? std::optional(IsAt(notice->*Field, arguments)) : std::nullopt;
-}
-
-std::optional<bool> NoticeTriggerIs(const Bot& bot, const Arguments& arguments) {
-    const DragonSpeakNotice* const notice = NoticeOf(bot);
-    return notice ? std::optional(LeadingNumber(arguments[0]) == notice->trigger) : std::nullopt;
-}
+template <Square KnownAcrossLogins::*Part>
+constexpr Predicate PlaceIs = SquareIs<field::Place<Part>>;
+template <Square DragonSpeakNotice::*Part>
+constexpr Predicate NoticeSquareIs = SquareIs<field::NoticeSquare<Part>>;
 
 /// The first argument selects the die, counted from 1 like [die1]; the second is what it is compared with.
 template <typename Comparison>
@@ -222,22 +156,24 @@ std::optional<bool> FileHoldsEntry(const Bot& bot, const Arguments& arguments) {
     return bytes && DataFileHolds(*bytes, arguments[1], arguments[0]);
 }
 
+constexpr bool kMayFault = true;
+
 // clang-format off
 constexpr Condition kConditions[] = {
-    {0,   true,  Form::WholeText,         FurreNameEquals},
-    {1,   false, Form::WholeText,         FurreNameEquals},
-    {2,   true,  Form::WholeText,         Text<MessageOf, LooseEquals>},
-    {3,   false, Form::WholeText,         Text<MessageOf, LooseEquals>},
-    {4,   true,  Form::WholeText,         Text<MessageOf, LooseLike>},
-    {5,   false, Form::WholeText,         Text<MessageOf, LooseLike>},
-    {6,   true,  Form::WholeText,         Text<MessageOf, ContainsIgnoringCase>},
-    {7,   false, Form::WholeText,         Text<MessageOf, ContainsIgnoringCase>},
-    {8,   true,  Form::WholeText,         Text<LookDescOf, LooseEquals>},
-    {9,   false, Form::WholeText,         Text<LookDescOf, LooseEquals>},
-    {10,  true,  Form::WholeText,         Text<LookDescOf, LooseLike>},
-    {11,  false, Form::WholeText,         Text<LookDescOf, LooseLike>},
-    {12,  true,  Form::WholeText,         Text<LookDescOf, ContainsIgnoringCase>},
-    {13,  false, Form::WholeText,         Text<LookDescOf, ContainsIgnoringCase>},
+    {0,   true,  Form::WholeText,         Text<field::FurreName, LooseEquals>},
+    {1,   false, Form::WholeText,         Text<field::FurreName, LooseEquals>},
+    {2,   true,  Form::WholeText,         Message<LooseEquals>},
+    {3,   false, Form::WholeText,         Message<LooseEquals>},
+    {4,   true,  Form::WholeText,         Message<LooseLike>},
+    {5,   false, Form::WholeText,         Message<LooseLike>},
+    {6,   true,  Form::WholeText,         Message<ContainsIgnoringCase>},
+    {7,   false, Form::WholeText,         Message<ContainsIgnoringCase>},
+    {8,   true,  Form::WholeText,         LookDesc<LooseEquals>},
+    {9,   false, Form::WholeText,         LookDesc<LooseEquals>},
+    {10,  true,  Form::WholeText,         LookDesc<LooseLike>},
+    {11,  false, Form::WholeText,         LookDesc<LooseLike>},
+    {12,  true,  Form::WholeText,         LookDesc<ContainsIgnoringCase>},
+    {13,  false, Form::WholeText,         LookDesc<ContainsIgnoringCase>},
     {14,  true,  Form::NoArguments,       SpeciesIs<'#'>},
     {15,  false, Form::NoArguments,       SpeciesIs<'#'>},
     {16,  true,  Form::NoArguments,       MarkingsAre<'5'>},
@@ -295,50 +231,50 @@ constexpr Condition kConditions[] = {
     {67,  false, Form::NoArguments,       BadgeIsIn<"SG_CKgWOc[">},
     {68,  true,  Form::NoArguments,       BadgeIsIn<"TH`DLhXPd\\">},
     {69,  false, Form::NoArguments,       BadgeIsIn<"TH`DLhXPd\\">},
-    {70,  true,  Form::WholeText,         Text<MapOf, LooseEquals>},
-    {71,  false, Form::WholeText,         Text<MapOf, LooseEquals>},
-    {72,  true,  Form::WholeText,         Text<PreviousMapOf, LooseEquals>},
-    {73,  false, Form::WholeText,         Text<PreviousMapOf, LooseEquals>},
-    {74,  true,  Form::WholeText,         Text<VisitorsOf, InList>},
-    {75,  false, Form::WholeText,         Text<VisitorsOf, InList>},
-    {76,  true,  Form::FirstKept,         Number<HourOf>},
-    {77,  false, Form::FirstKept,         Number<HourOf>},
-    {78,  true,  Form::FirstKept,         Number<MinuteOf>},
-    {79,  false, Form::FirstKept,         Number<MinuteOf>},
-    {80,  true,  Form::FirstKept,         Number<SecondOf>},
-    {81,  false, Form::FirstKept,         Number<SecondOf>},
+    {70,  true,  Form::WholeText,         IsCalled<&BotState::map>},
+    {71,  false, Form::WholeText,         IsCalled<&BotState::map>},
+    {72,  true,  Form::WholeText,         IsCalled<&BotState::previousMap>},
+    {73,  false, Form::WholeText,         IsCalled<&BotState::previousMap>},
+    {74,  true,  Form::WholeText,         Text<field::Text<&BotState::visitors>, InList>},
+    {75,  false, Form::WholeText,         Text<field::Text<&BotState::visitors>, InList>},
+    {76,  true,  Form::FirstKept,         Number<field::Time<&StandardTime::hour>>},
+    {77,  false, Form::FirstKept,         Number<field::Time<&StandardTime::hour>>},
+    {78,  true,  Form::FirstKept,         Number<field::Time<&StandardTime::minute>>},
+    {79,  false, Form::FirstKept,         Number<field::Time<&StandardTime::minute>>},
+    {80,  true,  Form::FirstKept,         Number<field::Time<&StandardTime::second>>},
+    {81,  false, Form::FirstKept,         Number<field::Time<&StandardTime::second>>},
     // Not a pair: until the game has told its time, neither of these holds.
     {82,  true,  Form::NoArguments,       IsMorning},
     {83,  true,  Form::NoArguments,       IsAfternoon},
     // Kept on purpose: only the positive one of these two knows the furre that moved.
-    {84,  true,  Form::WholeText,         ColorsOrMoverColorsEqual},
-    {85,  false, Form::WholeText,         ColorsEqual},
-    {86,  true,  Form::FirstAndLastKept,  SquareIs<MoveFromOf>},
-    {87,  false, Form::FirstAndLastKept,  SquareIs<MoveFromOf>},
-    {88,  true,  Form::FirstAndLastKept,  SquareIs<MoveIntoOf>},
-    {89,  false, Form::FirstAndLastKept,  SquareIs<MoveIntoOf>},
-    {90,  true,  Form::FirstAndLastKept,  SquareIs<MoveEndOf>},
-    {91,  false, Form::FirstAndLastKept,  SquareIs<MoveEndOf>},
+    {84,  true,  Form::WholeText,         Text<field::ColorsOrMoverColors, LooseEquals>},
+    {85,  false, Form::WholeText,         Text<field::Looks<&Appearance::colors>, LooseEquals>},
+    {86,  true,  Form::FirstAndLastKept,  PlaceIs<&BotState::moveFrom>},
+    {87,  false, Form::FirstAndLastKept,  PlaceIs<&BotState::moveFrom>},
+    {88,  true,  Form::FirstAndLastKept,  PlaceIs<&BotState::moveInto>},
+    {89,  false, Form::FirstAndLastKept,  PlaceIs<&BotState::moveInto>},
+    {90,  true,  Form::FirstAndLastKept,  SquareIs<field::MoveEnd>},
+    {91,  false, Form::FirstAndLastKept,  SquareIs<field::MoveEnd>},
     {92,  true,  Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::from>},
     {93,  false, Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::from>},
     {94,  true,  Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::into>},
     {95,  false, Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::into>},
-    {96,  true,  Form::FirstKept,         NoticeTriggerIs},
-    {97,  false, Form::FirstKept,         NoticeTriggerIs},
+    {96,  true,  Form::FirstKept,         Number<field::NoticeTrigger>},
+    {97,  false, Form::FirstKept,         Number<field::NoticeTrigger>},
     {98,  true,  Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
     {99,  false, Form::FirstAndLastKept,  NoticeSquareIs<&DragonSpeakNotice::triggerAt>},
-    {100, true,  Form::FirstKept,         Number<DiceAmountOf>},
-    {101, true,  Form::FirstKept,         Number<DiceSidesOf>},
-    {102, true,  Form::FirstAndLastKept,  Die<std::less<>>},
-    {103, true,  Form::FirstAndLastKept,  Die<std::less_equal<>>},
-    {104, true,  Form::FirstAndLastKept,  Die<std::equal_to<>>},
-    {105, true,  Form::FirstAndLastKept,  Die<std::greater_equal<>>},
-    {106, true,  Form::FirstAndLastKept,  Die<std::greater<>>},
-    {107, true,  Form::FirstKept,         Number<DiceTotalOf, std::less<>>},
-    {108, true,  Form::FirstKept,         Number<DiceTotalOf, std::less_equal<>>},
-    {109, true,  Form::FirstKept,         Number<DiceTotalOf, std::equal_to<>>},
-    {110, true,  Form::FirstKept,         Number<DiceTotalOf, std::greater_equal<>>},
-    {111, true,  Form::FirstKept,         Number<DiceTotalOf, std::greater<>>},
+    {100, true,  Form::FirstKept,         Number<field::Roll<&Dice::amount>>},
+    {101, true,  Form::FirstKept,         Number<field::Roll<&Dice::sides>>},
+    {102, true,  Form::FirstAndLastKept,  Die<std::less<>>, kMayFault},
+    {103, true,  Form::FirstAndLastKept,  Die<std::less_equal<>>, kMayFault},
+    {104, true,  Form::FirstAndLastKept,  Die<std::equal_to<>>, kMayFault},
+    {105, true,  Form::FirstAndLastKept,  Die<std::greater_equal<>>, kMayFault},
+    {106, true,  Form::FirstAndLastKept,  Die<std::greater<>>, kMayFault},
+    {107, true,  Form::FirstKept,         DiceTotal<std::less<>>},
+    {108, true,  Form::FirstKept,         DiceTotal<std::less_equal<>>},
+    {109, true,  Form::FirstKept,         DiceTotal<std::equal_to<>>},
+    {110, true,  Form::FirstKept,         DiceTotal<std::greater_equal<>>},
+    {111, true,  Form::FirstKept,         DiceTotal<std::greater<>>},
     // Mind the last two: for dice "or equal" comes first, here it comes last.
     {112, true,  Form::FirstAndLastKept,  Numbers<std::less<>>},
     {113, true,  Form::FirstAndLastKept,  Numbers<std::less_equal<>>},
@@ -353,18 +289,18 @@ constexpr Condition kConditions[] = {
     {120, false, Form::FirstAndLastKept,  Both<SameText>},
     {121, false, Form::FirstAndLastKept,  Both<Like>},
     {122, false, Form::FirstAndLastKept,  Both<Contains>},
-    {123, true,  Form::ThreeInTurnFrom6,  FileHoldsEntry},
-    {124, false, Form::ThreeInTurnFrom6,  FileHoldsEntry},
+    {123, true,  Form::ThreeInTurnFrom6,  FileHoldsEntry, kMayFault},
+    {124, false, Form::ThreeInTurnFrom6,  FileHoldsEntry, kMayFault},
     {125, true,  Form::NoArguments,       ConnectClientIs<0>},
     {126, true,  Form::NoArguments,       ConnectClientIs<1>},
     {127, true,  Form::WholeText,         IsIn<&Profile::owners>},
     {128, false, Form::WholeText,         IsIn<&Profile::owners>},
     {129, true,  Form::WholeText,         IsIn<&Profile::maps>},
     {130, false, Form::WholeText,         IsIn<&Profile::maps>},
-    {131, true,  Form::WholeTextFrom6,    Text<DreamNameOf, LooseEquals>},
-    {132, false, Form::WholeTextFrom6,    Text<DreamNameOf, LooseEquals>},
-    {133, true,  Form::FirstAndLastKept,  SquareIs<DreamOf>},
-    {134, false, Form::FirstAndLastKept,  SquareIs<DreamOf>},
+    {131, true,  Form::WholeTextFrom6,    IsCalled<&BotState::dreamName>},
+    {132, false, Form::WholeTextFrom6,    IsCalled<&BotState::dreamName>},
+    {133, true,  Form::FirstAndLastKept,  PlaceIs<&BotState::dream>},
+    {134, false, Form::FirstAndLastKept,  PlaceIs<&BotState::dream>},
 };
 // clang-format on
 
@@ -374,12 +310,21 @@ const Condition* FindCondition(std::int16_t number) { return RowOf(kConditions, 
 
 }  // namespace
 
-bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number) {
-    line = ExpandVariables(bot, line);
+bool ConditionHolds(const Bot& bot, std::string_view line, std::int16_t number) {
     const Condition* const condition = FindCondition(number);
     if (!condition) return false;
     const std::optional<Arguments> arguments = FindArguments(line, condition->form);
     return arguments && condition->holds(bot, *arguments) == condition->wanted;  // no answer equals neither
+}
+
+bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number) {
+    line = ExpandVariables(bot, line);
+    return ConditionHolds(bot, line, number);
+}
+
+bool MayFault(std::int16_t number) {
+    const Condition* const condition = FindCondition(number);
+    return condition && condition->mayFault;
 }
 
 Form FormOfCondition(std::int16_t number) {

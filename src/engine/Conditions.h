@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "engine/Arguments.h"
 
@@ -14,6 +15,12 @@ struct Bot;
 /// @throws RuntimeFault SubscriptOutOfRange, for a die that was not rolled; PathOrFileAccess, for a data file that
 ///         exists and can't be read
 bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number);
+
+/// The same for a line that has been expanded.
+bool ConditionHolds(const Bot& bot, std::string_view line, std::int16_t number);
+
+/// May the test of (1:n) raise a fault, besides what expanding its line does?
+bool MayFault(std::int16_t number);
 
 /// How the arguments of (1:n) are found; Form::NoArguments, too, for a number that no condition has.
 Form FormOfCondition(std::int16_t number);

@@ -4,7 +4,10 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "bot/Bot.h"
 #include "bot/Place.h"
@@ -17,25 +20,11 @@
 
 namespace {
 
-constexpr std::size_t kIntervalFrom = 4;  // behind "(0:n", counted from 0; further digits of n have no blank in them
-constexpr std::string_view kDigits = "0123456789";
-
-/// The first number in a cause's text, behind its first blank; 0 when there is none or it exceeds 16 bits, so that
-/// it never divides the elapsed seconds.
-std::int16_t TimerInterval(std::string_view line) {
-    const std::size_t blank = line.find(' ', kIntervalFrom);
-    if (blank == line.npos) return 0;
-    const std::size_t first = line.find_first_of(kDigits, blank);
-    if (first == line.npos) return 0;
-    const std::string_view digits = line.substr(first, line.find_first_not_of(kDigits, first) - first);
-    // Not the strict reader: where the cause is no timer, a telephone number in its words is to be no fault.
-    const double number = LeadingNumber(digits);
-    return number > std::numeric_limits<std::int16_t>::max() ? std::int16_t{0} : static_cast<std::int16_t>(number);
-}
-
 std::int16_t ElapsedSeconds(const ElapsedClock& clock) {
     return Add16(Add16(Multiply16(clock.hours, 3600), Multiply16(clock.minutes, 60)), clock.seconds);
 }
+
+constexpr std::size_t kMostLines = std::numeric_limits<std::int16_t>::max();
 
 /// One event's walk over the script. The walk reads lines as if it had its own copy of them: running over a line for
 /// conditions or effects trims it, testing a condition puts its expansion in its place, and the walk for causes may
@@ -43,18 +32,12 @@ std::int16_t ElapsedSeconds(const ElapsedClock& clock) {
 class ScriptWalk {
   public:
     ScriptWalk(Bot& bot, GameEvent event)
-        : bot_(bot),
-          event_(event),
-          script_(bot.script),
-          place_(bot, script_->File()),
-          last_(script_->Lines().size() - 1) {
-        To16(static_cast<int>(
-            std::min<std::size_t>(last_, std::numeric_limits<int>::max())));  // lines are counted in 16 bits
-    }
+        : bot_(bot), event_(event), script_(bot.script), last_(script_->Lines().size() - 1) {}
 
     void Run() {
+        if (last_ > kMostLines) TooManyLines();
         for (std::size_t i = 1; i <= last_; ++i) {
-            if (i >= trimmedUntil_) i = SkipTo(script_->NextStop(event_, i), i);
+            if (IsAsRead(i)) i = SkipTo(NextStop(i), i);
             if (i > last_ || EndsScript(i)) return;
             i = WalkLine(i);
         }
@@ -64,14 +47,43 @@ class ScriptWalk {
     Bot& bot_;
     const GameEvent event_;
     const std::shared_ptr<const Script> script_;  // held on to: an effect may put another in its place
-    PlaceMark place_;
+    std::optional<PlaceMark> place_;
     const std::size_t last_;
+    Stops stops_;
+    bool stopsAreKnown_ = false;
     std::size_t trimmedUntil_ = 0;               // the lines before it were run over, and so trimmed
     std::map<std::size_t, ScriptLine> changed_;  // the lines whose text was replaced by its expansion
+    std::string room_;                           // for a line's expansion
+
+    /// Marked only where there is something to do: most events pass a script by.
+    void MarkPlace(std::size_t line) {
+        if (!place_) place_.emplace(bot_, script_->File());
+        place_->AtLine(line);
+    }
+
+    [[noreturn]] void TooManyLines() {
+        MarkPlace(0);
+        throw RuntimeFault(FaultKind::Overflow);  // lines are counted in 16 bits
+    }
 
     const ScriptLine& Line(std::size_t i) const {
         const auto changed = changed_.find(i);
         return changed == changed_.end() ? script_->Lines()[i] : changed->second;
+    }
+
+    /// Whether the script's index tells what there is to do from a line on.
+    bool IsAsRead(std::size_t i) const {
+        return i >= trimmedUntil_ || (changed_.empty() && !script_->Triggers().HasIndentedTerminator());
+    }
+
+    /// What the index knows holds until an effect changes something.
+    std::size_t NextStop(std::size_t from) {
+        if (!std::exchange(stopsAreKnown_, true)) {
+            const GameEvent before = std::exchange(bot_.currentEvent, event_);
+            script_->Triggers().Find(bot_, stops_);
+            bot_.currentEvent = before;
+        }
+        return std::min(stops_.NextFrom(from), last_ + 1);
     }
 
     /// Passes over lines at which there is nothing to do, and leaves the current event as a walk over them would: texts
@@ -90,7 +102,7 @@ class ScriptWalk {
         const auto changed = changed_.find(i);
         if (changed != changed_.end()) changed->second = ScriptLine(std::string(changed->second.text));
         trimmedUntil_ = std::max(trimmedUntil_, i + 1);
-        place_.AtLine(i + 1);
+        MarkPlace(i + 1);
         return Line(i);
     }
 
@@ -98,12 +110,11 @@ class ScriptWalk {
     /// @return the last line that is done with
     std::size_t WalkLine(std::size_t i) {
         bot_.currentEvent = -1;  // so that "[player]" in a cause's own words means nobody
-        place_.AtLine(i + 1);
+        MarkPlace(i + 1);
         const ScriptLine& cause = Line(i);
         cause.asCause.RaiseFault();
-        if (!cause.asCause.IsCommand(kCauseLine)) return i;
-        std::string line = cause.text;
-        if (!TestCause(bot_, line, cause.asCause.number, event_)) return i;
+        if (!cause.asCause.IsCommand(kCauseLine) || !TestCause(bot_, cause.text, cause.asCause.number, event_))
+            return i;
         bool allHold = true;
         const std::size_t behind = TestConditions(i + 1, allHold);
         return allHold ? RunEffects(behind, i) : i;
@@ -119,9 +130,10 @@ class ScriptWalk {
             condition.asCondition.RaiseFault();
             if (condition.asCondition.kind == LineReading::Kind::NoCommand) continue;
             if (!condition.asCondition.IsCommand(kConditionLine)) break;
-            std::string line = condition.text;
-            allHold = EvaluateCondition(bot_, line, condition.asCondition.number) && allHold;
-            if (line != condition.text) changed_.insert_or_assign(j, ScriptLine(line));
+            const std::string_view line = ExpandVariables(bot_, condition.text, room_);
+            allHold = ConditionHolds(bot_, line, condition.asCondition.number) && allHold;
+            const bool readsTheSame = condition.keepsItsReading && bot_.variables.AllSimple();
+            if (!readsTheSame && line != condition.text) changed_.insert_or_assign(j, ScriptLine(line));
         }
         return j;
     }
@@ -135,10 +147,10 @@ class ScriptWalk {
             effect.asEffect.RaiseFault();
             if (effect.asEffect.IsCommand(kCauseLine)) return k - 1;  // the walk goes on at the cause itself
             if (!effect.asEffect.IsCommand(kEffectLine)) continue;
-            std::string line = effect.text;
             // Where an effect raises an event, as (5:1) does, the current event stays as that one's walk has left it:
             // in the effects behind it "[player]" stays as written.
-            modScript::ExecuteEffect(bot_, line, Add16(effect.asEffect.number, 1));
+            modScript::ExecuteEffect(bot_, effect.text, Add16(effect.asEffect.number, 1));
+            stopsAreKnown_ = false;
             done = k;
         }
         return done;
@@ -151,12 +163,13 @@ void RunScript(Bot& bot, GameEvent event) {
     if (bot.script && bot.script->IsValid()) ScriptWalk(bot, event).Run();
 }
 
-bool TestCause(Bot& bot, std::string& line, std::int16_t number, GameEvent event) {
-    line = ExpandVariables(bot, line);
+bool TestCause(Bot& bot, std::string_view line, std::int16_t number, GameEvent event) {
+    std::string room;
+    const std::string_view expanded = ExpandVariables(bot, line, room);
     bot.currentEvent = event;
     if (event != EventTimerTick) return event == Add16(number, 1);
     // Kept on purpose: the number is not looked at, so that any cause with a digit in its words is a timer as well.
-    const std::int16_t interval = TimerInterval(line);
+    const std::int16_t interval = TimerInterval(expanded);
     return interval > 0 && ElapsedSeconds(bot.clock) % interval == 0;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 
 #include "bot/Events.h"
 
@@ -16,10 +16,10 @@ void RunScript(Bot& bot, GameEvent event);
 
 /// Does the cause answer the event? Sets the bot's current event. On a timer tick the cause's number is not looked
 /// at: the first number in its text is the interval in seconds.
-/// @param line    the cause's line; replaced by its expansion
+/// @param line    the cause's line as written
 /// @param number  n of (0:n)
 /// @throws RuntimeFault Overflow, when number + 1 leaves the 16-bit range
-bool TestCause(Bot& bot, std::string& line, std::int16_t number, GameEvent event);
+bool TestCause(Bot& bot, std::string_view line, std::int16_t number, GameEvent event);
 
 /// The script timer's interval.
 inline constexpr int kScriptTimerMs = 1000;

@@ -331,8 +331,9 @@ class ScriptActs {
 
 }  // namespace
 
-void modScript::ExecuteEffect(Bot& bot, std::string& line, std::int16_t number) {
-    line = ExpandVariables(bot, line);
+void modScript::ExecuteEffect(Bot& bot, std::string_view written, std::int16_t number) {
+    std::string room;
+    const std::string_view line = ExpandVariables(bot, written, room);
     const Effect* const effect = FindEffect(number - 1);
     // Before the arguments: on a map where the bot is silent, braces the wrong way round are no fault.
     if (!effect || (effect->gated && !bot.profile.maps.Holds(bot.state.map))) return;

@@ -1,0 +1,145 @@
+#include "engine/ConditionIndex.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+#include <utility>
+
+#include "bot/Variables.h"
+#include "engine/Conditions.h"
+#include "game/Lists.h"
+
+namespace {
+
+using Kind = Requirement::Kind;
+
+Requirement RequirementOfLine(const ScriptLine& condition) {
+    const std::int16_t number = condition.asCondition.number;
+    // What a variable will stand for is not known yet.
+    if (condition.text.find('[') != condition.text.npos) return {.text = condition.text, .number = number};
+    return RequirementOf(condition.text, number);
+}
+
+std::uint32_t CodeOf(Square square) {
+    return std::uint32_t{static_cast<std::uint16_t>(square.x)} << 16U | static_cast<std::uint16_t>(square.y);
+}
+std::uint32_t CodeOf(std::int16_t number) { return static_cast<std::uint16_t>(number); }
+
+struct Before {
+    static auto Key(const Requirement& r) {
+        // Which field it is only has to be told apart.
+        return std::tuple(
+            r.kind, reinterpret_cast<std::uintptr_t>(r.textField), reinterpret_cast<std::uintptr_t>(r.numberField),
+            reinterpret_cast<std::uintptr_t>(r.squareField), r.number, CodeOf(r.square), std::string_view(r.text));
+    }
+    bool operator()(const Requirement& a, const Requirement& b) const { return Key(a) < Key(b); }
+};
+template <typename Value>
+using ByRequirement = std::map<Requirement, Value, Before>;
+
+/// The better of two requirements to file a trigger under: what can be looked up, then what fewer triggers share. Of
+/// what must be tested, one test for many is better.
+bool IsBetter(const Requirement& a, const Requirement& b, const ByRequirement<std::size_t>& shared) {
+    const auto rank = [&](const Requirement& requirement) {
+        const auto sharing = static_cast<std::ptrdiff_t>(shared.at(requirement));
+        const bool tested = requirement.kind == Kind::Tested;
+        return std::tuple(tested, tested ? -sharing : sharing, requirement.kind);
+    };
+    return rank(a) < rank(b);
+}
+
+/// What is filed for a field, which is put in when there is nothing yet.
+template <typename Filed, typename Field>
+auto& ValuesOf(std::vector<Filed>& filed, Field field) {
+    for (Filed& entry : filed) {
+        if (entry.field == field) return entry.values;
+    }
+    return filed.emplace_back(Filed{field, {}}).values;
+}
+
+/// Calls each(entry) for the entries of a list, without taking memory for them.
+template <typename Each>
+void ForEachEntry(std::string_view list, Each each) {
+    for (bool more = !list.empty(); more;) {
+        const std::size_t end = list.find(kListSeparator);
+        each(list.substr(0, end));
+        more = end != list.npos;
+        if (more) list.remove_prefix(end + kListSeparator.size());
+    }
+}
+
+template <typename Values, typename Key>
+void AddFound(const Values& values, const Key& key, Stops& stops) {
+    const auto found = values.find(key);
+    if (found != values.end()) stops.Add(found->second);
+}
+
+}  // namespace
+
+ConditionIndex::ConditionIndex(const std::vector<Trigger>& triggers) {
+    ByRequirement<std::size_t> shared;
+    for (const Trigger& trigger : triggers) {
+        for (const ScriptLine* const condition : trigger.conditions) ++shared[RequirementOfLine(*condition)];
+    }
+    ByRequirement<LineNumbers> causes;
+    for (const Trigger& trigger : triggers) {
+        Requirement best = RequirementOfLine(*trigger.conditions.front());
+        for (const ScriptLine* const condition : trigger.conditions) {
+            Requirement other = RequirementOfLine(*condition);
+            if (IsBetter(other, best, shared)) best = std::move(other);
+        }
+        causes[best].push_back(trigger.causeLine);
+    }
+
+    std::map<field::TextField, std::vector<std::pair<std::string, LineNumbers>>> held;
+    for (auto& [requirement, lines] : causes) {
+        const auto& [kind, textField, numberField, squareField, text, number, square] = requirement;
+        switch (kind) {
+            case Kind::Never:
+                break;
+            case Kind::Equal:
+                ValuesOf(equal_, textField).emplace(text, std::move(lines));
+                break;
+            case Kind::Listed:
+                ValuesOf(listed_, textField).emplace(text, std::move(lines));
+                break;
+            case Kind::Number:
+                ValuesOf(numbers_, numberField).emplace(CodeOf(number), std::move(lines));
+                break;
+            case Kind::Square:
+                ValuesOf(squares_, squareField).emplace(CodeOf(square), std::move(lines));
+                break;
+            case Kind::Held:
+                held[textField].emplace_back(text, std::move(lines));
+                break;
+            case Kind::Tested:
+                tested_.push_back({text, number, std::move(lines)});
+                break;
+        }
+    }
+    for (auto& [textField, texts] : held) held_.push_back({textField, HeldTexts(std::move(texts))});
+}
+
+void ConditionIndex::Find(const Bot& bot, Stops& stops) const {
+    for (const auto& [field, values] : equal_) {
+        if (const std::string* const text = field(bot)) AddFound(values, std::string_view(*text), stops);
+    }
+    for (const auto& [field, values] : held_) {
+        const std::string* const text = field(bot);
+        if (text) values.FindIn(*text, [&](const LineNumbers& lines) { stops.Add(lines); });
+    }
+    for (const auto& [field, values] : listed_) {
+        const auto add = [&, &owners = values](std::string_view entry) { AddFound(owners, entry, stops); };
+        if (const std::string* const list = field(bot)) ForEachEntry(*list, add);
+    }
+    for (const auto& [field, values] : numbers_) {
+        if (const auto number = field(bot)) AddFound(values, CodeOf(*number), stops);
+    }
+    for (const auto& [field, values] : squares_) {
+        if (const auto square = field(bot)) AddFound(values, CodeOf(*square), stops);
+    }
+    std::string room;
+    for (const auto& [line, number, causes] : tested_) {
+        if (ConditionHolds(bot, ExpandVariables(bot, line, room), number)) stops.Add(causes);
+    }
+}

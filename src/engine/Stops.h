@@ -1,0 +1,51 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+/// Lines of a script, counted from 0, in rising order.
+using LineNumbers = std::vector<std::size_t>;
+
+/// The lines at which a walk may have something to do, put together of lists that the script keeps.
+class Stops {
+  public:
+    void Clear() {
+        count_ = 0;
+        more_.clear();
+    }
+
+    /// @param lines  not empty; stay as they are for as long as they are asked for
+    void Add(const LineNumbers& lines) {
+        const Rest rest{lines.data(), lines.data() + lines.size()};
+        if (count_ < few_.size()) {
+            few_[count_++] = rest;
+        } else {
+            more_.push_back(rest);
+        }
+    }
+
+    /// The first of the lines at or after one, which is never smaller than the time before; the highest number there is
+    /// when there is none.
+    std::size_t NextFrom(std::size_t line) {
+        std::size_t next = std::numeric_limits<std::size_t>::max();
+        const auto consider = [&](Rest& rest) {
+            if (rest.next != rest.end && *rest.next < line) rest.next = std::lower_bound(rest.next, rest.end, line);
+            if (rest.next != rest.end) next = std::min(next, *rest.next);
+        };
+        for (std::size_t i = 0; i < count_; ++i) consider(few_[i]);
+        for (Rest& rest : more_) consider(rest);
+        return next;
+    }
+
+  private:
+    struct Rest {
+        const std::size_t *next, *end;
+    };
+    // Nearly always there are a few, for which no memory is to be taken: this is done for every line of the game.
+    std::array<Rest, 12> few_;
+    std::size_t count_ = 0;
+    std::vector<Rest> more_;
+};

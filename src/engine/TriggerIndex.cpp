@@ -1,0 +1,165 @@
+#include "engine/TriggerIndex.h"
+
+#include <algorithm>
+#include <limits>
+#include <map>
+#include <optional>
+#include <set>
+
+#include "bot/Bot.h"
+#include "bot/Variables.h"
+#include "engine/Conditions.h"
+#include "text/Limits.h"
+
+namespace {
+
+/// A trigger as far as it can be known beforehand.
+struct Known {
+    ConditionIndex::Trigger trigger;
+    std::set<std::string> names;  ///< of the variables in its lines
+    std::size_t longestLine = 0;
+};
+
+/// Takes in a line that is expanded, and nothing more, when the trigger is tried.
+/// @return false when more may come of it
+bool TakesIn(Known& known, const ScriptLine& line) {
+    std::string_view rest = line.text;
+    if (rest.size() > kLongestText || !line.keepsItsReading) return false;
+    known.longestLine = std::max(known.longestLine, rest.size());
+    while (const std::optional<Mention> mention = NextMention(rest)) {
+        if (!mention->standsApart) return false;
+        known.names.emplace(mention->name);
+        rest.remove_prefix(mention->at + mention->name.size());
+    }
+    return true;
+}
+
+/// Reads a cause and its conditions as the walk does.
+/// @return nothing when trying them may fault or leave a trace
+std::optional<Known> WhatIsKnown(const std::vector<ScriptLine>& lines, std::size_t cause) {
+    Known known{.trigger = {cause, {}}, .names = {}};
+    if (!TakesIn(known, lines[cause])) return std::nullopt;
+    for (std::size_t j = cause + 1; j + 1 < lines.size(); ++j) {
+        const ScriptLine& line = lines[j];
+        // Trying the trigger trims the line, and it ends the script when the walk comes to it.
+        if (line.endsScriptWhenTrimmed && !line.endsScript) return std::nullopt;
+        const LineReading& reading = line.asCondition;
+        if (reading.kind == LineReading::Kind::Fault) return std::nullopt;
+        if (reading.kind == LineReading::Kind::NoCommand) continue;
+        if (!reading.IsCommand(kConditionLine)) break;
+        if (MayFault(reading.number) || !TakesIn(known, line)) return std::nullopt;
+        known.trigger.conditions.push_back(&line);
+    }
+    return known;
+}
+
+}  // namespace
+
+TriggerIndex::TriggerIndex(const std::vector<ScriptLine>& lines) {
+    std::map<std::int16_t, std::vector<Known>> plain, mentioning;
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        const ScriptLine& line = lines[i];
+        hasIndentedTerminator_ = hasIndentedTerminator_ || (line.endsScriptWhenTrimmed && !line.endsScript);
+        if (line.endsScript || line.asCause.kind == LineReading::Kind::Fault) stops_.push_back(i);
+        if (!line.asCause.IsCommand(kCauseLine)) continue;
+
+        AddTimer(line, i);
+        const std::int16_t number = line.asCause.number;
+        // For this number, number + 1 overflows whatever the event.
+        if (number == std::numeric_limits<std::int16_t>::max()) overflows_.push_back(i);
+        OfCause& ofCause = ofCauses_[number];
+        ofCause.all.push_back(i);
+        std::optional<Known> known = WhatIsKnown(lines, i);
+        if (!known || known->trigger.conditions.empty()) {
+            ofCause.open.push_back(i);
+        } else {
+            (known->names.empty() ? plain : mentioning)[number].push_back(std::move(*known));
+        }
+    }
+    const auto indexed = [](const std::vector<Known>& known) {
+        std::vector<ConditionIndex::Trigger> triggers;
+        for (const Known& each : known) triggers.push_back(each.trigger);
+        return ConditionIndex(triggers);
+    };
+    for (const auto& [number, known] : plain) ofCauses_[number].byCondition = indexed(known);
+    for (const auto& [number, known] : mentioning) {
+        Mentioning& of = ofCauses_[number].mentioning;
+        of.byCondition = indexed(known);
+        std::set<std::string> names;
+        for (const Known& each : known) {
+            of.causes.push_back(each.trigger.causeLine);
+            of.longestLine = std::max(of.longestLine, each.longestLine);
+            names.insert(each.names.begin(), each.names.end());
+        }
+        of.names.assign(names.begin(), names.end());
+    }
+}
+
+void TriggerIndex::AddTimer(const ScriptLine& cause, std::size_t line) {
+    causes_.push_back(line);
+    Known known;
+    if (!TakesIn(known, cause) || !known.names.empty()) return openTimers_.push_back(line);
+    const std::int16_t interval = TimerInterval(cause.text);
+    if (interval == 0) return;
+    timers_.push_back(line);
+    timersByInterval_[interval].push_back(line);
+}
+
+void TriggerIndex::Find(const Bot& bot, Stops& stops) const {
+    const auto add = [&stops](const LineNumbers& lines) {
+        if (!lines.empty()) stops.Add(lines);
+    };
+    const bool isTick = bot.currentEvent == EventTimerTick;
+    stops.Clear();
+    add(stops_);
+    if (!isTick) add(overflows_);
+    const bool hasCause = bot.currentEvent > std::numeric_limits<GameEvent>::min();
+    const auto found = isTick || !hasCause ? ofCauses_.end() : ofCauses_.find(CauseOf(bot.currentEvent));
+
+    // A variable with any other name may stand anywhere, and may turn a line into something else.
+    const bool anywhere = !bot.variables.AllSimple();
+    if (isTick) return anywhere ? add(causes_) : FindTimers(bot, stops);
+    if (found == ofCauses_.end()) return;
+    const auto& [all, open, byCondition, mentioning] = found->second;
+    if (anywhere) return add(all);
+    add(open);
+    byCondition.Find(bot, stops);
+    if (mentioning.causes.empty()) return;
+    mentioning.MayFault(bot) ? stops.Add(mentioning.causes) : mentioning.byCondition.Find(bot, stops);
+}
+
+bool TriggerIndex::Mentioning::MayFault(const Bot& bot) const {
+    std::size_t longestValue = 0;
+    std::string value;
+    for (const std::string& name : names) {
+        value.clear();
+        AppendValueOf(bot, name, value);
+        if (value.find('[') != value.npos) return true;
+        longestValue = std::max(longestValue, value.size());
+    }
+    // A name has two characters at least. None of the factors is near the end of its type.
+    return longestLine + longestLine / 2 * longestValue > kLongestText;
+}
+
+/// Which timers are due is known from the numbers that divide the elapsed seconds, however many timers there are.
+void TriggerIndex::FindTimers(const Bot& bot, Stops& stops) const {
+    const auto add = [&stops](const LineNumbers& lines) {
+        if (!lines.empty()) stops.Add(lines);
+    };
+    add(openTimers_);
+    const auto [hours, minutes, seconds] = bot.clock;
+    constexpr int kMinute = 60;
+    const bool inFirstHour = hours == 0 && 0 <= minutes && minutes < kMinute && 0 <= seconds && seconds < kMinute;
+    const int elapsed = minutes * kMinute + seconds;
+    // Every interval divides 0. A clock that was set by others than the timer may run over when it is read.
+    if (!inFirstHour || elapsed == 0) return add(timers_);
+    const auto addDue = [&](int interval) {
+        const auto due = timersByInterval_.find(interval);
+        if (due != timersByInterval_.end()) stops.Add(due->second);
+    };
+    for (int divisor = 1; divisor * divisor <= elapsed; ++divisor) {
+        if (elapsed % divisor != 0) continue;
+        addDue(divisor);
+        if (divisor * divisor != elapsed) addDue(elapsed / divisor);
+    }
+}
