@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -10,23 +11,33 @@ struct Bot;
 /// What ParseServerLine calls for each kind of line. Each reads the fields of its kind into the bot's state and raises
 /// the events; docs/protocol.md has the fields.
 
-/// A kind of line, told by the one character at some position, and its reader.
+/// Reads one kind of line, told by the one character at some position.
+using ReadLine = void (*)(Bot&, const ServerLine&);
 struct LineReader {
     char marker;
-    void (*read)(Bot&, const ServerLine&);
+    ReadLine read;
 };
 
-/// Reads a line by the row that has the character at a position.
-/// @return false when there is no such row
-template <std::size_t Count>
-bool ReadBy(const LineReader (&readers)[Count], std::size_t markerAt, Bot& bot, const ServerLine& line) {
-    for (const LineReader& reader : readers) {
-        if (!line.HasAt(markerAt, std::string_view(&reader.marker, 1))) continue;
-        reader.read(bot, line);
-        return true;
+/// Readers by their markers.
+class LineReaders {
+  public:
+    template <std::size_t Count>
+    constexpr explicit LineReaders(const LineReader (&readers)[Count]) {
+        for (const LineReader& reader : readers) byMarker_[static_cast<unsigned char>(reader.marker)] = reader.read;
     }
-    return false;
-}
+
+    /// Reads a line by the character at a position.
+    /// @return false when there is none, or no reader for it
+    bool Read(Bot& bot, const ServerLine& line, std::size_t markerAt) const {
+        if (line.Length() < markerAt) return false;
+        const ReadLine read = byMarker_[static_cast<unsigned char>(line.Whole()[markerAt - 1])];
+        if (read) read(bot, line);
+        return read != nullptr;
+    }
+
+  private:
+    std::array<ReadLine, 256> byMarker_{};
+};
 
 // --- what is seen of the scene (SceneLines.cpp) ------------------------------------------------------------------
 

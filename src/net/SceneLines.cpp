@@ -97,10 +97,15 @@ void ReadBreathOrFlame(Bot& bot, const ServerLine& line) {
     }
 }
 
-constexpr LineReader kBracketReaders[] = {
-    {'-', ReadPlayerLooks},  {'%', ReadOnlineAnswer},  {'f', ReadLookResult},    {'q', AnswerDreamRequest},
-    {'s', ReadDreamAppears}, {'t', ReadDreamVanishes}, {'v', ReadBreathOrFlame},
-};
+constexpr LineReaders kBracketReaders({
+    {'-', ReadPlayerLooks},
+    {'%', ReadOnlineAnswer},
+    {'f', ReadLookResult},
+    {'q', AnswerDreamRequest},
+    {'s', ReadDreamAppears},
+    {'t', ReadDreamVanishes},
+    {'v', ReadBreathOrFlame},
+});
 
 }  // namespace
 
@@ -127,4 +132,4 @@ void ReadDsBotTriggerLine(Bot& bot, const ServerLine& line) {
 }
 void ReadDsTriggerLine(Bot& bot, const ServerLine& line) { ReadTriggerLine(bot, line, bot.state.ds, EventDsTrigger); }
 
-void ReadBracketLine(Bot& bot, const ServerLine& line) { ReadBy(kBracketReaders, kSecondMarkerAt, bot, line); }
+void ReadBracketLine(Bot& bot, const ServerLine& line) { kBracketReaders.Read(bot, line, kSecondMarkerAt); }

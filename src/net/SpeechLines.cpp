@@ -11,10 +11,10 @@ namespace {
 constexpr std::size_t kNameAt = 2;    // of speech and emotes
 constexpr std::size_t kPhraseAt = 3;  // behind the second character
 
-/// Speech is "(name: text": the first ": " ends the first word. Anything else in the place of a name is an emote.
+/// Speech is "(name: text": the first blank stands behind a colon. Anything else in the place of a name is an emote.
 bool IsSpeech(const ServerLine& line) {
-    const std::size_t colon = line.Whole().find(": ");
-    return colon != std::string_view::npos && colon + 1 == line.Whole().find(' ');
+    const std::size_t blank = line.Whole().find(' ');
+    return blank != std::string_view::npos && blank > 0 && line.Whole()[blank - 1] == ':';
 }
 
 void RaiseLookDescription(Bot& bot, std::string badge, std::string_view desc) {
