@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "bot/Bot.h"
+#include "bot/Host.h"
 #include "bot/Variables.h"
-#include "engine/Conditions.h"
+#include "engine/PlainRules.h"
 #include "engine/Script.h"
 #include "engine/modScript.h"
 #include "text/Numbers.h"
@@ -50,7 +51,7 @@ class SlowWalker {
     }
 
     bool CauseHolds(std::string& line, std::int16_t number) {
-        line = ExpandVariables(bot_, line);
+        line = ExpandPlainly(bot_, line);
         bot_.currentEvent = event_;
         if (event_ != 46) return event_ == Add16(number, 1);
         std::size_t at = line.find(' ', 4);
@@ -60,7 +61,15 @@ class SlowWalker {
             interval = interval * 10 + (line[at] - '0');
             if (interval > 32767) return false;
         }
-        return interval > 0 && (bot_.clock.hours * 3600 + bot_.clock.minutes * 60 + bot_.clock.seconds) % interval == 0;
+        if (interval == 0) return false;
+        const ElapsedClock& clock = bot_.clock;
+        return Add16(Add16(Multiply16(clock.hours, 3600), Multiply16(clock.minutes, 60)), clock.seconds) % interval ==
+               0;
+    }
+    /// Effects are the engine's own, and so is how they expand their lines. Told, a mistake there is a difference.
+    void CompareExpansions(const std::string& line) {
+        const std::string plain = ExpandPlainly(bot_, line);
+        if (plain != ExpandVariables(bot_, line)) bot_.host.ShowConsoleLine("plainly expanded: " + plain);
     }
     static bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -74,7 +83,7 @@ class SlowWalker {
             const std::int16_t category = NumberOrFault(line.substr(1, 1)), number = StrictNumber(line);
             if (category != 1) break;
             ++seen;
-            if (EvaluateCondition(bot_, line, number)) ++held;
+            if (HoldsPlainly(bot_, line, number)) ++held;
         }
         if (held != seen) return i;
 
@@ -87,6 +96,7 @@ class SlowWalker {
             const std::int16_t number = end == kNone ? std::int16_t{-1} : LeadingNumberOrZero(line.substr(3, end - 3));
             if (category == 0) return k - 1;
             if (category != 5) continue;
+            CompareExpansions(line);
             modScript::ExecuteEffect(bot_, line, Add16(number, 1));
             i = k;
         }

@@ -6,12 +6,12 @@
 #include "bot/Files.h"
 #include "text/Text.h"
 
-/// Files that live in memory. A path marked unwritable can't be written; the current folder counts for
-/// Absolute only.
+/// Files that live in memory. A path marked unwritable can't be written, one marked unreadable no script can open; the
+/// current folder counts for Absolute only.
 class MemoryFiles final : public Files {
   public:
     std::map<std::string, std::string> contents;
-    std::string unwritable;
+    std::string unwritable, unreadable;
     std::string currentFolder;
 
     Outcome<std::string> Read(const std::string& path) const override {
@@ -38,6 +38,7 @@ class MemoryFiles final : public Files {
         return Find(path).value_or(path);
     }
     Outcome<std::optional<std::string>> ReadData(const std::string& path) const override {
+        if (path == unreadable) return RuntimeFault(FaultKind::PathOrFileAccess, path);
         return contents.contains(path) ? std::optional(contents.at(path)) : std::nullopt;
     }
     bool LeadToSameFile(const std::string& a, const std::string& b) const override {

@@ -4,19 +4,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
+#include "support/Source.h"
 #include "text/Text.h"
-
-/// A file among the sources.
-inline std::string ReadSource(const std::string& path) {
-    std::ifstream file(std::string(TVOREL_SOURCE_DIR "/") + path, std::ios::binary);
-    EXPECT_TRUE(file.is_open()) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// The names of the files with this ending in a folder among the sources, without the ending.
 inline std::vector<std::string> NamesIn(const std::string& folder, const std::string& ending) {

@@ -2,13 +2,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "support/RehearsalBot.h"
+#include "support/Source.h"
 #include "text/Fault.h"
 
 /// What libFuzzer calls with each input. A fault of the rules is no finding; any other exception leaves this function
@@ -16,12 +15,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 inline std::string InputText(const std::uint8_t* data, std::size_t size) { return {data, data + size}; }
-
-/// A file among the sources.
-inline std::string ReadSource(const std::string& path) {
-    std::ifstream file(std::string(TVOREL_SOURCE_DIR "/") + path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// A bot called Greeter with a profile, a character and a data file, all in memory, whose clock stands still and whose
 /// dice fall alike in every run. Not connected yet.
