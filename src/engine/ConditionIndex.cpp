@@ -34,18 +34,23 @@ struct Before {
     }
     bool operator()(const Requirement& a, const Requirement& b) const { return Key(a) < Key(b); }
 };
-template <typename Value>
-using ByRequirement = std::map<Requirement, Value, Before>;
+
+/// How many triggers require it, and the causes' lines of those that are filed under it.
+struct Use {
+    std::size_t shared = 0;
+    LineNumbers causes;
+};
+using Uses = std::map<Requirement, Use, Before>;
 
 /// The better of two requirements to file a trigger under: what can be looked up, then what fewer triggers share. Of
 /// what must be tested, one test for many is better.
-bool IsBetter(const Requirement& a, const Requirement& b, const ByRequirement<std::size_t>& shared) {
-    const auto rank = [&](const Requirement& requirement) {
-        const auto sharing = static_cast<std::ptrdiff_t>(shared.at(requirement));
-        const bool tested = requirement.kind == Kind::Tested;
-        return std::tuple(tested, tested ? -sharing : sharing, requirement.kind);
+bool IsBetter(const Uses::value_type* a, const Uses::value_type* b) {
+    const auto rank = [](const Uses::value_type& use) {
+        const auto shared = static_cast<std::ptrdiff_t>(use.second.shared);
+        const bool tested = use.first.kind == Kind::Tested;
+        return std::tuple(tested, tested ? -shared : shared, use.first.kind);
     };
-    return rank(a) < rank(b);
+    return rank(*a) < rank(*b);
 }
 
 /// What is filed for a field, which is put in when there is nothing yet.
@@ -77,22 +82,25 @@ void AddFound(const Values& values, const Key& key, Stops& stops) {
 }  // namespace
 
 ConditionIndex::ConditionIndex(const std::vector<Trigger>& triggers) {
-    ByRequirement<std::size_t> shared;
+    Uses uses;
+    std::vector<std::vector<Uses::value_type*>> ofTriggers;
     for (const Trigger& trigger : triggers) {
-        for (const ScriptLine* const condition : trigger.conditions) ++shared[RequirementOfLine(*condition)];
-    }
-    ByRequirement<LineNumbers> causes;
-    for (const Trigger& trigger : triggers) {
-        Requirement best = RequirementOfLine(*trigger.conditions.front());
+        ofTriggers.emplace_back();
         for (const ScriptLine* const condition : trigger.conditions) {
-            Requirement other = RequirementOfLine(*condition);
-            if (IsBetter(other, best, shared)) best = std::move(other);
+            const auto use = uses.try_emplace(RequirementOfLine(*condition)).first;
+            ++use->second.shared;
+            ofTriggers.back().push_back(&*use);
         }
-        causes[best].push_back(trigger.causeLine);
+    }
+    for (std::size_t i = 0; i < triggers.size(); ++i) {
+        auto* const best = *std::min_element(ofTriggers[i].begin(), ofTriggers[i].end(), IsBetter);
+        best->second.causes.push_back(triggers[i].causeLine);
     }
 
     std::map<field::TextField, std::vector<std::pair<std::string, LineNumbers>>> held;
-    for (auto& [requirement, lines] : causes) {
+    for (auto& [requirement, use] : uses) {
+        LineNumbers& lines = use.causes;
+        if (lines.empty()) continue;
         const auto& [kind, textField, numberField, squareField, text, number, square] = requirement;
         switch (kind) {
             case Kind::Never:

@@ -19,16 +19,21 @@ class HeldTexts {
     /// @param texts  folded, none of them empty
     explicit HeldTexts(std::vector<std::pair<std::string, LineNumbers>> texts);
 
-    /// Calls found(lines) for each of the texts that a text holds, maybe more than once.
+    /// Calls found(lines) for each of the texts that a text holds.
     template <typename Found>
     void FindIn(std::string_view text, Found found) const {
+        std::vector<bool> isFound;  // takes memory for the first one only
         for (const std::size_t length : lengths_) {
             ForEachGram(text, length, [&](std::uint64_t gram, std::size_t at) {
                 if (!seen_[SeenAt(gram)]) return;
                 const auto filed = filed_.find(gram);
                 if (filed == filed_.end()) return;
                 for (const Filed& entry : filed->second) {
-                    if (IsAt(text, at, entry)) found(texts_[entry.text].second);
+                    if (!isFound.empty() && isFound[entry.text]) continue;
+                    if (!IsAt(text, at, entry)) continue;
+                    isFound.resize(texts_.size());
+                    isFound[entry.text] = true;
+                    found(texts_[entry.text].second);
                 }
             });
         }

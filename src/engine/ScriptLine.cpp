@@ -22,7 +22,7 @@ constexpr std::size_t kIntervalFrom = 4;  // behind "(0:n", counted from 0; furt
 constexpr std::string_view kDigits = "0123456789";
 
 bool IsTerminator(std::string_view line) {
-    if (line.size() < kTerminatorStart.size()) return false;
+    if (line.size() < kTerminatorStart.size() || line.front() != kTerminatorStart.front()) return false;
     const std::string lowered = LowerCase(line);
     return lowered.starts_with(kTerminatorStart) && lowered.ends_with(kTerminatorEnd);
 }
