@@ -7,6 +7,7 @@
 #include "bot/Files.h"
 #include "bot/Host.h"
 #include "engine/Script.h"
+#include "net/Link.h"
 
 /// No files at all.
 class NoFiles final : public Files {
@@ -49,6 +50,26 @@ class QuietHost final : public Host {
 
   private:
     NoFiles files_;
+};
+
+/// A machine that does nothing for a session.
+class QuietLink final : public Link {
+  public:
+    void ConnectServer(const std::string&, int) override {}
+    void CloseServer() override {}
+    void CloseClient() override {}
+    void RelayToServer(std::string_view) override {}
+    bool ListenForClient(std::int16_t) override { return false; }
+    void AcceptClient() override {}
+    void EnterFolder(const std::string&) override {}
+    void WriteProxyFile(const std::string&, std::string_view) override {}
+    void TakeAwayProxyFile() override {}
+    std::optional<StartRefusal> StartClient(const std::string&, const std::string&) override { return std::nullopt; }
+    std::optional<std::int64_t> FindClientWindow() override { return std::nullopt; }
+    void CloseClientWindow(std::int64_t) override {}
+    void ClearConsole() override {}
+    void ShowMessage(std::string_view, std::string_view) override {}
+    void StatusChanged() override {}
 };
 
 /// A bot in that world, by the name of Greeter, on a map where it may speak.

@@ -4,10 +4,8 @@
 // Usage: instructions          names the scenarios, each with the number of its lines or ticks
 //        instructions NAME     plays one of them
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +14,7 @@
 #include "QuietBot.h"
 #include "engine/Dispatcher.h"
 #include "net/ServerLines.h"
+#include "net/Session.h"
 #include "road/Talk.h"
 
 /// The work that is counted; what has been done before it is not.
@@ -25,37 +24,53 @@ namespace {
 
 constexpr int kTriggers = 300, kBatches = 5, kCount = kBatches * kLinesPerBatch;
 
-const TriggerKind& KindNamed(std::string_view name) {
-    for (const TriggerKind& kind : kTriggerKinds)
-        if (kind.name == name) return kind;
-    std::abort();
+using Reader = std::function<void(std::string_view packet)>;
+
+void ReadEachLine(Bot& bot, std::string_view lines) {
+    for (std::size_t from = 0, end = 0; (end = lines.find('\n', from)) != lines.npos; from = end + 1)
+        ParseServerLine(bot, lines.substr(from, end - from));
 }
 
-/// Reads one batch before it counts, so that what is only made once is not counted.
+/// Reads one batch before it counts, so that what is made only once is not counted.
 /// @return whether the bot has sent as much as it should
-bool ReadLines(const std::string& script, std::vector<Batch> batches) {
+bool ReadBatches(const QuietHost& host, std::vector<Batch> batches, const Reader& reader) {
     batches.resize(kBatches + 1);
-    QuietBot quiet;
-    quiet.bot.profile.owners = std::string(kAsker);
-    quiet.bot.script = std::make_shared<Script>(script);
     std::size_t expected = 0;
     const auto read = [&](const Batch& batch) {
         expected += batch.answers.size();
-        const std::string_view lines = batch.lines;
-        for (std::size_t from = 0, end = 0; (end = lines.find('\n', from)) != lines.npos; from = end + 1)
-            ParseServerLine(quiet.bot, lines.substr(from, end - from));
+        reader(batch.lines);
     };
     read(batches.back());
     batches.pop_back();
     Measured([&] {
         for (const Batch& batch : batches) read(batch);
     });
-    return quiet.host.written == expected;
+    return host.written == expected;
 }
 
-bool ReadLinesFor(std::string_view kindName, int triggers, Lines lines) {
+void GiveScript(QuietBot& quiet, const std::string& script) {
+    quiet.bot.profile.owners = std::string(kAsker);
+    quiet.bot.script = std::make_shared<Script>(script);
+}
+
+bool ReadLines(std::string_view kindName, int triggers, Lines lines) {
     const TriggerKind& kind = KindNamed(kindName);
-    return ReadLines(ScriptOf(kind, triggers), BatchesFor(kind, triggers, lines));
+    QuietBot quiet;
+    GiveScript(quiet, ScriptOf(kind, triggers));
+    return ReadBatches(quiet.host, BatchesFor(kind, triggers, lines),
+                       [&](std::string_view packet) { ReadEachLine(quiet.bot, packet); });
+}
+
+/// Each batch is a packet of the game, which the session cuts.
+bool ReadPackets() {
+    const TriggerKind& kind = KindNamed("equal");
+    QuietBot quiet;
+    QuietLink link;
+    Session session(quiet.bot, link);
+    session.KeepSplitLines(true);
+    GiveScript(quiet, ScriptOf(kind, 1));
+    return ReadBatches(quiet.host, BatchesFor(kind, 1, Lines::Mixed),
+                       [&](std::string_view packet) { session.OnServerData(packet); });
 }
 
 /// A bot of one trigger, which answers each line with many variables, some of them its own.
@@ -73,7 +88,9 @@ bool Expand() {
         "[startingword2]. Item [item7].}\r\n*Endtriggers* 9999 *Endtriggers*\r\n";
     std::vector<Batch> batches(kBatches + 1, batch);
     batches.back().lines.insert(0, "({S} Ann shouts: let us begin\n");
-    return ReadLines(script, batches);
+    QuietBot quiet;
+    GiveScript(quiet, script);
+    return ReadBatches(quiet.host, batches, [&](std::string_view packet) { ReadEachLine(quiet.bot, packet); });
 }
 
 /// Ticks at which no timer is due, with as many causes that are none.
@@ -96,14 +113,15 @@ struct Scenario {
 
 // clang-format off
 const Scenario kScenarios[] = {
-    {"equal",       [] { return ReadLinesFor("equal",       kTriggers, Lines::Speech); }},
-    {"contains",    [] { return ReadLinesFor("contains",    kTriggers, Lines::Speech); }},
-    {"pattern",     [] { return ReadLinesFor("pattern",     kTriggers, Lines::Speech); }},
-    {"owner",       [] { return ReadLinesFor("owner",       kTriggers, Lines::Speech); }},
-    {"other-cause", [] { return ReadLinesFor("other cause", kTriggers, Lines::Speech); }},
-    {"one-trigger", [] { return ReadLinesFor("equal",       1,         Lines::Mixed); }},
-    {"mixed-lines", [] { return ReadLinesFor("equal",       kTriggers, Lines::Mixed); }},
-    {"answered",    [] { return ReadLinesFor("equal",       kTriggers, Lines::AllAnswered); }},
+    {"equal",       [] { return ReadLines("equal",       kTriggers, Lines::Speech); }},
+    {"contains",    [] { return ReadLines("contains",    kTriggers, Lines::Speech); }},
+    {"pattern",     [] { return ReadLines("pattern",     kTriggers, Lines::Speech); }},
+    {"owner",       [] { return ReadLines("owner",       kTriggers, Lines::Speech); }},
+    {"other-cause", [] { return ReadLines("other cause", kTriggers, Lines::Speech); }},
+    {"one-trigger", [] { return ReadLines("equal",       1,         Lines::Mixed); }},
+    {"mixed-lines", [] { return ReadLines("equal",       kTriggers, Lines::Mixed); }},
+    {"answered",    [] { return ReadLines("equal",       kTriggers, Lines::AllAnswered); }},
+    {"packets",     ReadPackets},
     {"variables",   Expand},
     {"timer-ticks", Tick},
 };

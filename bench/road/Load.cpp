@@ -171,6 +171,7 @@ Figures MeasureLoad(const CommandFor& command, const std::vector<Batch>& batches
 Idleness MeasureIdleness(const CommandFor& command, const Batch& question, int seconds) {
     Game game(command);
     game.LetIn(question);
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));  // until it sleeps after its answer
     const long sleeps = game.Program().Sleeps();
     std::this_thread::sleep_for(std::chrono::seconds(seconds));
     return {static_cast<double>(game.Program().Sleeps() - sleeps) / seconds,

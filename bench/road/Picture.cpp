@@ -2,39 +2,37 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
+#include <iterator>
 #include <sstream>
 
 namespace {
 
-constexpr double kWidth = 760, kHeight = 420, kLeft = 70, kRight = 150, kTop = 20, kBottom = 60;
+constexpr double kWidth = 760, kHeight = 420, kLeft = 70, kRight = 100, kTop = 20, kBottom = 60;
 constexpr double kRowOfText = 17;
 
-constexpr char kHead[] = R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 760 420" font-family="sans-serif">
+// The colours of the curves are neither light nor dark, so that they read on any page; only the text changes with it.
+constexpr const char* kColors[] = {"#888888", "#0b84d9", "#d9690b", "#0b9e73", "#c05299", "#a38700"};
+
+constexpr char kHead[] =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" width="760" height="420" viewBox="0 0 760 420" font-family="sans-serif" font-size="14">
 <style>
-text { fill: #333; font-size: 14px } .grid { stroke: #8884; fill: none }
-polyline { fill: none; stroke-width: 2.5 } .end { font-weight: bold }
-.c0 { color: #666 } .c1 { color: #0072b2 } .c2 { color: #b85000 } .c3 { color: #007a5e } .c4 { color: #a8457f } .c5 { color: #8a6d00 }
-polyline, circle { stroke: currentColor } circle, .end { fill: currentColor }
-@media (prefers-color-scheme: dark) {
-text { fill: #ccc }
-.c0 { color: #aaa } .c1 { color: #56b4e9 } .c2 { color: #ff9a3c } .c3 { color: #2fc79a } .c4 { color: #e495c0 } .c5 { color: #f0e442 }
-.end { fill: currentColor }
-}
+text { fill: #777 }
+@media (prefers-color-scheme: light) { text { fill: #333 } }
+@media (prefers-color-scheme: dark) { text { fill: #ccc } }
 </style>
 )";
 
-/// Whole powers of ten around some values, and where a value lies between them.
+/// A scale between two powers of ten, and where a value lies on it.
 class Scale {
   public:
-    Scale(double least, double most, double from, double to)
-        : low_(std::floor(std::log10(least))), high_(std::ceil(std::log10(most))), from_(from), to_(to) {
-        if (high_ <= low_) high_ = low_ + 1;
-    }
+    Scale(double lowPower, double highPower, double from, double to)
+        : low_(lowPower), high_(highPower > lowPower ? highPower : lowPower + 1), from_(from), to_(to) {}
     double Place(double value) const { return from_ + (std::log10(value) - low_) / (high_ - low_) * (to_ - from_); }
+
+    /// The whole powers on it.
     std::vector<double> Steps() const {
         std::vector<double> steps;
-        for (double power = low_; power <= high_; ++power) steps.push_back(std::pow(10, power));
+        for (double power = std::ceil(low_); power <= high_; ++power) steps.push_back(std::pow(10, power));
         return steps;
     }
 
@@ -44,17 +42,19 @@ class Scale {
 
 std::string Number(double value) {
     std::ostringstream text;
-    text << value;
+    text << std::round(value * 100) / 100;
     return text.str();
 }
 
-std::string Text(double x, double y, const std::string& anchor, const std::string& text) {
-    return "<text x=\"" + Number(x) + "\" y=\"" + Number(y) + "\" text-anchor=\"" + anchor + "\">" + text + "</text>\n";
+std::string Text(double x, double y, const std::string& anchor, const std::string& text,
+                 const std::string& style = "") {
+    return "<text x=\"" + Number(x) + "\" y=\"" + Number(y) + "\" text-anchor=\"" + anchor + "\" style=\"" + style +
+           "\">" + text + "</text>\n";
 }
 
 std::string GridLine(double x1, double y1, double x2, double y2) {
-    return "<path class=\"grid\" d=\"M" + Number(x1) + " " + Number(y1) + "L" + Number(x2) + " " + Number(y2) +
-           "\"/>\n";
+    return "<path stroke=\"#888888\" stroke-opacity=\"0.3\" d=\"M" + Number(x1) + " " + Number(y1) + "L" + Number(x2) +
+           " " + Number(y2) + "\"/>\n";
 }
 
 std::string Axes(const std::string& across, const std::string& up, const Scale& x, const Scale& y) {
@@ -71,12 +71,12 @@ std::string Axes(const std::string& across, const std::string& up, const Scale& 
     return svg + "<g transform=\"rotate(-90)\">" + Text(-(kTop + kHeight - kBottom) / 2, 18, "middle", up) + "</g>\n";
 }
 
-std::string Line(const Curve& curve, const Scale& x, const Scale& y) {
-    std::string line = "<polyline points=\"", dots;
+std::string Line(const Curve& curve, const std::string& color, const Scale& x, const Scale& y) {
+    std::string line = "<polyline fill=\"none\" stroke-width=\"2.5\" stroke=\"" + color + "\" points=\"", dots;
     for (const auto& [across, up] : curve.points) {
         const std::string left = Number(x.Place(across)), top = Number(y.Place(up));
         line += left + "," + top + " ";
-        dots += "<circle r=\"3\" cx=\"" + left + "\" cy=\"" + top + "\"/>";
+        dots += "<circle r=\"3.5\" fill=\"" + color + "\" cx=\"" + left + "\" cy=\"" + top + "\"/>";
     }
     return line + "\"/>" + dots + "\n";
 }
@@ -105,13 +105,14 @@ std::string DrawCurves(const std::string& across, const std::string& up, const s
             low = std::min(low, y), high = std::max(high, y);
         }
     }
-    const Scale x(left, right, kLeft, kWidth - kRight), y(low, high, kHeight - kBottom, kTop);
+    const Scale x(std::log10(left), std::log10(right), kLeft, kWidth - kRight);
+    const Scale y(std::floor(std::log10(low)), std::ceil(std::log10(high)), kHeight - kBottom, kTop);
     const std::vector<double> names = PlacesOfNames(curves, y);
     std::string svg = kHead + Axes(across, up, x, y);
     for (std::size_t i = 0; i < curves.size(); ++i) {
-        const double end = x.Place(curves[i].points.back().first) + 10;
-        svg += "<g class=\"c" + std::to_string(i) + "\">" + Line(curves[i], x, y) + "<text class=\"end\" x=\"" +
-               Number(end) + "\" y=\"" + Number(names[i]) + "\">" + curves[i].name + "</text></g>\n";
+        const std::string color = kColors[i % std::size(kColors)];
+        const double end = x.Place(curves[i].points.back().first) + 12;
+        svg += Line(curves[i], color, x, y) + Text(end, names[i], "start", curves[i].name, "fill: " + color);
     }
     return svg + "</svg>\n";
 }

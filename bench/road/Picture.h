@@ -10,7 +10,7 @@ struct Curve {
     std::vector<std::pair<double, double>> points;
 };
 
-/// Draws curves over scales on which each step is ten times the last one, with colours for light and dark pages.
+/// Draws curves over scales on which each step is ten times the last one, for light and dark pages.
 /// @param across, up  what the scales mean
 /// @param curves      six at most; all of their values greater than 0
 /// @return a picture in SVG

@@ -1,8 +1,11 @@
 #include "road/Talk.h"
 
 #include <random>
+#include <stdexcept>
 
-const std::vector<TriggerKind> kTriggerKinds = {
+namespace {
+
+const TriggerKind kTriggerKinds[] = {
     {"equal", "(0:3) When somebody speaks,\r\n (1:2) and the message is {", "where is item @, please?"},
     {"contains", "(0:3) When somebody speaks,\r\n (1:6) and the message has in it {", "item @"},
     {"pattern", "(0:3) When somebody speaks,\r\n (1:4) and the message looks like {", "where is item @*"},
@@ -11,8 +14,6 @@ const std::vector<TriggerKind> kTriggerKinds = {
      "where is item @, please?"},
     {"other cause", "(0:6) When somebody whispers,\r\n (1:2) and the message is {", "where is item @, please?", false},
 };
-
-namespace {
 
 constexpr int kBatches = 64;
 
@@ -94,6 +95,12 @@ class Chatter {
 
 }  // namespace
 
+const TriggerKind& KindNamed(std::string_view name) {
+    for (const TriggerKind& kind : kTriggerKinds)
+        if (kind.name == name) return kind;
+    throw std::runtime_error("there are no triggers of the kind " + std::string(name));
+}
+
 std::string Question(int trigger) { return "where is item " + FourDigits(trigger) + ", please?"; }
 
 std::string Answer(int trigger) { return "Item " + FourDigits(trigger) + " is on the third shelf from the left."; }
@@ -102,7 +109,7 @@ std::string ScriptOf(const TriggerKind& kind, int triggers) {
     std::string script = "VSPK 01.00 Vorel\r\n";
     for (int i = 0; i < triggers; ++i) {
         script += Trigger(kind, i);
-        if (!kind.answers && i == triggers / 2) script += Trigger(kTriggerKinds.front(), i);
+        if (!kind.answers && i == triggers / 2) script += Trigger(KindNamed("equal"), i);
     }
     return script + "*Endtriggers* 9999 *Endtriggers*\r\n";
 }

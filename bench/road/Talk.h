@@ -12,13 +12,15 @@ struct TriggerKind {
     bool answers = true;      ///< otherwise its cause never happens, and one trigger more gives the answers
 };
 
-extern const std::vector<TriggerKind> kTriggerKinds;
+/// @param name  "equal", "contains", "pattern", "owner" or "other cause"
+/// @throws std::runtime_error when there is no such kind
+const TriggerKind& KindNamed(std::string_view name);
 
 /// What the game sends.
 enum class Lines {
-    Speech,      ///< a hundred lines of speech, the last of which is answered
-    Mixed,       ///< the same of a busy place: four in ten are speech, the others moves, looks, emotes and more
-    AllAnswered  ///< every line is answered
+    Mixed,       ///< lines of a busy place: nearly half are speech, the others moves, looks, emotes and more
+    Speech,      ///< nothing but speech
+    AllAnswered  ///< speech that is answered, each line; of the others it is the last one of a hundred
 };
 
 /// A hundred lines, and what has to come back for them.
