@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "bot/Bot.h"
-#include "bot/VariableTable.h"
+#include "bot/BotVariables.h"
 #include "text/Limits.h"
 
 namespace {

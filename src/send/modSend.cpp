@@ -41,12 +41,18 @@ std::string EncodedCoordinate(const Bot& bot, std::int16_t coordinate, std::int1
     return EncodeBase95Pair(NumberOrFault(ExpandNumber(bot, coordinate)), divisor);
 }
 
+/// A command and the expansion of the text behind it.
+std::string WithText(const Bot& bot, std::string_view command, std::string_view text) {
+    std::string room;
+    return std::string(command).append(ExpandVariables(bot, text, room));
+}
+
 void SendLineWithText(Bot& bot, std::string_view command, std::string_view text) {
-    modSend::SendLine(bot, std::string(command) + ExpandVariables(bot, text));
+    modSend::SendLine(bot, WithText(bot, command, text));
 }
 
 void SendSpeechWithText(Bot& bot, std::string_view command, std::string_view text) {
-    modSend::SendSpeech(bot, std::string(command) + ExpandVariables(bot, text));
+    modSend::SendSpeech(bot, WithText(bot, command, text));
 }
 
 }  // namespace
@@ -54,10 +60,10 @@ void SendSpeechWithText(Bot& bot, std::string_view command, std::string_view tex
 namespace modSend {
 
 void SendLine(Bot& bot, std::string_view text) {
-    if (bot.host.IsServerConnected()) bot.host.WriteToServer(ExpandVariables(bot, text) + "\n");
+    if (bot.host.IsServerConnected()) bot.host.WriteToServer(WithText(bot, "", text) += '\n');
 }
 
-void SendSpeech(Bot& bot, std::string_view text) { SendLine(bot, "\"" + ExpandVariables(bot, text)); }
+void SendSpeech(Bot& bot, std::string_view text) { SendLineWithText(bot, "\"", text); }
 
 void ShowNotice(Bot& bot, std::string_view text) {
     const std::string notice = ExpandVariables(bot, text);

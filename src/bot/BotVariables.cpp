@@ -1,4 +1,4 @@
-#include "bot/VariableTable.h"
+#include "bot/BotVariables.h"
 
 #include <algorithm>
 #include <array>
