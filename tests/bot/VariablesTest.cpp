@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "bot/Variables.h"
+#include "engine/PlainRules.h"
 #include "support/Cases.h"
 #include "support/RehearsalBot.h"
 #include "text/Limits.h"
@@ -32,22 +33,6 @@ struct PlainRows {
     }
 };
 
-/// What ExpandVariables does with user variables, words and dice: one replacement after the other.
-std::string ExpandPlainly(std::string text, const Rows& rows, const std::vector<std::string>& words,
-                          const std::vector<std::int16_t>& dice) {
-    for (const auto& [name, value] : rows) text = ReplaceAll(text, name, value);
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        std::string rest;
-        for (std::size_t k = i; k < words.size(); ++k) rest = rest.empty() ? words[k] : rest + " " + words[k];
-        text = ReplaceAll(text, "[word" + std::to_string(i + 1) + "]", words[i]);
-        text = ReplaceAll(text, "[startingword" + std::to_string(i + 1) + "]", rest);
-    }
-    for (std::size_t i = 0; i < dice.size(); ++i) {
-        text = ReplaceAll(text, "[die" + std::to_string(i + 1) + "]", std::to_string(dice[i]));
-    }
-    return text;
-}
-
 TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
     const std::vector<std::string> pieces = Split(
         "[,],a,b,[a],[b],[a[b],ab,[ab,[[,]],[x],[word1],[word2], ,[word,2]"
@@ -74,9 +59,11 @@ TEST(Variables, AreReplacedAsIfEachHadItsTurn) {
         if (plain.rows.size() > 12) plain.rows.clear(), fast.bot.variables.Clear();
         fast.bot.state.message = "w" + text(4);  // an empty message has no words at all
         const std::string line = text(9);
-        const std::string expected =
-            ExpandPlainly(line, plain.rows, Split(fast.bot.state.message, " "), fast.bot.state.dieValues);
+        const std::string expected = ExpandPlainly(fast.bot, line);
         ASSERT_EQ(ExpandVariables(fast.bot, line), expected) << round << ": " << line;
+        Rows rows;
+        for (const auto& [rank, row] : fast.bot.variables.Rows()) rows.emplace_back(row.name, row.value);
+        ASSERT_EQ(rows, plain.rows);
         ASSERT_EQ(fast.bot.variables.Find(name) != nullptr, plain.Row(name) != plain.rows.end());
         replaced += line == expected ? 0 : 1;
     }

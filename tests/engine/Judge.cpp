@@ -47,38 +47,39 @@ class CaseWriter {
     explicit CaseWriter(unsigned seed) : random_(seed) {}
 
     Case Write() {
-        for (int& event : events_) event = Chance(6) ? 46 : Below(53) - 2;
         Case made{Script(), Chance(4) ? Script() : "", {}};
-        for (int count = Below(4); count > 0; --count) made.steps.push_back("let " + Filled("~r"));
-        for (int count = 24; count > 0; --count) made.steps.push_back(Filled("~q"));
+        for (int count = Chance(2) ? Below(4) : 0; count > 0; --count) made.steps.push_back("let " + Filled("~r"));
+        for (int count = 16; count > 0; --count) AddFields(made);
         for (int events = 3; events > 0; --events) {
-            if (Chance(2)) made.steps.push_back(Filled("~q"));
-            made.steps.push_back("event " + std::to_string(Event()));
+            if (Chance(2)) AddFields(made);
+            made.steps.push_back("event " + Event());
         }
         return made;
     }
 
   private:
     std::mt19937 random_;
-    int events_[2] = {};  ///< of which the case tells most
-    bool risky_ = false;
+    bool risky_ = false, inTrigger_ = false;
     std::map<char, Pieces> chosen_;
 
     int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
     bool Chance(int oneIn) { return Below(oneIn) == 0; }
-    int Event() { return Chance(8) ? Below(53) - 2 : events_[Below(2)]; }
+    void AddFields(Case& made) {
+        for (std::string& step : Split(Filled("~q"), "; ")) made.steps.push_back(std::move(step));
+    }
+    std::string Event() { return Chance(8) ? std::to_string(Below(53) - 2) : Any('E'); }
 
-    const std::string& OneOf(const Pieces& pieces) {
+    std::string OneOf(const Pieces& pieces) {
         return pieces[static_cast<std::size_t>(Below(static_cast<int>(pieces.size())))];
     }
     /// Any piece. Of those under a capital letter a case has but a few, so that fields and arguments often meet.
     std::string Any(char letter) {
-        if (letter == 'e') return std::to_string(Event() - 1);
+        if (letter == 'e') return std::to_string(std::stoi(Event()) - 1);
         const Pieces& pieces = AllPieces().at(letter);
         if (letter < 'A' || letter > 'Z') return Filled(OneOf(pieces));
         Pieces& chosen = chosen_[letter];
-        while (chosen.size() < 3) chosen.push_back(Filled(OneOf(pieces)));
-        const std::string& one = OneOf(chosen);
+        while (chosen.size() < 2) chosen.push_back(Filled(OneOf(pieces)));
+        const std::string one = OneOf(chosen);
         return letter == 'T' ? Varied(one) : one;
     }
     std::string Filled(const std::string& piece) {
@@ -98,26 +99,10 @@ class CaseWriter {
     }
     /// The text, or one that nearly is the same.
     std::string Varied(const std::string& text) {
-        switch (Below(16)) {
-            case 0:
-                return UpperCase(text);
-            case 1:
-                return LowerCase(text);
-            case 2:
-                return BarsToBlanks(text);
-            case 3:
-                return BlanksToBars(text);
-            case 4:
-                return text.substr(0, text.size() - (text.empty() ? 0 : 1));
-            case 5:
-                return text.substr(text.empty() ? 0 : 1);
-            case 6:
-                return text + "x";
-            case 7:
-                return " " + text;
-            default:
-                return text;
-        }
+        if (!Chance(3)) return text;
+        const std::size_t less = text.empty() ? 0 : 1;
+        return OneOf({UpperCase(text), LowerCase(text), BarsToBlanks(text), BlanksToBars(text), BlanksToBars(text),
+                      text.substr(less), text.substr(0, text.size() - less), text + "x", " " + text});
     }
 
     std::string Script() {
@@ -127,9 +112,17 @@ class CaseWriter {
         return Chance(3) ? text : text + "\r\n";
     }
     std::string Blanks() { return Chance(8) ? std::string(static_cast<std::size_t>(Below(3)), ' ') : ""; }
+    /// Conditions mostly follow upon a cause, and upon each other.
     std::string Line() {
         const int kind = Below(100);
-        return Any(risky_ && kind < 5 ? 'z' : kind < 12 ? 'p' : kind < 36 ? 'k' : kind < 62 ? 'c' : 'f');
+        const bool another = inTrigger_ && kind < 50;
+        inTrigger_ = another || (kind >= 18 && kind < 45);
+        return Any(risky_ && kind > 95 ? 'z'
+                   : another           ? 'c'
+                   : kind < 12         ? 'p'
+                   : kind < 18         ? 'c'
+                   : kind < 45         ? 'k'
+                                       : 'f');
     }
 };
 
@@ -141,8 +134,9 @@ class Subject final : public Host {
     Subject(const Case& played, Walk walk) : other_(played.other), walk_(walk) {
         bot_.script = std::make_shared<Script>(played.script);
         bot_.profile.characterPath = "folder/secret.ini";
-        files_.contents = {{"folder/f.ini", "[s]\r\nhello there=7\r\nAnn\r\n[list]\r\nBob\r\nhello|there\r\n"},
-                           {"folder/secret.ini", "Name=a\r\nPassword=b\r\n"}};
+        files_.contents = {
+            {"folder/f.ini", "[s]\r\nhello there=7\r\nhello there\r\nAnn\r\n[list]\r\nBob\r\nhello|there\r\n"},
+            {"folder/secret.ini", "Name=a\r\nPassword=b\r\n"}};
         files_.unwritable = "folder/full.ini";
         files_.unreadable = "folder/bad.ini";
     }
@@ -161,18 +155,14 @@ class Subject final : public Host {
     bool HasTold() const { return told_; }
 
     // Host
-    bool IsServerConnected() const override { return connected_; }
+    bool IsServerConnected() const override { return true; }  // what a script sends shall be seen
     bool IsClientConnected() const override { return true; }
     void WriteToServer(std::string_view bytes) override { Tell("sent ", bytes); }
     void WriteToClient(std::string_view bytes) override { Tell("client ", bytes); }
-    void Connect() override {
-        Tell("connect", "");
-        connected_ = true;
-    }
+    void Connect() override { Tell("connect", ""); }
     void Disconnect() override {
         Tell("disconnect", "");
-        if (!connected_ || nested_ == 3) return;
-        connected_ = false;
+        if (nested_ == 3) return;
         PutScript(other_);
         ++nested_;
         walk_(bot_, EventDisconnected);
@@ -199,7 +189,7 @@ class Subject final : public Host {
     const std::vector<NamedField> fields_ = FieldsOf(bot_);
     std::string seen_;
     int nested_ = 0, drawn_ = 0;
-    bool connected_ = true, faulted_ = false, told_ = false;
+    bool faulted_ = false, told_ = false;
 
     void Tell(std::string_view what, std::string_view text) {
         seen_.append(what).append(text) += '\n';
