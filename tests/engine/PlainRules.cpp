@@ -176,50 +176,30 @@ class Condition {
             if (positive == 96) return Is(notice.trigger);
             return IsAt(positive == 92 ? notice.from : positive == 94 ? notice.into : notice.triggerAt);
         }
+        // clang-format off
         switch (positive) {
-            case 70:
-                return Equals(state.map, Whole());
-            case 72:
-                return Equals(state.previousMap, Whole());
-            case 74:
-                return IsListed(state.visitors, Whole());
-            case 82:
-                return state.fst.median == "AM";
-            case 83:
-                return state.fst.median == "PM";
-            case 84:
-                return ColorsEqual();
-            case 86:
-                return IsAt(state.moveFrom);
-            case 88:
-            case 90:
-                return IsAt(state.moveInto);
-            case 100:
-                return Is(state.dice.amount);
-            case 101:
-                return Is(state.dice.sides);
-            case 117:
-                return First() && Last() ? Answer(*First() == *Last()) : std::nullopt;
-            case 118:
-                return First() && Last() ? Answer(Like(*First(), *Last())) : std::nullopt;
-            case 119:
-                return First() && Last() ? Answer(First()->find(*Last()) != std::string::npos) : std::nullopt;
-            case 123:
-                return FileHolds();
-            case 125:
-            case 126:
-                return bot_.profile.connectClient == positive - 125;
-            case 127:
-                return IsListed(bot_.profile.owners.Text(), Whole());
-            case 129:
-                return IsListed(bot_.profile.maps.Text(), Whole());
-            case 131:
-                return Equals(state.dreamName, Whole(6));
-            case 133:
-                return IsAt(state.dream);
-            default:
-                return std::nullopt;
+            case 70: return Equals(state.map, Whole());
+            case 72: return Equals(state.previousMap, Whole());
+            case 74: return IsListed(state.visitors, Whole());
+            case 82: return state.fst.median == "AM";
+            case 83: return state.fst.median == "PM";
+            case 84: return ColorsEqual();
+            case 86: return IsAt(state.moveFrom);
+            case 88: case 90: return IsAt(state.moveInto);
+            case 100: return Is(state.dice.amount);
+            case 101: return Is(state.dice.sides);
+            case 117: return First() && Last() ? Answer(*First() == *Last()) : std::nullopt;
+            case 118: return First() && Last() ? Answer(Like(*First(), *Last())) : std::nullopt;
+            case 119: return First() && Last() ? Answer(First()->find(*Last()) != std::string::npos) : std::nullopt;
+            case 123: return FileHolds();
+            case 125: case 126: return bot_.profile.connectClient == positive - 125;
+            case 127: return IsListed(bot_.profile.owners.Text(), Whole());
+            case 129: return IsListed(bot_.profile.maps.Text(), Whole());
+            case 131: return Equals(state.dreamName, Whole(6));
+            case 133: return IsAt(state.dream);
+            default: return std::nullopt;
         }
+        // clang-format on
     }
 
     Answer NameEquals() const {
@@ -296,7 +276,8 @@ std::vector<NamedField> FieldsOf(Bot& bot) {
         {"online", &s.onlineName}, {"arrived", &s.arrived}, {"present", &s.present}, {"departed", &s.departed},
         {"giver", &s.cookieGiver}, {"cookie", &s.cookieName}, {"connectclient", &bot.profile.connectClient},
         {"dice.amount", &s.dice.amount},
-        {"dice.sides", &s.dice.sides}, {"dice.total", &s.dice.total}, {"hours", &bot.clock.hours}, {"minutes", &bot.clock.minutes}, {"seconds", &bot.clock.seconds},
+        {"dice.sides", &s.dice.sides}, {"dice.total", &s.dice.total}, {"hours", &bot.clock.hours},
+        {"minutes", &bot.clock.minutes}, {"seconds", &bot.clock.seconds},
 
         {"[vorel.name]", &s.vorel.name}, {"[vorel.desc]", &s.vorel.desc}, {"[vorel.badge]", &s.vorel.badge},
         {"[vorel.colors]", &s.vorel.looks.colors}, {"[vorel.gender]", &s.vorel.looks.gender},
