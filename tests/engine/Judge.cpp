@@ -60,7 +60,8 @@ class CaseWriter {
   private:
     std::mt19937 random_;
     bool risky_ = false, inTrigger_ = false;
-    std::map<char, Pieces> chosen_;
+    const bool themed_ = Chance(2);
+    std::map<char, Pieces> chosen_, theme_;
 
     int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
     bool Chance(int oneIn) { return Below(oneIn) == 0; }
@@ -75,12 +76,21 @@ class CaseWriter {
     /// Any piece. Of those under a capital letter a case has but a few, so that fields and arguments often meet.
     std::string Any(char letter) {
         if (letter == 'e') return std::to_string(std::stoi(Event()) - 1);
-        const Pieces& pieces = AllPieces().at(letter);
+        const Pieces& pieces = PiecesOf(letter);
         if (letter < 'A' || letter > 'Z') return Filled(OneOf(pieces));
         Pieces& chosen = chosen_[letter];
         while (chosen.size() < 2) chosen.push_back(Filled(OneOf(pieces)));
         const std::string one = OneOf(chosen);
         return letter == 'T' ? Varied(one) : one;
+    }
+    /// Half of the cases have a theme: a few kinds of conditions and effects, so that they often have to do with each
+    /// other.
+    const Pieces& PiecesOf(char letter) {
+        const Pieces& pieces = AllPieces().at(letter);
+        if (!themed_ || (letter != 'c' && letter != 'f')) return pieces;
+        Pieces& theme = theme_[letter];
+        while (theme.size() < 3) theme.push_back(OneOf(pieces));
+        return Chance(4) ? pieces : theme;
     }
     std::string Filled(const std::string& piece) {
         std::string filled;
