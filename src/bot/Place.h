@@ -37,8 +37,15 @@ class PlaceMark : public Mark<Place> {
     void NextLine() { ++where_.line; }
 };
 
-/// Marks which line the bot is at work on, and whose it is.
+/// Marks which line the bot is at work on, one after the other, and whose they are.
 class HeardMark : public Mark<Heard> {
   public:
-    HeardMark(Bot& bot, Heard::From from, std::string_view line) : Mark(bot.heard, Heard{from, std::string(line)}) {}
+    HeardMark(Bot& bot, Heard::From from) : Mark(bot.heard, Heard{from, {}}) {}
+    HeardMark(Bot& bot, Heard::From from, std::string_view line) : HeardMark(bot, from) { AtLine(line); }
+
+    /// In the memory of the line before, so that a line of the game costs no new one.
+    void AtLine(std::string_view line) {
+        where_.line.assign(line);
+        where_.isWhisper = false;
+    }
 };

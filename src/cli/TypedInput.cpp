@@ -21,12 +21,12 @@ void TypedInput::Read() {
         if (const std::string rest = lines_.TakeRest(); !rest.empty()) HandOver(rest);
         return;
     }
-    for (const std::string& line : lines_.Take({bytes.data(), static_cast<std::size_t>(count)})) HandOver(line);
+    for (const std::string_view line : lines_.Take({bytes.data(), static_cast<std::size_t>(count)})) HandOver(line);
     if (lines_.TakeDropped() > 0)
         std::cerr << "vorel: a typed line was left out: it was longer than 1 MiB" << std::endl;
 }
 
-void TypedInput::HandOver(const std::string& line) {
+void TypedInput::HandOver(std::string_view line) {
     std::string text = FromUtf8(line);
     if (text.ends_with('\r')) text.pop_back();
     onLine_(text);

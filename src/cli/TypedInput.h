@@ -14,7 +14,7 @@ class TypedInput {
 
   private:
     void Read();
-    void HandOver(const std::string& line);
+    void HandOver(std::string_view line);
 
     std::function<void(const std::string&)> onLine_;
     QSocketNotifier notifier_;

@@ -8,19 +8,28 @@ std::vector<std::string> WrittenLines(std::string_view bytes) {
     return lines;
 }
 
-std::vector<std::string> PacketLines::Take(std::string_view packet, bool goesOn) {
+std::vector<std::string_view> PacketLines::Take(std::string_view packet, bool goesOn) {
     if (skips_) {
         const std::size_t end = packet.find('\n');
         if (end == packet.npos) return {};
         skips_ = false;
         packet.remove_prefix(end + 1);
     }
-    std::vector<std::string> lines = Split(TakeRest().append(packet), "\n");
-    skips_ = lines.back().size() > kLongestLine;
-    dropped_ += std::erase_if(lines, [](const std::string& line) { return line.size() > kLongestLine; });
-    if (skips_) return lines;
-    if (keep_ || goesOn) kept_ = std::move(lines.back());
-    lines.pop_back();
+    if (!kept_.empty()) {
+        joined_ = TakeRest();
+        packet = joined_.append(packet);
+    }
+    std::vector<std::string_view> lines;
+    for (std::size_t end = packet.find('\n'); end != packet.npos; end = packet.find('\n')) {
+        end > kLongestLine ? void(++dropped_) : lines.push_back(packet.substr(0, end));
+        packet.remove_prefix(end + 1);
+    }
+    skips_ = packet.size() > kLongestLine;
+    if (skips_) {
+        ++dropped_;
+    } else if (keep_ || goesOn) {
+        kept_ = packet;
+    }
     return lines;
 }
 

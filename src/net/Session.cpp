@@ -178,18 +178,25 @@ void Session::LogIn() {
 
 void Session::OnServerData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsServerConnected()) return;
-    const std::vector<std::string> lines = serverLines_.Take(packet, goesOn);
+    const std::vector<std::string_view> lines = serverLines_.Take(packet, goesOn);
     TellDropped("the server", serverLines_);
-    for (const std::string& line : lines) {
-        Note(Happening::ServerLine, line);
-        HeardMark heard(bot_, Heard::From::Game, line);
-        ParseServerLine(bot_, line);
-        toClient_.append(line).append("\n");
-    }
+    ReadServerLines(lines);
     // The client sees a packet only after the bot has answered it, and in one piece; a flood, in large ones.
     if (goesOn && toClient_.size() < kMostHeldBack) return;
     const std::string relayed = std::exchange(toClient_, {});
     if (!relayed.empty() && bot_.host.IsClientConnected()) bot_.host.WriteToClient(relayed);
+}
+
+void Session::ReadServerLines(const std::vector<std::string_view>& lines) {
+    // Whoever isn't linked by now will not be when the packet has come to its end: a client's link begins a connection.
+    const bool relays = bot_.host.IsClientConnected();
+    HeardMark heard(bot_, Heard::From::Game);
+    for (const std::string_view line : lines) {
+        Note(Happening::ServerLine, line);
+        heard.AtLine(line);
+        ParseServerLine(bot_, line);
+        if (relays) toClient_.append(line).append("\n");
+    }
 }
 
 void Session::TellDropped(std::string_view whose, PacketLines& lines) {
@@ -247,9 +254,9 @@ void Session::OnClientConnected() {
 
 void Session::OnClientData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsClientConnected()) return;
-    const std::vector<std::string> lines = clientLines_.Take(packet, goesOn);
+    const std::vector<std::string_view> lines = clientLines_.Take(packet, goesOn);
     TellDropped("the client", clientLines_);
-    for (const std::string& line : lines) {
+    for (const std::string_view line : lines) {
         Note(Happening::ClientLine, line);
         HeardMark heard(bot_, Heard::From::Client, line);
         if (!FilterLine(line)) continue;

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "bot/Bot.h"
 #include "net/ClientProgram.h"
@@ -106,6 +107,7 @@ class Session {
     SessionObserver* observer_ = nullptr;
 
     void Note(SessionObserver::Happening happening, std::string_view text = {});
+    void ReadServerLines(const std::vector<std::string_view>& lines);
     void TellDropped(std::string_view whose, PacketLines& lines);
     void ConnectStandAlone();
     void ConnectThroughClient();
