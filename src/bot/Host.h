@@ -25,6 +25,9 @@ class Host {
     virtual void Connect() = 0;
     virtual void Disconnect() = 0;
 
+    /// Whether anybody reads the console. Who makes a line of it for each line of the game asks first.
+    virtual bool IsConsoleRead() const { return true; }
+
     /// Appends a line to the console.
     virtual void ShowConsoleLine(std::string_view line) = 0;
 

@@ -21,7 +21,7 @@ std::string ConsoleOutput::LogTo(const std::string& path) {
 
 void ConsoleOutput::Show(const std::string& label, std::string_view line) {
     const std::string shown = (label.empty() ? "" : "[" + label + "] ") + Printable(line);
-    if (!quiet_) std::cout << shown << std::endl;
+    if (!quiet_) std::cout << shown + '\n';  // not flushed: the run does so when it has nothing else to do
     Log(shown);
 }
 

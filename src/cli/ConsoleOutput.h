@@ -14,6 +14,9 @@ class ConsoleOutput {
     /// @return why that file can't be one, in words; empty when it can
     std::string LogTo(const std::string& path);
 
+    /// Whether anything becomes of what is shown: standard output has it, or the log.
+    bool IsRead() const { return !quiet_ || log_.IsOpen(); }
+
     /// @param label  of the bot, UTF-8; empty when there is only one
     /// @param line   Windows-1252, without a line end
     void Show(const std::string& label, std::string_view line);

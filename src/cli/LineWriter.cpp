@@ -50,7 +50,12 @@ void LineWriter::Put(std::string line) {
     }
     TellDropped();
     Queue(std::move(line));
-    changed_.notify_all();
+    if (waitingBytes_ >= kPiece) changed_.notify_all();
+}
+
+void LineWriter::WakeUp() {
+    const std::lock_guard lock(mutex_);
+    if (!waiting_.empty()) changed_.notify_all();
 }
 
 bool LineWriter::HasRoomFor(const std::string& line) const {
@@ -58,7 +63,8 @@ bool LineWriter::HasRoomFor(const std::string& line) const {
 }
 
 void LineWriter::AwaitRoomFor(const std::string& line, std::unique_lock<std::mutex>& lock) {
-    if (stuck_) return;
+    if (stuck_ || givenUp_ || HasRoomFor(line)) return;
+    changed_.notify_all();
     stuck_ = !changed_.wait_for(lock, kPatience, [&] { return givenUp_ || HasRoomFor(line); });
 }
 
@@ -75,6 +81,7 @@ void LineWriter::TellDropped() {
 
 bool LineWriter::Finish(std::chrono::milliseconds patience) {
     std::unique_lock lock(mutex_);
+    changed_.notify_all();
     return changed_.wait_for(lock, patience, [this] { return givenUp_ || (waiting_.empty() && !writing_); });
 }
 

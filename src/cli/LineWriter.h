@@ -22,8 +22,12 @@ class LineWriter {
     LineWriter(const LineWriter&) = delete;
     LineWriter& operator=(const LineWriter&) = delete;
 
+    /// Puts a line behind those that wait; they are written when a good deal waits, or WakeUp says so.
     /// @param line  with its line end
     void Put(std::string line);
+
+    /// Has what waits written now: once for many lines, since each time the other thread must come to life.
+    void WakeUp();
 
     /// How long a line waits for room; once in vain, none waits again before something has been read.
     static constexpr std::chrono::milliseconds kPatience{100};

@@ -76,4 +76,9 @@ std::streamsize Printing::Lines::xsputn(const char* text, std::streamsize count)
     return count;
 }
 
+int Printing::Lines::sync() {
+    writer_.WakeUp();
+    return 0;
+}
+
 void Printing::Lines::HandOver() { writer_.Put(std::exchange(unfinished_, {})); }

@@ -8,7 +8,7 @@
 /// While it lives, what a verb prints on std::cout and std::cerr, and what Qt has to say, goes line by line through
 /// LineWriters: a terminal stopped with Ctrl+S or a pipe that nobody reads must not stop the bot. Where standard output
 /// and standard error lead to the same place their lines keep their order; where they don't, the one still comes
-/// through when the other is stuck.
+/// through when the other is stuck. What is printed without a flush may wait for the next one; Leave is one, too.
 class Printing {
   public:
     Printing();
@@ -30,6 +30,7 @@ class Printing {
       protected:
         int_type overflow(int_type character) override;
         std::streamsize xsputn(const char* text, std::streamsize count) override;
+        int sync() override;
 
       private:
         LineWriter& writer_;

@@ -63,6 +63,7 @@ void TerminalBot::TypeLine(const std::string& line) {
 }
 
 void TerminalBot::ShowConsoleLine(std::string_view line) {
+    if (!output_.IsRead()) return;
     output_.Show(hasLabel_ ? Label() : "", WithoutPasswords(host_.bot(), line));
 }
 

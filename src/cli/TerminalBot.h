@@ -55,6 +55,7 @@ class TerminalBot final : public FrontEnd {
     void KeepSplitLines(bool keep);
 
     // FrontEnd
+    bool IsConsoleRead() const override { return output_.IsRead(); }
     void ShowConsoleLine(std::string_view line) override;
     void ClearConsole() override {}
     void ShowMessage(std::string_view title, std::string_view text) override;

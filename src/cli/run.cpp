@@ -1,9 +1,11 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QTimer>
 #include <algorithm>
+#include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -65,6 +67,9 @@ class TerminalRun {
         if (AllAreIdle()) return AnyHasFaulted() ? kFaultExit : kConfigExit;
 
         const EndSignals endSignals([this] { End(0); });
+        // The console, which is gathered while a turn of the event loop has something to do.
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                         QCoreApplication::instance(), [] { std::cout.flush(); });
         const TypedInput input([this](const std::string& line) { Type(line); });
         return QCoreApplication::exec();
     }

@@ -9,11 +9,22 @@
 
 namespace {
 
+/// Whether a password is written in one way only.
+bool IsPlain(const std::string& password) {
+    return std::all_of(password.begin(), password.end(),
+                       [](char c) { return c != '|' && static_cast<unsigned char>(c) < 0x80; });
+}
+
 /// Every way in which a password may be written, the longest first, so that no end of it is left behind a shorter one.
 std::vector<std::string> Spellings(const Bot& bot) {
     std::vector<std::string> spellings;
-    for (const std::string& password : {bot.state.password, bot.characterPassword}) {
+    for (const std::string* each : {&bot.state.password, &bot.characterPassword}) {
+        const std::string& password = *each;
         if (password.empty()) continue;
+        if (IsPlain(password)) {
+            spellings.push_back(password);
+            continue;
+        }
         const std::string blanks = BarsToBlanks(password);
         spellings.insert(spellings.end(), {password, blanks, ToUtf8(password), ToUtf8(blanks)});
     }

@@ -42,7 +42,7 @@ void ReadTextLine(Bot& bot, const ServerLine& line) {
     if (hasName && (isIgnored() || !ReadForm(bot, line))) return;
     // Behind the events: what the script shows on the console stands above the line that it answers, and a line that
     // has shut the bot down is not shown.
-    if (bot.state.shutDown) return;
+    if (bot.state.shutDown || !bot.host.IsConsoleRead()) return;
     const std::string_view text = line.RestFrom(kTextAt);
     text.find('|') == text.npos ? bot.host.ShowConsoleLine(text) : bot.host.ShowConsoleLine(BarsToBlanks(text));
 }

@@ -35,9 +35,16 @@ ConsoleLog::Refusal ConsoleLog::Open(const std::string& path) {
     return opened ? Refusal::None : Refusal::CantBeWritten;
 }
 
+/// Now, worked out once a second.
+const QByteArray& ConsoleLog::Time() {
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    if (std::exchange(second_, now) != now) time_ = QDateTime::fromSecsSinceEpoch(now).toString(kTimeFormat).toUtf8();
+    return time_;
+}
+
 bool ConsoleLog::Append(std::string_view line) {
     if (!IsOpen()) return true;
-    QByteArray entry = QDateTime::currentDateTime().toString(kTimeFormat).toUtf8();
+    QByteArray entry = Time();
     entry.append(line.data(), static_cast<qsizetype>(line.size()));
     const auto isControl = [](char c) { return (static_cast<unsigned char>(c) < ' ' && c != '\t') || c == '\x7F'; };
     std::replace_if(entry.begin(), entry.end(), isControl, ' ');

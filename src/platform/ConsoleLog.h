@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QFile>
 #include <string>
 #include <string_view>
@@ -28,4 +29,8 @@ class ConsoleLog {
   private:
     QFile file_;
     bool broken_ = false;
+    qint64 second_ = -1;
+    QByteArray time_;  ///< of that second
+
+    const QByteArray& Time();
 };

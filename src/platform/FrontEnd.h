@@ -9,6 +9,9 @@ class FrontEnd {
   public:
     virtual ~FrontEnd() = default;
 
+    /// Whether ShowConsoleLine comes to anything.
+    virtual bool IsConsoleRead() const { return true; }
+
     virtual void ShowConsoleLine(std::string_view line) = 0;
     virtual void ClearConsole() = 0;
     virtual void ShowMessage(std::string_view title, std::string_view text) = 0;

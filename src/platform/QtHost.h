@@ -58,6 +58,7 @@ class QtHost final : public QObject, public Host, public Link {
     void WriteToClient(std::string_view bytes) override { client_.Write(bytes); }
     void Connect() override { dialer_.ConnectForScript(); }
     void Disconnect() override { dialer_.Disconnect(); }
+    bool IsConsoleRead() const override { return frontEnd_.IsConsoleRead(); }
     void ShowConsoleLine(std::string_view line) override { frontEnd_.ShowConsoleLine(line); }
     void SwitchMovementTimer(bool enabled) override;
     LocalTime Now() const override { return LocalNow(); }
