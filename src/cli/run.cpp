@@ -34,9 +34,9 @@ namespace {
 /// How long after the last step of a tour the bots still have for their answers.
 constexpr int kLastAnswersMs = 2000;
 
-/// What a run has open: for itself, for each bot (a connection, and what watches its end; both twice in client mode,
-/// which its script can begin at any time), and for each guest of the practice dream.
-constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 4, kFilesOfAGuest = 1;
+/// What a run has open: for itself, for each bot (a connection, and the client's in client mode, which its script can
+/// begin at any time), and for each guest of the practice dream.
+constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 2, kFilesOfAGuest = 1;
 
 /// Why so many bots can't run in one process; empty when they can.
 std::string TooManyBots(std::size_t bots, bool practice) {

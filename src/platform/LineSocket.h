@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "net/Link.h"
-#include "platform/LinuxTcp.h"
+#include "platform/SocketStream.h"
 
 /// One connection of a bot: to the game server, or from the local client. It keeps its bounds whatever the other side
 /// does: that one is slowed down when it sends faster than it is read, and let go when it does not read, does not
@@ -47,8 +47,13 @@ class Wire final : public QObject {
     /// Sends in the background; does nothing when not connected.
     void Write(std::string_view bytes);
 
+    /// Has what was written gathered no longer, but sent.
+    void Send() {
+        if (stream_) stream_->Send();
+    }
+
     /// What was written and still waits to go out.
-    qint64 UnsentBytes() const { return socket_->bytesToWrite(); }
+    qint64 UnsentBytes() const { return stream_ ? static_cast<qint64>(stream_->UnsentBytes()) : 0; }
 
     /// Goes on reading, when it may.
     void Resume() { Read(); }
@@ -58,27 +63,32 @@ class Wire final : public QObject {
     void Close();
 
   private:
-    QTcpSocket* socket_;
+    QTcpSocket* socket_;  ///< until it is connected; then the stream has taken over
+    std::unique_ptr<SocketStream> stream_;
     Listener listener_;
     std::string host_;
-    std::unique_ptr<EndWatch> watch_;
+    std::string ahead_;  ///< what has arrived while it might not be read
     QTimer tmrSilence_{this}, tmrAnswer_{this};
-    qint64 slice_;           ///< how much is read at a time
-    bool waits_ = false;     ///< the rest of a flood, for its turn: what arrives meanwhile waits behind it
-    bool ending_ = false;    ///< why it ends is settled
-    bool draining_ = false;  ///< closed by the other side, what it sent not read yet
-    bool full_ = false;      ///< too much is unread: it is about to be let go
-    bool over_ = false;      ///< nothing more is told
+    std::size_t slice_;    ///< how much is read at a time
+    bool reads_ = false;   ///< a packet is at its reader
+    bool waits_ = false;   ///< the rest of what was read ahead, for its turn
+    bool ending_ = false;  ///< why it ends is settled
+    bool full_ = false;    ///< too much is unread: it is about to be let go
+    bool over_ = false;    ///< nothing more is told
 
     void BeConnected();
-    void Flush();
+    void OnReadable();
+    void OnSent();
     void Read();
-    void ReadPacket();
+    bool ReadPacket();
+    std::size_t ReadSlice(char* bytes);
+    void ReadAhead();
+    void ReadLater();
     void EndLater(const SocketError& error);
     void End(const std::optional<SocketError>& error);
     void Drain(const std::optional<SocketError>& error);
     SocketError Failure(int number, std::string_view what, int systemCode = 0) const;
-    SocketError BrokenOff() const;
+    std::optional<SocketError> AsError(int end) const;
 };
 
 /// One of the two sockets of a bot, over all its connections: for each it has a Wire, and none when it is closed.
@@ -100,6 +110,9 @@ class LineSocket {
 
     /// Do nothing when the socket is closed.
     void Write(std::string_view bytes);
+    void Send() {
+        if (wire_) wire_->Send();
+    }
     void Resume();
 
     /// What was written and still waits to go out.

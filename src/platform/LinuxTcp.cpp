@@ -1,11 +1,9 @@
 #include "platform/LinuxTcp.h"
 
-#include <fcntl.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 namespace {
 
@@ -34,22 +32,4 @@ void KeepAlive(qintptr descriptor) {
 qint64 WaitingBytes(qintptr descriptor) {
     int bytes = 0;
     return ::ioctl(static_cast<int>(descriptor), FIONREAD, &bytes) == 0 ? bytes : 0;
-}
-
-EndWatch::EndWatch(qintptr descriptor) : descriptor_(::fcntl(static_cast<int>(descriptor), F_DUPFD_CLOEXEC, 0)) {}
-
-EndWatch::~EndWatch() {
-    if (descriptor_ >= 0) ::close(descriptor_);
-}
-
-bool EndWatch::WasReset() const {
-    tcp_info info{};
-    socklen_t size = sizeof info;
-    if (::getsockopt(descriptor_, IPPROTO_TCP, TCP_INFO, &info, &size) != 0 || info.tcpi_state != TCP_CLOSE)
-        return false;  // it waits for this side to close too
-    // Behind an orderly end a reset only says that nobody reads any more. Its error is still there then, while that of
-    // a mere reset was taken by the reader.
-    int error = 0;
-    size = sizeof error;
-    return ::getsockopt(descriptor_, SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
 }

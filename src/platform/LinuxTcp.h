@@ -12,20 +12,3 @@ void KeepAlive(qintptr descriptor);
 /// The bytes that have arrived and are not read from the system yet.
 /// @param descriptor  of a socket; 0 for none that is open
 qint64 WaitingBytes(qintptr descriptor);
-
-/// Keeps a connection in sight after its socket was closed at the other side's end, to tell how that came.
-class EndWatch {
-  public:
-    /// @param descriptor  of a connected socket
-    explicit EndWatch(qintptr descriptor);
-    ~EndWatch();
-    EndWatch(const EndWatch&) = delete;
-    EndWatch& operator=(const EndWatch&) = delete;
-
-    /// Whether the other side has broken the connection off instead of closing it in order. To be asked once, after
-    /// reading has come to its end.
-    bool WasReset() const;
-
-  private:
-    int descriptor_;
-};

@@ -48,6 +48,13 @@ void QtHost::RunHandler(const std::function<void()>& handler) {
     } catch (const std::exception& exception) {
         EndWith(exception);
     }
+    SendAll();
+}
+
+/// What a handler has written leaves in one piece.
+void QtHost::SendAll() {
+    server_.Send();
+    client_.Send();
 }
 
 void QtHost::EndWith(const std::exception& exception) {

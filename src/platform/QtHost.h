@@ -85,6 +85,9 @@ class QtHost final : public QObject, public Host, public Link {
     void ShowMessage(std::string_view title, std::string_view text) override { frontEnd_.ShowMessage(title, text); }
     void StatusChanged() override { frontEnd_.StatusChanged(); }
 
+    /// What was sent to the server and still waits to go out.
+    qint64 UnsentBytes() const { return server_.UnsentBytes(); }
+
     /// The folder that programs are started from; empty before a client was started.
     const std::string& CurrentFolder() const { return currentFolder_; }
 
@@ -106,6 +109,7 @@ class QtHost final : public QObject, public Host, public Link {
     Dialer dialer_{session_, runHandler_, [this] { return Random(); }, this};
     SendBrake brake_;
 
+    void SendAll();
     void StartTimers();
     void SendBraked(std::string_view lines);
     void ReleaseBraked();

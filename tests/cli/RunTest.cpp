@@ -188,11 +188,11 @@ TEST_F(RunTest, AFaultEndsItsBotAloneWhichBeginsAgainWhenItIsToStay) {
 
 TEST_F(RunTest, RefusesMoreBotsThanItMayHaveConnections) {
     const QString refusal =
-        "vorel run: 5 bots take 52 open files and connections, 4 each and some for the program, but a program may have "
-        "51 here. Raise that limit (\"ulimit -n 52\" in the shell, LimitNOFILE=52 in a unit of systemd), or run fewer "
+        "vorel run: 5 bots take 42 open files and connections, 2 each and some for the program, but a program may have "
+        "41 here. Raise that limit (\"ulimit -n 42\" in the shell, LimitNOFILE=42 in a unit of systemd), or run fewer "
         "bots at a time.\n";
     for (const auto& [limit, status, said] :
-         {std::tuple{"-n 51", 64, refusal}, {"-Sn 51", 66, "vorel run: there is no profile nobody.tvm\n"}}) {
+         {std::tuple{"-n 41", 64, refusal}, {"-Sn 41", 66, "vorel run: there is no profile nobody.tvm\n"}}) {
         QProcess shell;
         shell.setWorkingDirectory(files.Path());
         shell.start("sh", {"-c", QString("ulimit %1; exec \"$0\" run%2").arg(limit, QString(" nobody.tvm").repeated(5)),

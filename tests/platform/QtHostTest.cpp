@@ -54,8 +54,8 @@ TEST_F(QtHostTest, DisconnectingSendsWhatWasSaidBefore) {
     LogIn();
     const std::string line = "\"" + std::string(100000, 'x') + "\n";
     QByteArray much;
-    for (auto& socket = *host.findChild<QTcpSocket*>(); socket.bytesToWrite() < 500000; socket.flush()) {
-        host.WriteToServer(line);  // more than the system takes at once
+    while (host.UnsentBytes() < 500000) {
+        host.RunHandler([&] { host.WriteToServer(line); });  // more than the system takes at once
         much += line.c_str();
     }
     host.Disconnect();
