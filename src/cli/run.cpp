@@ -25,6 +25,7 @@
 #include "platform/DiskFiles.h"
 #include "platform/Guarded.h"
 #include "platform/OpenFiles.h"
+#include "platform/PlainEventLoop.h"
 #include "practice/PracticeServer.h"
 #include "text/Fault.h"
 #include "text/Text.h"
@@ -66,10 +67,10 @@ class TerminalRun {
         // Not one has so much as begun to connect.
         if (AllAreIdle()) return AnyHasFaulted() ? kFaultExit : kConfigExit;
 
-        const EndSignals endSignals([this] { End(0); });
         // The console, which is gathered while a turn of the event loop has something to do.
         QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
                          QCoreApplication::instance(), [] { std::cout.flush(); });
+        const EndSignals endSignals([this] { End(0); });
         const TypedInput input([this](const std::string& line) { Type(line); });
         return QCoreApplication::exec();
     }
@@ -190,7 +191,9 @@ int Run(const RunOptions& options) {
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
     Printing printing;  // first, and so the last to go: the others may have something to say on their way out
+    std::optional<PlainEventLoop> plain(std::in_place);
     Guarded<QCoreApplication> application(argumentCount, arguments);
+    plain.reset();
     TerminalRun run(options);
     application.OnException([&](const std::exception& exception) { run.OnFault(DescribeFault(AsFault(exception))); });
     return printing.Leave(run.Run());
