@@ -47,9 +47,9 @@ class CaseWriter {
     explicit CaseWriter(unsigned seed) : random_(seed) {}
 
     Case Write() {
-        Case made{Script(), Chance(4) ? Script() : "", {}};
+        Case made{Chance(3) ? Triggers() : Script(), Chance(4) ? Script() : "", {}};
         for (int count = Chance(2) ? Below(4) : 0; count > 0; --count) made.steps.push_back("let " + Filled("~r"));
-        for (int count = 16; count > 0; --count) AddFields(made);
+        for (int count = 32; count > 0; --count) AddFields(made);
         for (int events = 3; events > 0; --events) {
             if (Chance(2)) AddFields(made);
             made.steps.push_back("event " + Event());
@@ -121,18 +121,24 @@ class CaseWriter {
         for (int lines = Below(28); lines >= 0; --lines) text += "\r\n" + Blanks() + Line() + Blanks();
         return Chance(3) ? text : text + "\r\n";
     }
+    /// Triggers in good order that tell when they fire, so that whether each is found can be seen.
+    std::string Triggers() {
+        std::string text = "VSPK 01.00 Vorel";
+        for (int i = Below(8); i >= 0; --i) {
+            text += "\r\n(0:" + Any('e') + ") x\r\n" + Any('c') + "\r\n" + Any(Chance(3) ? 'c' : 'p') + "\r\n(5:2) {" +
+                    std::to_string(i) + "}\r\n" + Any(Chance(3) ? 'f' : 'p');
+        }
+        return text + "\r\n";
+    }
     std::string Blanks() { return Chance(8) ? std::string(static_cast<std::size_t>(Below(3)), ' ') : ""; }
     /// Conditions mostly follow upon a cause, and upon each other.
     std::string Line() {
         const int kind = Below(100);
+        if (kind < 10) return Any('p');
+        if (risky_ && kind > 95) return Any('z');
         const bool another = inTrigger_ && kind < 50;
         inTrigger_ = another || (kind >= 18 && kind < 45);
-        return Any(risky_ && kind > 95 ? 'z'
-                   : another           ? 'c'
-                   : kind < 12         ? 'p'
-                   : kind < 18         ? 'c'
-                   : kind < 45         ? 'k'
-                                       : 'f');
+        return Any(another || kind < 18 ? 'c' : kind < 45 ? 'k' : 'f');
     }
 };
 
