@@ -88,6 +88,7 @@ TEST_P(Multiplies, EndsInAFault) {
                                          "[long]\r\nkey=" + std::string(kLongestText + 1, 'a');
     bot.bot.variables.Set("[memory]", ReplaceAll(std::string(200, 'm'), "m", "[memory]"));
     bot.SetScript({"(0:46) told,", GetParam(), "(0:2) never,"});
+    bot.bot.variables.Set("[thrice]", "[word1][word1][word1]");
     const auto tell = [&] { bot.session.TypeLine("\"&" + std::string(400000, 'b')); };
     EXPECT_EQ(FaultOf([&] { tell(), tell(), tell(); }), FaultKind::OutOfMemory);
     EXPECT_TRUE(bot.told.empty()) << bot.told.front().size();
@@ -96,6 +97,9 @@ TEST_P(Multiplies, EndsInAFault) {
 INSTANTIATE_TEST_SUITE_P(Variables, Multiplies,
                          testing::Values("(5:15) describe {[memory]}", "(5:8) say {[word1][word1][startingword1]}",
                                          "(5:22) move {[message]}", "(5:82) take the owner {[message]}",
-                                         "(5:77) {list} {f} {v}", "(5:74) {long} {f} {key} {v}"));
+                                         "(5:77) {list} {f} {v}", "(5:74) {long} {f} {key} {v}",
+                                         // Every condition is tested, also where another one does not hold.
+                                         "(1:2) {no}\r\n(1:2) {[message][word1][message]}\r\n(5:3) sit",
+                                         "(1:2) {no}\r\n(1:2) {[thrice]}\r\n(5:3) sit"));
 
 }  // namespace
