@@ -6,8 +6,30 @@ using testing::ElementsAre;
 
 namespace {
 
+/// A server that takes no calls.
+struct DeafServer {
+    DeafServer() {
+        listener.setListenBacklogSize(0);
+        listener.listen(QHostAddress::LocalHost);
+        listener.pauseAccepting();
+        first.connectToHost(listener.serverAddress(), listener.serverPort());
+        EXPECT_TRUE(first.waitForConnected());
+    }
+    QTcpServer listener;
+    QTcpSocket first;
+};
+
 class QtHostTest : public HostBench {
   protected:
+    /// Waits for a client.
+    /// @return the port at which
+    quint16 AwaitClient() {
+        host.bot().profile.connectClient = 1;
+        host.bot().profile.clientPath = files.Write("client", "#!/bin/sh\n").toStdString();
+        host.ConnectNow();
+        return files.Read("proxy.ini").mid(10).trimmed().toUShort();
+    }
+
     void LogIn() {
         const std::size_t session = server.bots.size();
         host.ConnectNow();
@@ -87,14 +109,8 @@ TEST_F(QtHostTest, AResetIsNoOrderlyEndButWhatCameBeforeStillCounts) {
 }
 
 TEST_F(QtHostTest, GivesUpAHostThatDoesNotAnswer) {
-    QTcpServer deaf;
-    deaf.setListenBacklogSize(0);
-    deaf.listen(QHostAddress::LocalHost);
-    deaf.pauseAccepting();
-    QTcpSocket first;
-    first.connectToHost(deaf.serverAddress(), deaf.serverPort());
-    ASSERT_TRUE(first.waitForConnected());
-    host.session().SetServer("127.0.0.1", deaf.serverPort());
+    const DeafServer deaf;
+    host.session().SetServer("127.0.0.1", deaf.listener.serverPort());
     host.ConnectNow();
     for (const auto& [timer, word] : {std::pair{"tmrSilence", "has not answered yet"},
                                       {"tmrAnswer", "Server Socket Error 5: there was no answer within 20 seconds"}}) {
@@ -218,11 +234,8 @@ TEST_F(QtHostTest, NothingRunsAfterAFault) {
 }
 
 TEST_F(QtHostTest, LeadsOneClientToTheServer) {
-    host.bot().profile.connectClient = 1;
-    host.bot().profile.clientPath = files.Write("client", "#!/bin/sh\n").toStdString();
     EXPECT_FALSE(host.ListenForClient(static_cast<std::int16_t>(server.listener.serverPort()))) << "it is taken";
-    host.ConnectNow();
-    const quint16 port = files.Read("proxy.ini").mid(10).trimmed().toUShort();
+    const quint16 port = AwaitClient();
     EXPECT_EQ(files.Read("proxy.ini"), "localhost " + QByteArray::number(port) + "\r\n");
     QTcpServer elsewhere;
     EXPECT_TRUE(elsewhere.listen(QHostAddress("127.0.0.2"), port)) << "the link listens on one address only";
@@ -247,6 +260,21 @@ TEST_F(QtHostTest, LeadsOneClientToTheServer) {
     EXPECT_TRUE(server.Hears("hi\nwh Ann bye\n"));
     EXPECT_TRUE(Eventually([&] { return !host.session().status().canStandAlone; }));
     EXPECT_TRUE(host.IsServerConnected());
+}
+
+TEST_F(QtHostTest, NoticesThatAClientLeavesWhichWaitsForTheServer) {
+    const DeafServer deaf;
+    host.session().SetServer("127.0.0.1", deaf.listener.serverPort());
+    QTcpSocket client;
+    client.connectToHost(QHostAddress(QHostAddress::LocalHost), AwaitClient());
+    ASSERT_TRUE(client.waitForConnected());
+    client.write("connect Cat x\n");
+    ASSERT_TRUE(Eventually([&] { return host.IsClientConnected(); }));
+    EXPECT_EQ(host.bot().state.vorel.name, "");
+    client.disconnectFromHost();
+    EXPECT_TRUE(Eventually([&] { return !host.IsClientConnected(); }));
+    EXPECT_EQ(host.bot().state.vorel.name, "Cat") << "what it said before still counts";
+    EXPECT_FALSE(host.session().status().canConnect) << "the server may still answer";
 }
 
 }  // namespace
