@@ -20,7 +20,8 @@ std::string ConsoleOutput::LogTo(const std::string& path) {
 }
 
 void ConsoleOutput::Show(const std::string& label, std::string_view line) {
-    const std::string shown = (label.empty() ? "" : "[" + label + "] ") + Printable(line);
+    std::string shown = Printable(line);
+    if (!label.empty()) shown.insert(0, "[" + label + "] ");
     if (!quiet_) std::cout << shown + '\n';  // not flushed: the run does so when it has nothing else to do
     Log(shown);
 }

@@ -37,4 +37,7 @@ std::string MissingScript(const std::string& profilePath, const ProfileLoad& loa
     return profilePath + ": there is no script " + ToUtf8(load.missingScript) + "; the bot runs without one";
 }
 
-std::string Printable(std::string_view text) { return ToUtf8(Harmless(std::string(text))); }
+std::string Printable(std::string_view text) {
+    const bool asItIs = std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c < 0x7F; });
+    return asItIs ? std::string(text) : ToUtf8(Harmless(std::string(text)));  // asked first: most lines are
+}
