@@ -65,7 +65,7 @@ std::optional<FurreId> Dream::Arrive(std::string_view name, std::string_view bad
     if (!IsFurreName(name) || FindGuest(world_, name)) return std::nullopt;
     Guest* const guest = AddGuest();
     if (!guest) return std::nullopt;
-    guest->who.name = name;
+    LetIn(world_, *guest, name);
     guest->who.badge = badge;
     guest->who.desc = "A visitor of the practice dream.";
     modTravel::EnterMap(world_, *guest, guest->map);
@@ -87,7 +87,7 @@ void Dream::LogIn(Guest& guest, std::string_view nameAndPassword) {
     const std::string_view name = nameAndPassword.substr(0, nameAndPassword.find(' '));
     if (!IsFurreName(name)) return TurnAway(guest, "This name can't be used here.");
     if (FindGuest(world_, name)) return TurnAway(guest, "A furre of this name is in the dream already.");
-    guest.who.name = name;
+    LetIn(world_, guest, name);
     world_.Send(guest, modDreamLines::Welcome(name));
     modTravel::EnterMap(world_, guest, guest.map);
 }
@@ -99,7 +99,7 @@ void Dream::TurnAway(Guest& guest, std::string_view why) {
 
 void Dream::Leave(FurreId furre) {
     modRequests::ForgetRequestsOf(world_, furre);  // a request is answered without looking whether its sender is here
-    world_.guests.erase(furre);
+    RemoveGuest(world_, furre);
 }
 
 bool Dream::Boot(std::string_view name) {

@@ -56,7 +56,8 @@ class Dream {
     FurreId lastId_ = 0;
 };
 
-inline constexpr std::size_t kMostFurres = 200;
+/// A thousand bots and their visitors; each that comes is shown to all that are there.
+inline constexpr std::size_t kMostFurres = 2000;
 inline constexpr std::size_t kLongestLine = 2000;
 
 /// 1 to 40 characters: letters and digits of the code page, "|", "-", "_", "'" and ".", and none of the words that

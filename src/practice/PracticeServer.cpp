@@ -3,20 +3,22 @@
 #include <QDateTime>
 #include <QHostAddress>
 #include <QRandomGenerator>
-#include <QTcpSocket>
 #include <exception>
-#include <map>
-#include <vector>
+#include <utility>
 
+#include "practice/GuestSocket.h"
+#include "practice/modDreamLines.h"
 #include "text/Text.h"
 
 namespace {
 
-/// A client that sends this much without a line feed has its line cut, one that sends a lot is heard bit by bit, and
-/// one that doesn't read what it is sent is let go: none of them may fill the computer's memory.
+/// A client that sends this much without a line feed has its line cut, and one that doesn't read what it is sent is let
+/// go: none of them may fill the computer's memory.
 constexpr qsizetype kLongestUnfinished = 16'384;
-constexpr qint64 kHeardAtOnce = 4'096;
-constexpr qint64 kMostUnread = 16'777'216;
+constexpr qsizetype kMostUnread = 16'777'216;
+
+/// More than this does not wait to be sent until all else has had its turn.
+constexpr qsizetype kLongestPiece = 4'096;
 
 LocalTime ComputerTime() {
     const QDateTime now = QDateTime::currentDateTime();
@@ -51,16 +53,14 @@ DreamPorts MachinePorts() {
 PracticeServer::PracticeServer(PracticeSettings settings, QObject* parent)
     : QObject(parent), dream_(std::move(settings.ports)), tour_(std::move(settings.tour), dream_) {
     second_.setInterval(settings.secondMs);
-    connect(&listener_, &QTcpServer::newConnection, this, [this] { Guarded([this] { TakeConnections(); }); });
+    listener_.onConnection = [this](qintptr descriptor) { Guarded([&] { TakeConnection(descriptor); }); };
     connect(&second_, &QTimer::timeout, this, &PracticeServer::PassSecond);
 }
 
-/// The sockets go when nothing is left here that their last signals could reach.
-PracticeServer::~PracticeServer() {
-    for (QTcpSocket* const socket : clients_.keys()) socket->disconnect(this);
-}
+PracticeServer::~PracticeServer() = default;
 
 PracticeServer::Listening PracticeServer::Listen(quint16 port) {
+    listener_.setListenBacklogSize(kMostFurres);  // many bots may begin to connect before the dream has its turn
     if (!listener_.listen(QHostAddress::LocalHost, port)) return {0, listener_.errorString()};
     if (second_.interval() > 0 && !tour_.IsOver()) second_.start();
     return {listener_.serverPort(), {}};
@@ -86,68 +86,78 @@ void PracticeServer::PassSecond() {
     emit TourEnded();
 }
 
-void PracticeServer::TakeConnections() {
-    while (QTcpSocket* const socket = listener_.nextPendingConnection()) {
-        const auto furre = dream_.Connect();
-        if (!furre) {
-            socket->abort();
-            socket->deleteLater();
-            continue;
-        }
-        socket->setReadBufferSize(kHeardAtOnce);
-        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);  // short lines are not to wait for longer ones
-        clients_.insert(socket, {*furre, {}});
-        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { Guarded([&] { ReadFrom(socket); }); });
-        connect(socket, &QTcpSocket::disconnected, this, [this, socket] { Guarded([&] { Forget(socket); }); });
-    }
+void PracticeServer::TakeConnection(qintptr descriptor) {
+    const auto furre = dream_.Connect();
+    if (!furre) return TurnAway(descriptor);
+    clients_[*furre].socket =
+        new GuestSocket(descriptor,
+                        {[this, furre = *furre](std::string_view bytes) { Guarded([&] { HearBytes(furre, bytes); }); },
+                         [this, furre = *furre] { Guarded([&] { Forget(furre); }); }},
+                        this);
 }
 
-void PracticeServer::ReadFrom(QTcpSocket* socket) {
-    const QByteArray bytes = socket->readAll();
-    const auto client = clients_.find(socket);
-    if (client != clients_.end()) HearLines(*client, bytes);
-}
-
-void PracticeServer::HearLines(Client& client, const QByteArray& bytes) {
-    QList<QByteArray> lines = (client.unfinished + bytes).split('\n');
-    client.unfinished = lines.takeLast().left(kLongestUnfinished);  // what stands behind the last line feed
-    for (const QByteArray& line : lines) {
-        dream_.Hear(client.furre, {line.constData(), static_cast<std::size_t>(line.size())});
-    }
-}
-
-void PracticeServer::Forget(QTcpSocket* socket) {
-    const auto client = clients_.find(socket);
-    if (client == clients_.end()) return;
-    dream_.Leave(client->furre);
-    clients_.erase(client);
+void PracticeServer::TurnAway(qintptr descriptor) {
+    auto* const socket = new GuestSocket(descriptor, {[](std::string_view) {}, [] {}}, this);
+    const std::string why = "The practice dream is full: it holds " + std::to_string(kMostFurres) + " furres.";
+    socket->Send(modDreamLines::Remark(why) + "\n");
     socket->deleteLater();
 }
 
-/// What one furre is told at once goes out in one piece: clients may read each piece for itself.
+void PracticeServer::HearBytes(FurreId furre, std::string_view bytes) {
+    const auto client = clients_.find(furre);
+    if (client == clients_.end()) return;
+    QByteArray& unfinished = client->second.unfinished;
+    QByteArrayList lines = unfinished.append(bytes.data(), static_cast<qsizetype>(bytes.size())).split('\n');
+    unfinished = lines.takeLast().left(kLongestUnfinished);  // what stands behind the last line feed
+    for (const QByteArray& line : lines) dream_.Hear(furre, {line.constData(), static_cast<std::size_t>(line.size())});
+}
+
+void PracticeServer::Forget(FurreId furre) {
+    const auto client = clients_.extract(furre);
+    if (client.empty()) return;
+    dream_.Leave(furre);
+    client.mapped().socket->deleteLater();
+}
+
+/// What a furre is told goes out at the end of this turn: in a full dream many things happen in one. Only a long list
+/// goes before, cut behind a line.
 void PracticeServer::Deliver() {
-    struct Piece {
-        QByteArray bytes;
-        bool last = false;
-    };
-    std::map<FurreId, Piece> pieces;
     for (const Delivery& delivery : dream_.TakeDeliveries()) {
         if (delivery.furre == person_) DeliverToPerson(delivery.line);
-        Piece& piece = pieces[delivery.furre];
-        piece.bytes.append(delivery.line.data(), static_cast<qsizetype>(delivery.line.size())).append('\n');
-        piece.last = piece.last || delivery.last;
-    }
-    // Over a copy: a client that is let go takes itself off the list meanwhile.
-    for (QTcpSocket* const socket : clients_.keys()) {
-        const auto piece = pieces.find(clients_.value(socket).furre);
-        if (piece != pieces.end()) Write(socket, piece->second.bytes, piece->second.last);
+        const auto client = clients_.find(delivery.furre);
+        if (client != clients_.end()) Tell(client->second, delivery);
     }
 }
 
-void PracticeServer::Write(QTcpSocket* socket, const QByteArray& bytes, bool last) {
-    socket->write(bytes);
-    if (socket->bytesToWrite() > kMostUnread) return socket->abort();
-    if (last) socket->disconnectFromHost();
+void PracticeServer::Tell(Client& client, const Delivery& delivery) {
+    if (client.unsent.isEmpty()) SendLater(delivery.furre);
+    client.unsent.append(delivery.line.data(), static_cast<qsizetype>(delivery.line.size())).append('\n');
+    client.last = client.last || delivery.last;
+    if (client.unsent.size() >= kLongestPiece) Write(client);
+}
+
+void PracticeServer::SendLater(FurreId furre) {
+    if (told_.empty()) QMetaObject::invokeMethod(this, &PracticeServer::SendAll, Qt::QueuedConnection);
+    told_.push_back(furre);
+}
+
+void PracticeServer::SendAll() {
+    for (const FurreId furre : std::exchange(told_, {})) {
+        const auto found = clients_.find(furre);
+        if (found == clients_.end()) continue;
+        Client& client = found->second;
+        Write(client);
+        if (client.socket->UnsentBytes() > kMostUnread) {
+            client.socket->Close();
+        } else if (client.last) {
+            client.socket->CloseWhenSent();
+        }
+    }
+}
+
+void PracticeServer::Write(Client& client) {
+    const QByteArray bytes = std::exchange(client.unsent, {});
+    client.socket->Send({bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 void PracticeServer::DeliverToPerson(const std::string& line) {

@@ -1,18 +1,19 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QTcpServer>
 #include <QTimer>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "practice/Dream.h"
 #include "practice/Tour.h"
 
-class QTcpSocket;
+class GuestSocket;
 
 /// The computer's own clock, and a random draw.
 DreamPorts MachinePorts();
@@ -62,23 +63,34 @@ class PracticeServer : public QObject {
 
   private:
     struct Client {
-        FurreId furre = 0;
+        GuestSocket* socket = nullptr;
         QByteArray unfinished;  ///< the begin of a line whose rest is still to come
+        QByteArray unsent;      ///< what it is told by all that happens in one turn of the event loop
+        bool last = false;      ///< it is to go then
     };
 
-    void TakeConnections();
-    void ReadFrom(QTcpSocket* socket);
-    void Forget(QTcpSocket* socket);
-    void HearLines(Client& client, const QByteArray& bytes);
+    struct Listener final : QTcpServer {
+        std::function<void(qintptr descriptor)> onConnection;
+        void incomingConnection(qintptr descriptor) override { onConnection(descriptor); }
+    };
+
+    void TakeConnection(qintptr descriptor);
+    void TurnAway(qintptr descriptor);
+    void HearBytes(FurreId furre, std::string_view bytes);
+    void Forget(FurreId furre);
     void Deliver();
     void DeliverToPerson(const std::string& line);
-    void Write(QTcpSocket* socket, const QByteArray& bytes, bool last);
+    void Tell(Client& client, const Delivery& delivery);
+    void SendLater(FurreId furre);
+    void SendAll();
+    static void Write(Client& client);
     void Guarded(const std::function<void()>& work);
 
     Dream dream_;
     TourPlayer tour_;
-    QTcpServer listener_;
+    Listener listener_;
     QTimer second_;
-    QHash<QTcpSocket*, Client> clients_;
+    std::map<FurreId, Client> clients_;
+    std::vector<FurreId> told_;  ///< that something waits to be sent to
     std::optional<FurreId> person_;
 };

@@ -2,15 +2,31 @@
 
 #include <algorithm>
 
-#include "game/Compare.h"
 #include "practice/modDreamLines.h"
 #include "text/Text.h"
 
+namespace {
+
+/// What names have in common that LooseEquals takes for the same.
+std::string Folded(std::string_view name) { return UpperCase(BarsToBlanks(name)); }
+
+}  // namespace
+
+void LetIn(World& world, Guest& guest, std::string_view name) {
+    guest.who.name = name;
+    world.named[Folded(name)] = guest.id;
+}
+
+void RemoveGuest(World& world, FurreId furre) {
+    const auto guest = world.guests.find(furre);
+    if (guest == world.guests.end()) return;
+    if (guest->second.IsIn()) world.named.erase(Folded(guest->second.who.name));
+    world.guests.erase(guest);
+}
+
 Guest* FindGuest(World& world, std::string_view name) {
-    for (auto& [id, guest] : world.guests) {
-        if (guest.IsIn() && LooseEquals(guest.who.name, name)) return &guest;
-    }
-    return nullptr;
+    const auto id = world.named.find(Folded(name));
+    return id == world.named.end() ? nullptr : &world.guests.at(id->second);
 }
 
 Guest* FindGuestFor(World& world, const Guest& asking, std::string_view name) {

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -54,13 +55,20 @@ struct World {
     explicit World(DreamPorts machine) : ports(std::move(machine)), maps(AllDreamMaps()) {}
 
     DreamPorts ports;
-    std::map<FurreId, Guest> guests;  ///< in order of arrival
+    std::map<FurreId, Guest> guests;                 ///< in order of arrival
+    std::unordered_map<std::string, FurreId> named;  ///< those that are in; see LetIn
     std::vector<DreamMap> maps;
     std::vector<Delivery> deliveries;
 
     DreamMap& MapOf(const Guest& guest) { return maps[guest.map]; }
     void Send(const Guest& guest, std::string line) { deliveries.push_back({guest.id, std::move(line), false}); }
 };
+
+/// Gives a guest its name, by which the others find it from now on. Nobody here has that name yet.
+void LetIn(World& world, Guest& guest, std::string_view name);
+
+/// A number that isn't here is fine.
+void RemoveGuest(World& world, FurreId furre);
 
 /// Who has that name ("|" and blanks alike, in any case); nullptr when nobody here has.
 Guest* FindGuest(World& world, std::string_view name);

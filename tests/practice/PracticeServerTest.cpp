@@ -48,6 +48,21 @@ TEST_F(PracticeServerTest, KeepsBeginningsOfLinesAndOutlivesGarbage) {
     EXPECT_TRUE(bob.Hears("(Ann: still here\n"));
 }
 
+TEST_F(PracticeServerTest, KeepsWhatIsSaidForOneWhoReadsLate) {
+    constexpr int kLines = 6000, kLength = 1900;  // more than the system takes
+    Player ann(port);
+    ann.LogIn("Ann");
+    ann.socket.blockSignals(true);
+    ann.socket.setReadBufferSize(1);
+    ASSERT_TRUE(server.AddPerson("Bob"));
+    for (int n = 0; n < kLines; ++n) server.TypeAsPerson(std::string(kLength, 'x'));
+    ann.socket.blockSignals(false);
+    ann.socket.setReadBufferSize(0);
+    ann.heard = ann.socket.readAll();
+    EXPECT_TRUE(Eventually([&] { return ann.heard.size() > kLines * kLength; }));
+    EXPECT_EQ(ann.heard.count("\n(Bob: xxx"), kLines);
+}
+
 TEST_F(PracticeServerTest, LetsClientsGo) {
     QSignalSpy ended(&server, &PracticeServer::TourEnded);
     auto ann = std::make_unique<Player>(port);
