@@ -6,10 +6,11 @@
 #include "engine/Dispatcher.h"
 #include "engine/FileRemarks.h"
 #include "engine/Script.h"
+#include "engine/SharedScripts.h"
 
 std::optional<std::string> LoadScript(Bot& bot, const std::string& path) {
     const std::string bytes = ValueOrFault(bot.host.Disk().Read(path));
-    bot.script = std::make_shared<Script>(ScriptTextFromFile(bytes), path);
+    bot.script = SharedScript(ScriptTextFromFile(bytes), path);
     RunScript(bot, EventScriptLoaded);
     return FileRemark(FileKind::Script, path, bytes);
 }
