@@ -6,7 +6,6 @@
 #include <QRandomGenerator>
 #include <utility>
 
-#include "engine/Dispatcher.h"
 #include "movement/modMovement.h"
 #include "text/Fault.h"
 #include "text/Text.h"
@@ -27,16 +26,12 @@ QtHost::QtHost(FrontEnd& frontEnd, std::string programFolder)
 }
 
 void QtHost::StartTimers() {
-    tmrScript_.setObjectName("tmrScript");
     tmrMove_.setObjectName("tmrMove");
     tmrBrake_.setObjectName("tmrBrake");
     tmrBrake_.setSingleShot(true);
     clock_.start();
-    // By itself Qt may be off by a twentieth, and the elapsed clock counts these ticks.
-    tmrScript_.setTimerType(Qt::PreciseTimer);
-    tmrScript_.start(kScriptTimerMs);
     tmrMove_.setInterval(modMovement::kWalkTickMs);
-    connect(&tmrScript_, &QTimer::timeout, this, [this] { RunHandler([this] { session_.OnScriptTick(); }); });
+    connect(tmrScript_.get(), &QTimer::timeout, this, [this] { RunHandler([this] { session_.OnScriptTick(); }); });
     connect(&tmrMove_, &QTimer::timeout, this, [this] { RunHandler([this] { session_.OnWalkTick(); }); });
     connect(&tmrBrake_, &QTimer::timeout, this, [this] { RunHandler([this] { ReleaseBraked(); }); });
 }

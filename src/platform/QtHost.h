@@ -21,6 +21,7 @@
 #include "platform/LineSocket.h"
 #include "platform/LocalClock.h"
 #include "platform/ProxyFile.h"
+#include "platform/ScriptTimer.h"
 
 /// The real world of a bot: Qt's sockets, timers and clock. It owns the bot and its session, and calls them from the
 /// event loop, one handler at a time. It translates; what is to be said or done, the session decides. Its own are only
@@ -99,7 +100,8 @@ class QtHost final : public QObject, public Host, public Link {
     bool ended_ = false;
     LineSocket server_{this}, client_{this};
     QTcpServer listener_;
-    QTimer tmrScript_{this}, tmrMove_{this}, tmrBrake_{this};
+    QTimer tmrMove_{this}, tmrBrake_{this};
+    const std::shared_ptr<QTimer> tmrScript_ = SharedScriptTimer();
     QElapsedTimer clock_;
     std::unique_ptr<ClientWindow> clientWindow_ = MachineClientWindow();
 
