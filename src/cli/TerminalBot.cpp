@@ -5,7 +5,6 @@
 #include "cli/Report.h"
 #include "net/FaultText.h"
 #include "net/Passwords.h"
-#include "platform/WholeFile.h"
 #include "profile/ProfileFile.h"
 #include "text/Text.h"
 
@@ -25,7 +24,6 @@ TerminalBot::TerminalBot(std::string profilePath, std::string label, const std::
 TerminalBot::~TerminalBot() { host_.session().SetObserver(nullptr); }
 
 bool TerminalBot::Load() {
-    for (const std::string& folder : {host_.ProgramFolder(), FolderOf(profilePath_)}) ClearUnfinished(folder);
     ProfileLoad load;
     bool faulted = true;
     host_.RunHandler([&] {

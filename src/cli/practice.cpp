@@ -12,6 +12,7 @@
 #include "cli/TypedInput.h"
 #include "cli/Verbs.h"
 #include "net/FaultText.h"
+#include "platform/EpollDispatcher.h"
 #include "platform/Guarded.h"
 #include "practice/PracticeServer.h"
 #include "text/Fault.h"
@@ -58,6 +59,7 @@ int Practice(const PracticeOptions& options) {
     int argumentCount = 1;
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
+    WaitByEpoll();
     Guarded<QCoreApplication> application(argumentCount, arguments);
     application.OnException([](const std::exception& exception) {
         QCoreApplication::exit(Refuse(kFaultExit, DescribeFault(AsFault(exception))));

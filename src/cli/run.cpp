@@ -8,6 +8,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -23,9 +24,10 @@
 #include "game/Compare.h"
 #include "net/FaultText.h"
 #include "platform/DiskFiles.h"
+#include "platform/EpollDispatcher.h"
 #include "platform/Guarded.h"
 #include "platform/OpenFiles.h"
-#include "platform/PlainEventLoop.h"
+#include "platform/WholeFile.h"
 #include "practice/PracticeServer.h"
 #include "text/Fault.h"
 #include "text/Text.h"
@@ -41,6 +43,10 @@ constexpr std::size_t kOwnFiles = 32, kFilesOfABot = 2, kFilesOfAGuest = 1;
 
 /// Why so many bots can't run in one process; empty when they can.
 std::string TooManyBots(std::size_t bots, bool practice) {
+    if (practice && bots > kMostFurres) {
+        return std::to_string(bots) + " bots don't go into the practice dream, which holds " +
+               std::to_string(kMostFurres) + " furres. Run fewer bots at a time.";
+    }
     const std::size_t each = kFilesOfABot + (practice ? kFilesOfAGuest : 0), needed = kOwnFiles + bots * each;
     const std::size_t allowed = AllowOpenFiles(needed);
     if (needed <= allowed) return "";
@@ -62,6 +68,7 @@ class TerminalRun {
     explicit TerminalRun(RunOptions options) : options_(std::move(options)), output_(options_.quiet) {}
 
     int Run() {
+        ClearFolders();
         if (const int refusal = Prepare()) return refusal;
         for (const auto& bot : bots_) bot->Connect();
         // Not one has so much as begun to connect.
@@ -91,6 +98,13 @@ class TerminalRun {
     std::unique_ptr<PracticeServer> practice_;
     std::vector<std::unique_ptr<BotKeeper>> bots_;
     std::optional<int> exit_;
+
+    /// Of what a killed program has left unfinished. Once each: a folder may hold the files of many bots.
+    void ClearFolders() const {
+        std::set<std::string> folders = {options_.folder};
+        for (const std::string& profile : options_.profiles) folders.insert(FolderOf(profile));
+        for (const std::string& folder : folders) ClearUnfinished(folder);
+    }
 
     /// @return 0, or the exit status when the run can't begin
     int Prepare() {
@@ -191,9 +205,8 @@ int Run(const RunOptions& options) {
     char program[] = "vorel";
     char* arguments[] = {program, nullptr};
     Printing printing;  // first, and so the last to go: the others may have something to say on their way out
-    std::optional<PlainEventLoop> plain(std::in_place);
+    WaitByEpoll();
     Guarded<QCoreApplication> application(argumentCount, arguments);
-    plain.reset();
     TerminalRun run(options);
     application.OnException([&](const std::exception& exception) { run.OnFault(DescribeFault(AsFault(exception))); });
     return printing.Leave(run.Run());

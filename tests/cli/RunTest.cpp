@@ -218,4 +218,22 @@ TEST_F(RunTest, WalksThePracticeDreamAndRehearsesTheRecording) {
     EXPECT_TRUE(rehearsal.out.contains("sent wh Ann Hello, Ann!"));
 }
 
+TEST_F(RunTest, ManyBotsAnswerInOneDream) {
+    constexpr int kBots = 60;
+    QStringList arguments{"run", "--practice", "--tour", "tour.txt", "--keep-split-lines"};
+    QByteArray awaited, whispers;
+    for (int n = 1; n <= kBots; ++n) {
+        const QByteArray name = "Bot" + QByteArray::number(n);
+        files.WriteBot(name, "(0:6) whispered,\r\n (5:12) whisper {hello}", "Maps=Practice Dream");
+        arguments << name + ".tvm";
+        awaited += "wait for " + name + "\n";
+        whispers += "Ann whispers to " + name + " hello\n";
+    }
+    files.Write("tour.txt", awaited + "Ann arrives\n" + whispers + "wait for Nobody\n");
+    Vorel run(files, arguments);
+    EXPECT_TRUE(Eventually([&] { return run.out.count("] [ You whisper \"hello\" to Ann. ]\n") == kBots; }));
+    run.Signal(SIGTERM);
+    EXPECT_EQ(run.Ends(), 0) << run.err.toStdString();
+}
+
 }  // namespace
