@@ -24,7 +24,7 @@ install(FILES share/completions/_vorel DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/
 install(FILES share/completions/vorel.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 
 # Not ${CMAKE_INSTALL_LIBDIR}: units lie in lib/ on every architecture.
-install(FILES share/systemd/user/vorel@.service DESTINATION lib/systemd/user)
+install(FILES share/systemd/user/vorel@.service share/systemd/user/vorel-many@.service DESTINATION lib/systemd/user)
 
 # The README's links into docs/ stay good.
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE share/doc/copyright DESTINATION ${documents})

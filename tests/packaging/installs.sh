@@ -85,11 +85,14 @@ check_completions() {
     done < <(said_by_help)
 }
 
-# With the path of the program as it is here, and a profile.
-check_unit() {
+# With the path of the program as it is here, and a profile, or a folder of them.
+check_units() {
     command -v systemd-analyze >/dev/null || return 0
-    sed "s|=vorel |=$root/bin/vorel |" "$root/lib/systemd/user/vorel@.service" >"$place/vorel@bot.tvm.service"
-    XDG_RUNTIME_DIR=$place silent systemd-analyze --user --man=no verify "$place/vorel@bot.tvm.service"
+    local unit
+    for unit in vorel vorel-many; do
+        sed "s|=vorel |=$root/bin/vorel |" "$root/lib/systemd/user/$unit@.service" >"$place/$unit@bots.service"
+        XDG_RUNTIME_DIR=$place silent systemd-analyze --user --man=no verify "$place/$unit@bots.service"
+    done
 }
 
 rm -rf "$place"
@@ -100,5 +103,5 @@ check_package
 check_desktop
 check_manual
 check_completions
-check_unit
+check_units
 exit $((failures > 0))
