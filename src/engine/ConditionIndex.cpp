@@ -13,6 +13,8 @@ namespace {
 
 using Kind = Requirement::Kind;
 
+constexpr std::size_t kCharactersOfALook = 32;
+
 Requirement RequirementOfLine(const ScriptLine& condition) {
     const std::int16_t number = condition.asCondition.number;
     // What a variable will stand for is not known yet.
@@ -77,6 +79,7 @@ template <typename Values, typename Key>
 void AddFound(const Values& values, const Key& key, Stops& stops) {
     const auto found = values.find(key);
     if (found != values.end()) stops.Add(found->second);
+    stops.CountEffort(1);
 }
 
 }  // namespace
@@ -134,10 +137,12 @@ void ConditionIndex::Find(const Bot& bot, Stops& stops) const {
     }
     for (const auto& [field, values] : held_) {
         const std::string* const text = field(bot);
-        if (text) values.FindIn(*text, [&](const LineNumbers& lines) { stops.Add(lines); });
+        if (!text) continue;
+        values.FindIn(*text, [&](const LineNumbers& lines) { stops.Add(lines); });
+        stops.CountEffort(text->size() / kCharactersOfALook);
     }
     for (const auto& [field, values] : listed_) {
-        const auto add = [&, &owners = values](std::string_view entry) { AddFound(owners, entry, stops); };
+        const auto add = [&, &lines = values](std::string_view entry) { AddFound(lines, entry, stops); };
         if (const std::string* const list = field(bot)) ForEachEntry(*list, add);
     }
     for (const auto& [field, values] : numbers_) {
@@ -149,5 +154,6 @@ void ConditionIndex::Find(const Bot& bot, Stops& stops) const {
     std::string room;
     for (const auto& [line, number, causes] : tested_) {
         if (ConditionHolds(bot, ExpandVariables(bot, line, room), number)) stops.Add(causes);
+        stops.CountEffort(1);
     }
 }

@@ -24,6 +24,7 @@ std::int16_t ElapsedSeconds(const ElapsedClock& clock) {
     return Add16(Add16(Multiply16(clock.hours, 3600), Multiply16(clock.minutes, 60)), clock.seconds);
 }
 
+constexpr std::size_t kMostLooks = 32;
 constexpr std::size_t kMostLines = std::numeric_limits<std::int16_t>::max();
 
 /// One event's walk over the script. The walk reads lines as if it had its own copy of them: running over a line for
@@ -50,7 +51,7 @@ class ScriptWalk {
     std::optional<PlaceMark> place_;
     const std::size_t last_;
     Stops stops_;
-    bool stopsAreKnown_ = false;
+    bool stopsAreKnown_ = false, looksClosely_ = true;
     std::size_t trimmedUntil_ = 0;               // the lines before it were run over, and so trimmed
     std::map<std::size_t, ScriptLine> changed_;  // the lines whose text was replaced by its expansion
     std::string room_;                           // for a line's expansion
@@ -76,11 +77,13 @@ class ScriptWalk {
         return i >= trimmedUntil_ || (changed_.empty() && !script_->Triggers().HasIndentedTerminator());
     }
 
-    /// What the index knows holds until an effect changes something.
+    /// What the index knows holds until an effect changes something. Where finding it was dear, it is not found again:
+    /// with many triggers that all fire, that would cost more than to look at each of them.
     std::size_t NextStop(std::size_t from) {
         if (!std::exchange(stopsAreKnown_, true)) {
             const GameEvent before = std::exchange(bot_.currentEvent, event_);
-            script_->Triggers().Find(bot_, stops_);
+            looksClosely_ = looksClosely_ && stops_.Effort() <= kMostLooks;
+            script_->Triggers().Find(bot_, looksClosely_, stops_);
             bot_.currentEvent = before;
         }
         return std::min(stops_.NextFrom(from), last_ + 1);

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <utility>
 #include <vector>
 
 /// Lines of a script, counted from 0, in rising order.
@@ -13,17 +14,19 @@ using LineNumbers = std::vector<std::size_t>;
 class Stops {
   public:
     void Clear() {
-        count_ = 0;
-        more_.clear();
+        count_ = effort_ = 0;
+        merged_.clear();
+        isMerged_ = false;
     }
 
-    /// @param lines  not empty; stay as they are for as long as they are asked for
+    /// @param lines  stay as they are for as long as they are asked for
     void Add(const LineNumbers& lines) {
-        const Rest rest{lines.data(), lines.data() + lines.size()};
+        if (lines.empty()) return;
+        CountEffort(1);
         if (count_ < few_.size()) {
-            few_[count_++] = rest;
+            few_[count_++] = {lines.data(), lines.data() + lines.size()};
         } else {
-            more_.push_back(rest);
+            merged_.insert(merged_.end(), lines.begin(), lines.end());
         }
     }
 
@@ -36,16 +39,22 @@ class Stops {
             if (rest.next != rest.end) next = std::min(next, *rest.next);
         };
         for (std::size_t i = 0; i < count_; ++i) consider(few_[i]);
-        for (Rest& rest : more_) consider(rest);
-        return next;
+        if (!std::exchange(isMerged_, true)) std::sort(merged_.begin(), merged_.end());
+        const auto found = std::lower_bound(merged_.begin(), merged_.end(), line);
+        return found == merged_.end() ? next : std::min(next, *found);
     }
+
+    /// What finding the lines has cost: so many looks at something, roughly.
+    void CountEffort(std::size_t looks) { effort_ += looks; }
+    std::size_t Effort() const { return effort_; }
 
   private:
     struct Rest {
         const std::size_t *next, *end;
     };
-    // Nearly always there are a few, for which no memory is to be taken: this is done for every line of the game.
+    // Nearly always there are a few lists, for which no memory is to be taken: this is done for every line of the game.
     std::array<Rest, 12> few_;
-    std::size_t count_ = 0;
-    std::vector<Rest> more_;
+    std::size_t count_ = 0, effort_ = 0;
+    LineNumbers merged_;  ///< of all further lists
+    bool isMerged_ = false;
 };

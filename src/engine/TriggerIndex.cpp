@@ -105,24 +105,20 @@ void TriggerIndex::AddTimer(const ScriptLine& cause, std::size_t line) {
     timersByInterval_[interval].push_back(line);
 }
 
-void TriggerIndex::Find(const Bot& bot, Stops& stops) const {
-    const auto add = [&stops](const LineNumbers& lines) {
-        if (!lines.empty()) stops.Add(lines);
-    };
+void TriggerIndex::Find(const Bot& bot, bool closely, Stops& stops) const {
     const bool isTick = bot.currentEvent == EventTimerTick;
     stops.Clear();
-    add(stops_);
-    if (!isTick) add(overflows_);
-    const bool hasCause = bot.currentEvent > std::numeric_limits<GameEvent>::min();
-    const auto found = isTick || !hasCause ? ofCauses_.end() : ofCauses_.find(CauseOf(bot.currentEvent));
-
+    stops.Add(stops_);
     // A variable with any other name may stand anywhere, and may turn a line into something else.
-    const bool anywhere = !bot.variables.AllSimple();
-    if (isTick) return anywhere ? add(causes_) : FindTimers(bot, stops);
+    closely = closely && bot.variables.AllSimple();
+    if (isTick) return closely ? FindTimers(bot, stops) : stops.Add(causes_);
+    stops.Add(overflows_);
+    if (bot.currentEvent == std::numeric_limits<GameEvent>::min()) return;
+    const auto found = ofCauses_.find(CauseOf(bot.currentEvent));
     if (found == ofCauses_.end()) return;
     const auto& [all, open, byCondition, mentioning] = found->second;
-    if (anywhere) return add(all);
-    add(open);
+    if (!closely) return stops.Add(all);
+    stops.Add(open);
     byCondition.Find(bot, stops);
     if (mentioning.causes.empty()) return;
     mentioning.MayFault(bot) ? stops.Add(mentioning.causes) : mentioning.byCondition.Find(bot, stops);
@@ -143,16 +139,13 @@ bool TriggerIndex::Mentioning::MayFault(const Bot& bot) const {
 
 /// Which timers are due is known from the numbers that divide the elapsed seconds, however many timers there are.
 void TriggerIndex::FindTimers(const Bot& bot, Stops& stops) const {
-    const auto add = [&stops](const LineNumbers& lines) {
-        if (!lines.empty()) stops.Add(lines);
-    };
-    add(openTimers_);
+    stops.Add(openTimers_);
     const auto [hours, minutes, seconds] = bot.clock;
     constexpr int kMinute = 60;
     const bool inFirstHour = hours == 0 && 0 <= minutes && minutes < kMinute && 0 <= seconds && seconds < kMinute;
     const int elapsed = minutes * kMinute + seconds;
     // Every interval divides 0. A clock that was set by others than the timer may run over when it is read.
-    if (!inFirstHour || elapsed == 0) return add(timers_);
+    if (!inFirstHour || elapsed == 0) return stops.Add(timers_);
     const auto addDue = [&](int interval) {
         const auto due = timersByInterval_.find(interval);
         if (due != timersByInterval_.end()) stops.Add(due->second);

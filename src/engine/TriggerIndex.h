@@ -24,7 +24,8 @@ class TriggerIndex {
 
     /// The lines at which a walk for the current event has something to do as long as nothing changes: lines that
     /// fault, terminators, and the causes of triggers that fire, or whose tests may fault or leave a trace.
-    void Find(const Bot& bot, Stops& stops) const;
+    /// @param closely  otherwise the causes of all triggers that the event may fire, which are found at once
+    void Find(const Bot& bot, bool closely, Stops& stops) const;
 
     /// Whether one of the lines becomes a terminator when the blanks in front of it are gone.
     bool HasIndentedTerminator() const { return hasIndentedTerminator_; }
