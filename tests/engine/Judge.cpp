@@ -124,7 +124,7 @@ class CaseWriter {
     /// Triggers in good order that tell when they fire, so that whether each is found can be seen.
     std::string Triggers() {
         std::string text = "VSPK 01.00 Vorel";
-        for (int i = Below(8); i >= 0; --i) {
+        for (int i = Below(Chance(8) ? 60 : 8); i >= 0; --i) {
             text += "\r\n(0:" + Any('e') + ") x\r\n" + Any('c') + "\r\n" + Any(Chance(3) ? 'c' : 'p') + "\r\n(5:2) {" +
                     std::to_string(i) + "}\r\n" + Any(Chance(3) ? 'f' : 'p');
         }
