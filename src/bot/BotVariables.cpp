@@ -184,18 +184,19 @@ constexpr std::array<Variable, kCount> kByName = [] {
     return all;
 }();
 
-/// The number in a name that is a stem and a number; 0 when it is none, or higher than a count.
-std::size_t NumberIn(std::string_view name, std::string_view numbered, std::size_t count) {
+/// The number in a name that is a stem and a number; 0 when it is none, or higher than there are.
+std::size_t NumberIn(const Bot& bot, std::string_view name, std::string_view numbered,
+                     std::size_t (*count)(const Bot&)) {
     const std::string_view stem = StemOf(numbered);
     const std::size_t number = name.starts_with(stem) ? NumberAt(name, stem.size()) : 0;
-    return number <= count ? number : 0;
+    return number > 0 && number <= count(bot) ? number : 0;
 }
 
 bool AppendNumbered(const Bot& bot, std::string_view name, std::string& text) {
-    if (const std::size_t n = NumberIn(name, kWord, CountOfWords(bot))) return AppendText(text, Word(bot, n));
-    if (const std::size_t n = NumberIn(name, kStartingWord, CountOfWords(bot)))
+    if (const std::size_t n = NumberIn(bot, name, kWord, CountOfWords)) return AppendText(text, Word(bot, n));
+    if (const std::size_t n = NumberIn(bot, name, kStartingWord, CountOfWords))
         return AppendText(text, WordsFrom(bot, n));
-    if (const std::size_t n = NumberIn(name, kDie, CountOfDice(bot)))
+    if (const std::size_t n = NumberIn(bot, name, kDie, CountOfDice))
         return AppendNumber(text, bot.state.dieValues[n - 1]);
     return false;
 }

@@ -7,9 +7,12 @@ namespace {
 unsigned char First(std::string_view name) { return static_cast<unsigned char>(name.front()); }
 unsigned char Last(std::string_view name) { return static_cast<unsigned char>(name.back()); }
 
-bool IsSimple(std::string_view name) {
-    return name.size() >= 2 && name.front() == '[' && name.find_first_of("[]", 1) == name.size() - 1 &&
-           name.back() == ']';
+std::size_t Unbracketed(std::string_view name) { return name.find('[') == name.npos ? 1 : 0; }
+
+std::size_t Odd(std::string_view name) {
+    const bool isSimple =
+        name.starts_with('[') && name.ends_with(']') && name.find_first_of("[]", 1) == name.size() - 1;
+    return isSimple ? 0 : 1;
 }
 
 }  // namespace
@@ -62,7 +65,8 @@ void UserVariables::Clear() {
 
 void UserVariables::AddName(std::string_view name, Rank rank) {
     ranks_.emplace(name, rank);
-    if (!IsSimple(name)) ++odd_;
+    unbracketed_ += Unbracketed(name);
+    odd_ += Odd(name);
     if (name.empty()) return;  // stands nowhere
     ++lengthsOfNames_[name.size()];
     ++startsOfNames_[First(name)];
@@ -70,7 +74,8 @@ void UserVariables::AddName(std::string_view name, Rank rank) {
 }
 
 void UserVariables::RemoveName(std::string_view name) {
-    if (!IsSimple(name)) --odd_;
+    unbracketed_ -= Unbracketed(name);
+    odd_ -= Odd(name);
     if (!name.empty()) {
         const auto length = lengthsOfNames_.find(name.size());
         if (--length->second == 0) lengthsOfNames_.erase(length);

@@ -38,8 +38,11 @@ class UserVariables {
     /// Grows with every change, for who shows the variables.
     std::size_t Revision() const { return revision_; }
 
-    /// True when every name is written as scripts write it: a "[", a "]" at its end, and no bracket between. Then a
-    /// text without a "[" holds none, and where one stands in a text does not depend on the others.
+    /// True when every name holds a "[", so that a text without one can't hold a variable.
+    bool AllBracketed() const { return unbracketed_ == 0; }
+
+    /// True when every name is written as scripts write it: a "[", a "]" at its end, and no bracket between. Then
+    /// where one stands in a text does not depend on the others.
     bool AllSimple() const { return odd_ == 0; }
 
     /// Calls found(rank) for every variable whose name stands in a text at an index.
@@ -71,7 +74,7 @@ class UserVariables {
     // What is known of all names together: it says where in a text none can stand.
     std::map<std::size_t, std::size_t> lengthsOfNames_;  ///< and how many names are as long
     CountOfEach startsOfNames_{}, endsOfNames_{};
-    std::size_t odd_ = 0;  ///< names that are not simple
+    std::size_t unbracketed_ = 0, odd_ = 0;  ///< names without a "[", and all that are not simple
 
     void AddName(std::string_view name, Rank rank);
     void RemoveName(std::string_view name);

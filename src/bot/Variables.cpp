@@ -200,15 +200,20 @@ std::string ExpandInTurn(const Bot& bot, std::string_view text) {
     return expansion.Take();
 }
 
+/// So many names are looked up one by one. A text with more, such as a stranger may say, is cheaper gone through for
+/// each of the variables.
+constexpr std::size_t kMostMentions = 64;
+
 /// All variables at one go, which is the same as in turn as long as each stands apart from the others and no value
 /// holds a "[", so that no name can come about.
 /// @param room  what the text becomes; of no use when that is not so
 /// @return whether it is so
 bool ExpandAtOnce(const Bot& bot, std::string_view text, std::string& room) {
     std::size_t longest = text.size();  // in between, if the variables went in the worst order
+    std::size_t mentions = 0;
     room.clear();
     while (const std::optional<Mention> mention = NextMention(text)) {
-        if (!mention->standsApart) return false;
+        if (!mention->standsApart || ++mentions > kMostMentions) return false;
         room.append(text, 0, mention->at);
         const std::size_t valueAt = room.size();
         if (!AppendValueOf(bot, mention->name, room))
@@ -228,10 +233,8 @@ bool ExpandAtOnce(const Bot& bot, std::string_view text, std::string& room) {
 std::string_view ExpandVariables(const Bot& bot, std::string_view text, std::string& room) {
     CheckTextLength(text.size());
     // Every line is expanded, and up to three times; most hold no name.
-    if (bot.variables.AllSimple()) {
-        if (text.find('[') == text.npos) return text;
-        if (ExpandAtOnce(bot, text, room)) return room;
-    }
+    if (text.find('[') == text.npos && bot.variables.AllBracketed()) return text;
+    if (bot.variables.AllSimple() && ExpandAtOnce(bot, text, room)) return room;
     return room = ExpandInTurn(bot, text);
 }
 

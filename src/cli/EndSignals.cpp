@@ -1,5 +1,6 @@
 #include "cli/EndSignals.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <array>
@@ -12,7 +13,7 @@ namespace {
 std::array<int, 2> wakeUp{-1, -1};
 
 int OpenWakeUp() {
-    if (::pipe(wakeUp.data()) != 0) wakeUp = {-1, -1};
+    if (::pipe2(wakeUp.data(), O_CLOEXEC) != 0) wakeUp = {-1, -1};
     return wakeUp[0];
 }
 

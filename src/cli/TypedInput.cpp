@@ -21,7 +21,10 @@ void TypedInput::Read() {
         if (const std::string rest = lines_.TakeRest(); !rest.empty()) HandOver(rest);
         return;
     }
-    for (const std::string_view line : lines_.Take({bytes.data(), static_cast<std::size_t>(count)})) HandOver(line);
+    std::string room;
+    for (const std::string_view line : lines_.Take({bytes.data(), static_cast<std::size_t>(count)}, false, room)) {
+        HandOver(line);
+    }
     if (lines_.TakeDropped() > 0)
         std::cerr << "vorel: a typed line was left out: it was longer than 1 MiB" << std::endl;
 }

@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "net/FaultText.h"
 #include "platform/EpollDispatcher.h"
 #include "platform/Guarded.h"
+#include "platform/OpenFiles.h"
 #include "practice/PracticeServer.h"
 #include "text/Fault.h"
 #include "text/Text.h"
@@ -22,6 +24,9 @@ namespace {
 
 /// One of the two ports that the configuration offers.
 constexpr quint16 kUsualPort = 6000;
+
+/// What the program has open for itself, beside a connection for each furre.
+constexpr std::size_t kOwnFiles = 32;
 
 struct PracticeOptions {
     quint16 port = kUsualPort;
@@ -65,6 +70,8 @@ int Practice(const PracticeOptions& options) {
         QCoreApplication::exit(Refuse(kFaultExit, DescribeFault(AsFault(exception))));
     });
     PracticeSettings settings;
+    settings.mostClients =
+        std::min(settings.mostClients, std::max(AllowOpenFiles(kOwnFiles + kMostFurres), 2 * kOwnFiles) - kOwnFiles);
     settings.tour = std::move(reading.tour);
     PracticeServer server(std::move(settings));
     return RunDream(options, server);

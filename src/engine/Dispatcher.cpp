@@ -24,7 +24,7 @@ std::int16_t ElapsedSeconds(const ElapsedClock& clock) {
     return Add16(Add16(Multiply16(clock.hours, 3600), Multiply16(clock.minutes, 60)), clock.seconds);
 }
 
-constexpr std::size_t kMostLooks = 32;
+constexpr std::size_t kFreeLooks = 64;
 constexpr std::size_t kMostLines = std::numeric_limits<std::int16_t>::max();
 
 /// One event's walk over the script. The walk reads lines as if it had its own copy of them: running over a line for
@@ -52,6 +52,7 @@ class ScriptWalk {
     const std::size_t last_;
     Stops stops_;
     bool stopsAreKnown_ = false, looksClosely_ = true;
+    std::size_t looks_ = 0, inVain_ = 0;
     std::size_t trimmedUntil_ = 0;               // the lines before it were run over, and so trimmed
     std::map<std::size_t, ScriptLine> changed_;  // the lines whose text was replaced by its expansion
     std::string room_;                           // for a line's expansion
@@ -77,16 +78,27 @@ class ScriptWalk {
         return i >= trimmedUntil_ || (changed_.empty() && !script_->Triggers().HasIndentedTerminator());
     }
 
-    /// What the index knows holds until an effect changes something. Where finding it was dear, it is not found again:
-    /// with many triggers that all fire, that would cost more than to look at each of them.
+    /// What the index knows holds until an effect changes something. A few looks are free; then it is asked again only
+    /// when as many triggers have been tried in vain as asking takes looks, so that a script of which much fires costs
+    /// at most twice what walking by all triggers would.
     std::size_t NextStop(std::size_t from) {
         if (!std::exchange(stopsAreKnown_, true)) {
+            looksClosely_ = looks_ <= kFreeLooks || inVain_ >= stops_.Effort();
             const GameEvent before = std::exchange(bot_.currentEvent, event_);
-            looksClosely_ = looksClosely_ && stops_.Effort() <= kMostLooks;
             script_->Triggers().Find(bot_, looksClosely_, stops_);
             bot_.currentEvent = before;
+            if (looksClosely_) {
+                looks_ += stops_.Effort();
+                inVain_ = 0;
+            }
         }
         return std::min(stops_.NextFrom(from), last_ + 1);
+    }
+
+    /// @return the line, with which is done
+    std::size_t InVain(std::size_t line) {
+        if (!looksClosely_ && ++inVain_ >= stops_.Effort()) stopsAreKnown_ = false;
+        return line;
     }
 
     /// Passes over lines at which there is nothing to do, and leaves the current event as a walk over them would: texts
@@ -120,7 +132,7 @@ class ScriptWalk {
             return i;
         bool allHold = true;
         const std::size_t behind = TestConditions(i + 1, allHold);
-        return allHold ? RunEffects(behind, i) : i;
+        return allHold ? RunEffects(behind, i) : InVain(i);
     }
 
     /// Tests every condition from a line on, without a short cut: each test is to be seen in its line. Kept on purpose:

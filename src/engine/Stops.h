@@ -14,7 +14,7 @@ using LineNumbers = std::vector<std::size_t>;
 class Stops {
   public:
     void Clear() {
-        count_ = effort_ = 0;
+        count_ = 0;
         merged_.clear();
         isMerged_ = false;
     }
@@ -22,7 +22,6 @@ class Stops {
     /// @param lines  stay as they are for as long as they are asked for
     void Add(const LineNumbers& lines) {
         if (lines.empty()) return;
-        CountEffort(1);
         if (count_ < few_.size()) {
             few_[count_++] = {lines.data(), lines.data() + lines.size()};
         } else {
@@ -44,7 +43,8 @@ class Stops {
         return found == merged_.end() ? next : std::min(next, *found);
     }
 
-    /// What finding the lines has cost: so many looks at something, roughly.
+    /// What finding the lines has cost the last time that it was done closely: so many looks at something, roughly.
+    void BeginEffort() { effort_ = 1; }
     void CountEffort(std::size_t looks) { effort_ += looks; }
     std::size_t Effort() const { return effort_; }
 

@@ -11,10 +11,8 @@
 #include "engine/Conditions.h"
 #include "text/Limits.h"
 
-namespace {
-
 /// A trigger as far as it can be known beforehand.
-struct Known {
+struct TriggerIndex::Known {
     ConditionIndex::Trigger trigger;
     std::set<std::string> names;  ///< of the variables in its lines
     std::size_t longestLine = 0;
@@ -22,7 +20,7 @@ struct Known {
 
 /// Takes in a line that is expanded, and nothing more, when the trigger is tried.
 /// @return false when more may come of it
-bool TakesIn(Known& known, const ScriptLine& line) {
+bool TriggerIndex::TakesIn(Known& known, const ScriptLine& line) {
     std::string_view rest = line.text;
     if (rest.size() > kLongestText || !line.keepsItsReading) return false;
     known.longestLine = std::max(known.longestLine, rest.size());
@@ -36,7 +34,7 @@ bool TakesIn(Known& known, const ScriptLine& line) {
 
 /// Reads a cause and its conditions as the walk does.
 /// @return nothing when trying them may fault or leave a trace
-std::optional<Known> WhatIsKnown(const std::vector<ScriptLine>& lines, std::size_t cause) {
+std::optional<TriggerIndex::Known> TriggerIndex::WhatIsKnown(const std::vector<ScriptLine>& lines, std::size_t cause) {
     Known known{.trigger = {cause, {}}, .names = {}};
     if (!TakesIn(known, lines[cause])) return std::nullopt;
     for (std::size_t j = cause + 1; j + 1 < lines.size(); ++j) {
@@ -53,17 +51,24 @@ std::optional<Known> WhatIsKnown(const std::vector<ScriptLine>& lines, std::size
     return known;
 }
 
-}  // namespace
-
 TriggerIndex::TriggerIndex(const std::vector<ScriptLine>& lines) {
     std::map<std::int16_t, std::vector<Known>> plain, mentioning;
+    std::vector<Known> causes;
     for (std::size_t i = 1; i < lines.size(); ++i) {
         const ScriptLine& line = lines[i];
         hasIndentedTerminator_ = hasIndentedTerminator_ || (line.endsScriptWhenTrimmed && !line.endsScript);
         if (line.endsScript || line.asCause.kind == LineReading::Kind::Fault) stops_.push_back(i);
         if (!line.asCause.IsCommand(kCauseLine)) continue;
 
-        AddTimer(line, i);
+        // Every cause is expanded, whether it answers the event or not.
+        Known cause{.trigger = {i, {}}, .names = {}};
+        const bool isKnown = TakesIn(cause, line);
+        AddTimer(line, i, isKnown && cause.names.empty());
+        if (!isKnown) {
+            stops_.push_back(i);
+        } else if (!cause.names.empty()) {
+            causes.push_back(std::move(cause));
+        }
         const std::int16_t number = line.asCause.number;
         // For this number, number + 1 overflows whatever the event.
         if (number == std::numeric_limits<std::int16_t>::max()) overflows_.push_back(i);
@@ -83,22 +88,25 @@ TriggerIndex::TriggerIndex(const std::vector<ScriptLine>& lines) {
     };
     for (const auto& [number, known] : plain) ofCauses_[number].byCondition = indexed(known);
     for (const auto& [number, known] : mentioning) {
-        Mentioning& of = ofCauses_[number].mentioning;
-        of.byCondition = indexed(known);
-        std::set<std::string> names;
-        for (const Known& each : known) {
-            of.causes.push_back(each.trigger.causeLine);
-            of.longestLine = std::max(of.longestLine, each.longestLine);
-            names.insert(each.names.begin(), each.names.end());
-        }
-        of.names.assign(names.begin(), names.end());
+        ofCauses_[number].byMentioning = indexed(known);
+        ofCauses_[number].mentioning = Mentioning(known);
     }
+    mentioningCauses_ = Mentioning(causes);
 }
 
-void TriggerIndex::AddTimer(const ScriptLine& cause, std::size_t line) {
+TriggerIndex::Mentioning::Mentioning(const std::vector<Known>& known) {
+    std::set<std::string> all;
+    for (const Known& each : known) {
+        lines.push_back(each.trigger.causeLine);
+        longestLine = std::max(longestLine, each.longestLine);
+        all.insert(each.names.begin(), each.names.end());
+    }
+    names.assign(all.begin(), all.end());
+}
+
+void TriggerIndex::AddTimer(const ScriptLine& cause, std::size_t line, bool isConstant) {
     causes_.push_back(line);
-    Known known;
-    if (!TakesIn(known, cause) || !known.names.empty()) return openTimers_.push_back(line);
+    if (!isConstant) return openTimers_.push_back(line);
     const std::int16_t interval = TimerInterval(cause.text);
     if (interval == 0) return;
     timers_.push_back(line);
@@ -108,20 +116,21 @@ void TriggerIndex::AddTimer(const ScriptLine& cause, std::size_t line) {
 void TriggerIndex::Find(const Bot& bot, bool closely, Stops& stops) const {
     const bool isTick = bot.currentEvent == EventTimerTick;
     stops.Clear();
+    if (closely) stops.BeginEffort();
     stops.Add(stops_);
     // A variable with any other name may stand anywhere, and may turn a line into something else.
-    closely = closely && bot.variables.AllSimple();
+    if (!bot.variables.AllSimple()) return stops.Add(causes_);
     if (isTick) return closely ? FindTimers(bot, stops) : stops.Add(causes_);
     stops.Add(overflows_);
+    if (mentioningCauses_.MayFault(bot)) stops.Add(mentioningCauses_.lines);
     if (bot.currentEvent == std::numeric_limits<GameEvent>::min()) return;
     const auto found = ofCauses_.find(CauseOf(bot.currentEvent));
     if (found == ofCauses_.end()) return;
-    const auto& [all, open, byCondition, mentioning] = found->second;
+    const auto& [all, open, byCondition, mentioning, byMentioning] = found->second;
     if (!closely) return stops.Add(all);
     stops.Add(open);
     byCondition.Find(bot, stops);
-    if (mentioning.causes.empty()) return;
-    mentioning.MayFault(bot) ? stops.Add(mentioning.causes) : mentioning.byCondition.Find(bot, stops);
+    mentioning.MayFault(bot) ? stops.Add(mentioning.lines) : byMentioning.Find(bot, stops);
 }
 
 bool TriggerIndex::Mentioning::MayFault(const Bot& bot) const {

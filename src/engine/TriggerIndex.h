@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -31,14 +32,17 @@ class TriggerIndex {
     bool HasIndentedTerminator() const { return hasIndentedTerminator_; }
 
   private:
-    /// Triggers whose lines hold variables. A variable's value is as good as a constant, unless it brings about further
-    /// ones or makes a text too long; then their expansion may fault.
+    struct Known;
+
+    /// Lines that hold variables. A variable's value is as good as a constant, unless it brings about further ones or
+    /// makes a text too long; then expanding the lines may fault.
     struct Mentioning {
-        LineNumbers causes;
-        ConditionIndex byCondition;
+        LineNumbers lines;  ///< the causes'
         std::vector<std::string> names;
         std::size_t longestLine = 0;
 
+        Mentioning() = default;
+        explicit Mentioning(const std::vector<Known>& known);
         bool MayFault(const Bot& bot) const;
     };
     /// All triggers of one cause.
@@ -46,9 +50,11 @@ class TriggerIndex {
         LineNumbers all, open;  ///< of the open ones nothing is known beforehand
         ConditionIndex byCondition;
         Mentioning mentioning;
+        ConditionIndex byMentioning;
     };
     std::unordered_map<std::int16_t, OfCause> ofCauses_;
     LineNumbers stops_, overflows_;
+    Mentioning mentioningCauses_;
 
     // A tick does not look at the cause's number.
     LineNumbers causes_, openTimers_, timers_;
@@ -56,6 +62,8 @@ class TriggerIndex {
 
     bool hasIndentedTerminator_ = false;
 
-    void AddTimer(const ScriptLine& cause, std::size_t line);
+    static bool TakesIn(Known& known, const ScriptLine& line);
+    static std::optional<Known> WhatIsKnown(const std::vector<ScriptLine>& lines, std::size_t cause);
+    void AddTimer(const ScriptLine& cause, std::size_t line, bool isConstant);
     void FindTimers(const Bot& bot, Stops& stops) const;
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "text/Text.h"
+
 namespace {
 
 /// The characters as they are, and as loose comparisons see them.
@@ -88,8 +90,7 @@ bool LooseEquals(std::string_view a, std::string_view b) {
 }
 
 bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
-    const auto same = [](char a, char b) { return InCase(a, kUpperCase) == InCase(b, kUpperCase); };
-    return part.empty() || std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
+    return UpperCase(text).find(UpperCase(part)) != std::string::npos;
 }
 
 bool Like(std::string_view text, std::string_view pattern) { return Matches<AsTheyAre>(text, pattern); }

@@ -8,7 +8,7 @@ std::vector<std::string> WrittenLines(std::string_view bytes) {
     return lines;
 }
 
-std::vector<std::string_view> PacketLines::Take(std::string_view packet, bool goesOn) {
+std::vector<std::string_view> PacketLines::Take(std::string_view packet, bool goesOn, std::string& room) {
     if (skips_) {
         const std::size_t end = packet.find('\n');
         if (end == packet.npos) return {};
@@ -16,12 +16,16 @@ std::vector<std::string_view> PacketLines::Take(std::string_view packet, bool go
         packet.remove_prefix(end + 1);
     }
     if (!kept_.empty()) {
-        joined_ = TakeRest();
-        packet = joined_.append(packet);
+        room = TakeRest();
+        packet = room.append(packet);
     }
     std::vector<std::string_view> lines;
     for (std::size_t end = packet.find('\n'); end != packet.npos; end = packet.find('\n')) {
-        end > kLongestLine ? void(++dropped_) : lines.push_back(packet.substr(0, end));
+        if (end > kLongestLine) {
+            ++dropped_;
+        } else {
+            lines.push_back(packet.substr(0, end));
+        }
         packet.remove_prefix(end + 1);
     }
     skips_ = packet.size() > kLongestLine;

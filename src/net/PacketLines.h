@@ -20,9 +20,9 @@ class PacketLines {
     void KeepSplitLines(bool keep) { keep_ = keep; }
 
     /// The ended lines of a packet, without their line feeds: views of the packet or, when its first line began in
-    /// the one before, of a copy that is kept until the next call.
+    /// the one before, of the room.
     /// @param goesOn  more of this packet is already there and comes with the next call, so that its end is no end
-    std::vector<std::string_view> Take(std::string_view packet, bool goesOn = false);
+    std::vector<std::string_view> Take(std::string_view packet, bool goesOn, std::string& room);
 
     /// How many lines were dropped for their length since the last call.
     std::size_t TakeDropped() { return std::exchange(dropped_, 0); }
@@ -37,5 +37,5 @@ class PacketLines {
     bool keep_ = false;
     bool skips_ = false;  ///< up to the end of a line that is too long
     std::size_t dropped_ = 0;
-    std::string kept_, joined_;
+    std::string kept_;
 };

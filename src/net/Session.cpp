@@ -178,7 +178,8 @@ void Session::LogIn() {
 
 void Session::OnServerData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsServerConnected()) return;
-    const std::vector<std::string_view> lines = serverLines_.Take(packet, goesOn);
+    std::string room;
+    const std::vector<std::string_view> lines = serverLines_.Take(packet, goesOn, room);
     TellDropped("the server", serverLines_);
     ReadServerLines(lines);
     // The client sees a packet only after the bot has answered it, and in one piece; a flood, in large ones.
@@ -254,7 +255,8 @@ void Session::OnClientConnected() {
 
 void Session::OnClientData(std::string_view packet, bool goesOn) {
     if (!bot_.host.IsClientConnected()) return;
-    const std::vector<std::string_view> lines = clientLines_.Take(packet, goesOn);
+    std::string room;
+    const std::vector<std::string_view> lines = clientLines_.Take(packet, goesOn, room);
     TellDropped("the client", clientLines_);
     for (const std::string_view line : lines) {
         Note(Happening::ClientLine, line);

@@ -98,8 +98,9 @@ void Wire::OnReadable() {
     if (over_) return OnSent();
     // A reader that waits for its user has an event loop of its own.
     if (reads_) return stream_->ListenForMore(false);
-    listener_.mayRead() ? Read() : ReadAhead();
-    if (const std::optional<int> end = stream_->End()) End(AsError(*end));
+    if (listener_.mayRead()) return Read();
+    ReadAhead();
+    EndWithStream();
 }
 
 void Wire::Read() {
@@ -112,6 +113,12 @@ void Wire::Read() {
     // The rest of a flood waits until everything else has had its turn.
     stream_->ListenForMore(true);
     if (!ahead_.empty() && listener_.mayRead()) ReadLater();
+    EndWithStream();
+}
+
+/// Whoever has read last has met the end, be it that something arrived or that the reader went on.
+void Wire::EndWithStream() {
+    if (const std::optional<int> end = stream_->End()) End(AsError(*end));
 }
 
 /// @return whether there is more
@@ -182,6 +189,7 @@ SocketError Wire::Failure(int number, std::string_view what, int systemCode) con
 /// @return nothing for an end in order
 std::optional<SocketError> Wire::AsError(int end) const {
     if (end == 0) return std::nullopt;
+    if (end == ETIMEDOUT) return Failure(QAbstractSocket::SocketTimeoutError, SystemText(end));
     if (end != ECONNRESET) return Failure(QAbstractSocket::NetworkError, SystemText(end));
     return Failure(QAbstractSocket::RemoteHostClosedError, "the connection was broken off", ECONNRESET);
 }

@@ -84,6 +84,7 @@ class Wire final : public QObject {
     std::size_t ReadSlice(char* bytes);
     void ReadAhead();
     void ReadLater();
+    void EndWithStream();
     void EndLater(const SocketError& error);
     void End(const std::optional<SocketError>& error);
     void Drain(const std::optional<SocketError>& error);

@@ -55,7 +55,10 @@ void SocketStream::Send() {
 
 void SocketStream::OnWritable() {
     Push();
-    if (broken_) return listener_.onReadable();
+    if (broken_) {
+        writable_.setEnabled(false);  // told once: the reader may have to wait for its turn
+        return listener_.onReadable();
+    }
     waits_ = !unsent_.empty();
     if (!waits_) unsent_ = std::string();  // it may have been much
     writable_.setEnabled(waits_);

@@ -15,7 +15,7 @@ namespace {
 /// A client that sends this much without a line feed has its line cut, and one that doesn't read what it is sent is let
 /// go: none of them may fill the computer's memory.
 constexpr qsizetype kLongestUnfinished = 16'384;
-constexpr qsizetype kMostUnread = 16'777'216;
+constexpr qsizetype kMostUnread = 2'097'152;
 
 /// More than this does not wait to be sent until all else has had its turn.
 constexpr qsizetype kLongestPiece = 4'096;
@@ -51,7 +51,10 @@ DreamPorts MachinePorts() {
 }
 
 PracticeServer::PracticeServer(PracticeSettings settings, QObject* parent)
-    : QObject(parent), dream_(std::move(settings.ports)), tour_(std::move(settings.tour), dream_) {
+    : QObject(parent),
+      mostClients_(settings.mostClients),
+      dream_(std::move(settings.ports)),
+      tour_(std::move(settings.tour), dream_) {
     second_.setInterval(settings.secondMs);
     listener_.onConnection = [this](qintptr descriptor) { Guarded([&] { TakeConnection(descriptor); }); };
     connect(&second_, &QTimer::timeout, this, &PracticeServer::PassSecond);
@@ -87,7 +90,7 @@ void PracticeServer::PassSecond() {
 }
 
 void PracticeServer::TakeConnection(qintptr descriptor) {
-    const auto furre = dream_.Connect();
+    const auto furre = clients_.size() < mostClients_ ? dream_.Connect() : std::nullopt;
     if (!furre) return TurnAway(descriptor);
     clients_[*furre].socket =
         new GuestSocket(descriptor,
@@ -98,7 +101,7 @@ void PracticeServer::TakeConnection(qintptr descriptor) {
 
 void PracticeServer::TurnAway(qintptr descriptor) {
     auto* const socket = new GuestSocket(descriptor, {[](std::string_view) {}, [] {}}, this);
-    const std::string why = "The practice dream is full: it holds " + std::to_string(kMostFurres) + " furres.";
+    const std::string why = "The practice dream is full: it holds " + std::to_string(mostClients_) + " furres.";
     socket->Send(modDreamLines::Remark(why) + "\n");
     socket->deleteLater();
 }

@@ -22,6 +22,7 @@ DreamPorts MachinePorts();
 struct PracticeSettings {
     Tour tour;  ///< may have no steps
     DreamPorts ports = MachinePorts();
+    std::size_t mostClients = kMostFurres;  ///< no more, where the system lets a program have few connections
     int secondMs = 1000;  ///< how long a second of the tour takes, in milliseconds; 0: only PassSecond passes one
 };
 
@@ -86,6 +87,7 @@ class PracticeServer : public QObject {
     static void Write(Client& client);
     void Guarded(const std::function<void()>& work);
 
+    const std::size_t mostClients_;
     Dream dream_;
     TourPlayer tour_;
     Listener listener_;
