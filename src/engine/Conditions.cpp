@@ -40,11 +40,11 @@ std::optional<bool> Text(const Bot& bot, const Arguments& arguments) {
     return text ? std::optional(Test(*text, arguments[0])) : std::nullopt;
 }
 template <TextTest Test>
-constexpr Predicate Message = Text<field::Text<&BotState::message>, Test>;
+constexpr Predicate kMessage = Text<field::Text<&BotState::message>, Test>;
 template <TextTest Test>
-constexpr Predicate LookDesc = Text<field::LookDesc, Test>;
+constexpr Predicate kLookDesc = Text<field::LookDesc, Test>;
 template <std::string KnownThisSession::*Part>
-constexpr Predicate IsCalled = Text<field::Text<Part>, LooseEquals>;
+constexpr Predicate kIsCalled = Text<field::Text<Part>, LooseEquals>;
 
 template <SplitList Profile::*List>
 std::optional<bool> IsIn(const Bot& bot, const Arguments& arguments) {
@@ -113,7 +113,7 @@ std::optional<bool> Number(const Bot& bot, const Arguments& arguments) {
                   : std::nullopt;
 }
 template <typename Comparison>
-constexpr Predicate DiceTotal = Number<field::Roll<&Dice::total>, Comparison>;
+constexpr Predicate kDiceTotal = Number<field::Roll<&Dice::total>, Comparison>;
 
 template <typename Comparison>
 std::optional<bool> Numbers(const Bot&, const Arguments& arguments) {
@@ -162,18 +162,18 @@ constexpr bool kMayFault = true;
 constexpr Condition kConditions[] = {
     {0,   true,  Form::WholeText,         Text<field::FurreName, LooseEquals>},
     {1,   false, Form::WholeText,         Text<field::FurreName, LooseEquals>},
-    {2,   true,  Form::WholeText,         Message<LooseEquals>},
-    {3,   false, Form::WholeText,         Message<LooseEquals>},
-    {4,   true,  Form::WholeText,         Message<LooseLike>},
-    {5,   false, Form::WholeText,         Message<LooseLike>},
-    {6,   true,  Form::WholeText,         Message<ContainsIgnoringCase>},
-    {7,   false, Form::WholeText,         Message<ContainsIgnoringCase>},
-    {8,   true,  Form::WholeText,         LookDesc<LooseEquals>},
-    {9,   false, Form::WholeText,         LookDesc<LooseEquals>},
-    {10,  true,  Form::WholeText,         LookDesc<LooseLike>},
-    {11,  false, Form::WholeText,         LookDesc<LooseLike>},
-    {12,  true,  Form::WholeText,         LookDesc<ContainsIgnoringCase>},
-    {13,  false, Form::WholeText,         LookDesc<ContainsIgnoringCase>},
+    {2,   true,  Form::WholeText,         kMessage<LooseEquals>},
+    {3,   false, Form::WholeText,         kMessage<LooseEquals>},
+    {4,   true,  Form::WholeText,         kMessage<LooseLike>},
+    {5,   false, Form::WholeText,         kMessage<LooseLike>},
+    {6,   true,  Form::WholeText,         kMessage<ContainsIgnoringCase>},
+    {7,   false, Form::WholeText,         kMessage<ContainsIgnoringCase>},
+    {8,   true,  Form::WholeText,         kLookDesc<LooseEquals>},
+    {9,   false, Form::WholeText,         kLookDesc<LooseEquals>},
+    {10,  true,  Form::WholeText,         kLookDesc<LooseLike>},
+    {11,  false, Form::WholeText,         kLookDesc<LooseLike>},
+    {12,  true,  Form::WholeText,         kLookDesc<ContainsIgnoringCase>},
+    {13,  false, Form::WholeText,         kLookDesc<ContainsIgnoringCase>},
     {14,  true,  Form::NoArguments,       SpeciesIs<'#'>},
     {15,  false, Form::NoArguments,       SpeciesIs<'#'>},
     {16,  true,  Form::NoArguments,       MarkingsAre<'5'>},
@@ -231,10 +231,10 @@ constexpr Condition kConditions[] = {
     {67,  false, Form::NoArguments,       BadgeIsIn<"SG_CKgWOc[">},
     {68,  true,  Form::NoArguments,       BadgeIsIn<"TH`DLhXPd\\">},
     {69,  false, Form::NoArguments,       BadgeIsIn<"TH`DLhXPd\\">},
-    {70,  true,  Form::WholeText,         IsCalled<&BotState::map>},
-    {71,  false, Form::WholeText,         IsCalled<&BotState::map>},
-    {72,  true,  Form::WholeText,         IsCalled<&BotState::previousMap>},
-    {73,  false, Form::WholeText,         IsCalled<&BotState::previousMap>},
+    {70,  true,  Form::WholeText,         kIsCalled<&BotState::map>},
+    {71,  false, Form::WholeText,         kIsCalled<&BotState::map>},
+    {72,  true,  Form::WholeText,         kIsCalled<&BotState::previousMap>},
+    {73,  false, Form::WholeText,         kIsCalled<&BotState::previousMap>},
     {74,  true,  Form::WholeText,         Text<field::Text<&BotState::visitors>, InList>},
     {75,  false, Form::WholeText,         Text<field::Text<&BotState::visitors>, InList>},
     {76,  true,  Form::FirstKept,         Number<field::Time<&StandardTime::hour>>},
@@ -270,11 +270,11 @@ constexpr Condition kConditions[] = {
     {104, true,  Form::FirstAndLastKept,  Die<std::equal_to<>>, kMayFault},
     {105, true,  Form::FirstAndLastKept,  Die<std::greater_equal<>>, kMayFault},
     {106, true,  Form::FirstAndLastKept,  Die<std::greater<>>, kMayFault},
-    {107, true,  Form::FirstKept,         DiceTotal<std::less<>>},
-    {108, true,  Form::FirstKept,         DiceTotal<std::less_equal<>>},
-    {109, true,  Form::FirstKept,         DiceTotal<std::equal_to<>>},
-    {110, true,  Form::FirstKept,         DiceTotal<std::greater_equal<>>},
-    {111, true,  Form::FirstKept,         DiceTotal<std::greater<>>},
+    {107, true,  Form::FirstKept,         kDiceTotal<std::less<>>},
+    {108, true,  Form::FirstKept,         kDiceTotal<std::less_equal<>>},
+    {109, true,  Form::FirstKept,         kDiceTotal<std::equal_to<>>},
+    {110, true,  Form::FirstKept,         kDiceTotal<std::greater_equal<>>},
+    {111, true,  Form::FirstKept,         kDiceTotal<std::greater<>>},
     // Mind the last two: for dice "or equal" comes first, here it comes last.
     {112, true,  Form::FirstAndLastKept,  Numbers<std::less<>>},
     {113, true,  Form::FirstAndLastKept,  Numbers<std::less_equal<>>},
@@ -297,8 +297,8 @@ constexpr Condition kConditions[] = {
     {128, false, Form::WholeText,         IsIn<&Profile::owners>},
     {129, true,  Form::WholeText,         IsIn<&Profile::maps>},
     {130, false, Form::WholeText,         IsIn<&Profile::maps>},
-    {131, true,  Form::WholeTextFrom6,    IsCalled<&BotState::dreamName>},
-    {132, false, Form::WholeTextFrom6,    IsCalled<&BotState::dreamName>},
+    {131, true,  Form::WholeTextFrom6,    kIsCalled<&BotState::dreamName>},
+    {132, false, Form::WholeTextFrom6,    kIsCalled<&BotState::dreamName>},
     {133, true,  Form::FirstAndLastKept,  PlaceIs<&BotState::dream>},
     {134, false, Form::FirstAndLastKept,  PlaceIs<&BotState::dream>},
 };

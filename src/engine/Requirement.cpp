@@ -24,7 +24,7 @@ struct Compared {
     bool isPattern = false;
 };
 
-using field::Looks, field::NoticeSquare, field::Place, field::Roll, field::Text, field::Time;
+using field::NoticeSquare, field::Place, field::Roll, field::Text, field::Time;
 
 // Only conditions that hold for few values; a negation holds for nearly all.
 // clang-format off
@@ -88,8 +88,8 @@ std::string FoldedText(std::string_view text) {
 }  // namespace
 
 Requirement RequirementOf(std::string_view line, std::int16_t number) {
-    const Requirement tested = {.text = std::string(line), .number = number};
-    const Requirement never = {.kind = Kind::Never};
+    Requirement tested = {.text = std::string(line), .number = number};
+    Requirement never = {.kind = Kind::Never};
     const auto* const row = std::find_if(std::begin(kCompared), std::end(kCompared),
                                          [number](const Compared& compared) { return compared.number == number; });
     if (row == std::end(kCompared)) return tested;

@@ -83,6 +83,7 @@ TriggerIndex::TriggerIndex(const std::vector<ScriptLine>& lines) {
     }
     const auto indexed = [](const std::vector<Known>& known) {
         std::vector<ConditionIndex::Trigger> triggers;
+        triggers.reserve(known.size());
         for (const Known& each : known) triggers.push_back(each.trigger);
         return ConditionIndex(triggers);
     };

@@ -21,12 +21,11 @@ unsigned char Code(char c) { return static_cast<unsigned char>(c); }
 /// @param wellFormed  set to whether every range goes upward; the answer counts only then
 template <typename Read>
 bool ListHolds(std::string_view list, char c, bool& wellFormed) {
-    constexpr Read read;
     bool holds = false;
     wellFormed = true;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const bool range = i + 2 < list.size() && list[i + 1] == '-';
-        const unsigned char first = Code(read(list[i])), last = range ? Code(read(list[i + 2])) : first;
+        const unsigned char first = Code(Read{}(list[i])), last = range ? Code(Read{}(list[i + 2])) : first;
         if (last < first) wellFormed = false;
         holds = holds || (first <= Code(c) && Code(c) <= last);
         if (range) i += 2;
