@@ -153,7 +153,7 @@ void ConditionIndex::Find(const Bot& bot, Stops& stops) const {
     }
     std::string room;
     for (const auto& [line, number, causes] : tested_) {
-        if (ConditionHolds(bot, ExpandVariables(bot, line, room), number)) stops.Add(causes);
+        if (EvaluateCondition(bot, ExpandVariables(bot, line, room), number)) stops.Add(causes);
         stops.CountEffort(1);
     }
 }

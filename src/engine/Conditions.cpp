@@ -7,7 +7,6 @@
 
 #include "bot/Bot.h"
 #include "bot/Events.h"
-#include "bot/Variables.h"
 #include "engine/Arguments.h"
 #include "engine/CommandNumbers.h"
 #include "engine/DataFile.h"
@@ -310,16 +309,11 @@ const Condition* FindCondition(std::int16_t number) { return RowOf(kConditions, 
 
 }  // namespace
 
-bool ConditionHolds(const Bot& bot, std::string_view line, std::int16_t number) {
+bool EvaluateCondition(const Bot& bot, std::string_view line, std::int16_t number) {
     const Condition* const condition = FindCondition(number);
     if (!condition) return false;
     const std::optional<Arguments> arguments = FindArguments(line, condition->form);
     return arguments && condition->holds(bot, *arguments) == condition->wanted;  // no answer equals neither
-}
-
-bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number) {
-    line = ExpandVariables(bot, line);
-    return ConditionHolds(bot, line, number);
 }
 
 bool MayFault(std::int16_t number) {

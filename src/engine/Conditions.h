@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "engine/Arguments.h"
@@ -10,16 +9,13 @@ struct Bot;
 
 /// Does the additional condition (1:n) hold for the current event? A missing brace, an unknown number, or an event
 /// that has nothing to compare make it false, negations too.
-/// @param line    the condition's line; replaced by its expansion
+/// @param line    the condition's line, expanded
 /// @param number  n
 /// @throws RuntimeFault SubscriptOutOfRange, for a die that was not rolled; PathOrFileAccess, for a data file that
 ///         exists and can't be read
-bool EvaluateCondition(Bot& bot, std::string& line, std::int16_t number);
+bool EvaluateCondition(const Bot& bot, std::string_view line, std::int16_t number);
 
-/// The same for a line that has been expanded.
-bool ConditionHolds(const Bot& bot, std::string_view line, std::int16_t number);
-
-/// May the test of (1:n) raise a fault, besides what expanding its line does?
+/// May the test of (1:n) raise a fault?
 bool MayFault(std::int16_t number);
 
 /// How the arguments of (1:n) are found; Form::NoArguments, too, for a number that no condition has.

@@ -146,7 +146,7 @@ class ScriptWalk {
             if (condition.asCondition.kind == LineReading::Kind::NoCommand) continue;
             if (!condition.asCondition.IsCommand(kConditionLine)) break;
             const std::string_view line = ExpandVariables(bot_, condition.text, room_);
-            allHold = ConditionHolds(bot_, line, condition.asCondition.number) && allHold;
+            allHold = EvaluateCondition(bot_, line, condition.asCondition.number) && allHold;
             const bool readsTheSame = condition.keepsItsReading && bot_.variables.AllSimple();
             if (!readsTheSame && line != condition.text) changed_.insert_or_assign(j, ScriptLine(line));
         }

@@ -13,7 +13,7 @@ TEST(ConditionsOfTheLanguage, BadgeTextsNameTheBadgesTheyTake) {
         const std::string words = ReplaceAll(command.text, ",", " ");
         for (char badge = '!'; badge <= '~'; ++badge) {
             greeter.bot.state.playerTag = std::string(1, badge);
-            std::string line = ExampleLine(command);
+            const std::string line = ExampleLine(command);
             const bool isNamed = words.find(" " + greeter.bot.state.playerTag + " ") != words.npos;
             EXPECT_EQ(EvaluateCondition(greeter.bot, line, number), isNamed == (number % 2 == 0)) << line << badge;
         }
@@ -38,7 +38,7 @@ bool CanHold(const Command& command, GameEvent event) {
         for (const bool asInExamples : {true, false}) {
             Tell(greeter.bot.state, std::string(1, code), asInExamples);
             if (code == ' ' && !asInExamples) greeter.bot.state.playerTag = greeter.bot.state.look.badge = "";
-            std::string line = ExampleLine(command);
+            const std::string line = ExampleLine(command);
             if (EvaluateCondition(greeter.bot, line, command.number)) return true;
         }
     }
