@@ -22,8 +22,8 @@ DreamPorts MachinePorts();
 struct PracticeSettings {
     Tour tour;  ///< may have no steps
     DreamPorts ports = MachinePorts();
-    std::size_t mostClients = kMostFurres;  ///< no more, where the system lets a program have few connections
     int secondMs = 1000;  ///< how long a second of the tour takes, in milliseconds; 0: only PassSecond passes one
+    std::size_t mostClients = kMostFurres;  ///< no more, where the system lets a program have few connections
 };
 
 /// The practice dream on a socket of this computer, reachable from nowhere else. Everything happens on the thread
