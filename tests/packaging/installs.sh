@@ -90,7 +90,7 @@ check_units() {
     command -v systemd-analyze >/dev/null || return 0
     local unit
     for unit in vorel vorel-many; do
-        sed "s|\([= ]\)vorel \(run\|practice\)|\1$root/bin/vorel \2|" "$root/lib/systemd/user/$unit@.service" >"$place/$unit@bots.service"
+        sed "s|\([= ]\)vorel run|\1$root/bin/vorel run|" "$root/lib/systemd/user/$unit@.service" >"$place/$unit@bots.service"
         XDG_RUNTIME_DIR=$place silent systemd-analyze --user --man=no verify "$place/$unit@bots.service"
     done
 }
