@@ -15,7 +15,7 @@ namespace {
 /// A client that sends this much without a line feed has its line cut, and one that doesn't read what it is sent is let
 /// go: none of them may fill the computer's memory.
 constexpr qsizetype kLongestUnfinished = 16'384;
-constexpr qsizetype kMostUnread = 16'777'216;
+constexpr qsizetype kMostUnread = 12'582'912;
 
 /// More than this does not wait to be sent until all else has had its turn.
 constexpr qsizetype kLongestPiece = 4'096;
